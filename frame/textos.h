@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// The longest leading number of the text, after leading blanks: sign, digits with a point as decimal mark, exponent.
+/// 0 for a text that starts with no number; a comma ends the number. Error 6 when the number is beyond a Double.
+/// Never consults the system's locale.
+Double Val(std::string_view texto);
+
+/// The number with up to 15 significant digits, a point as decimal mark and no grouping ("0.5", "-3", "1E+20").
+std::string CStr(Double valor);
+/// CStr with one leading blank for a non-negative value, as row labels show it (" 1", "-2").
+std::string Str(Double valor);
+
+/// The value written by a digit pattern: `0` is a digit always shown, `#` a digit shown only if needed, `.` the decimal
+/// point, and a `+` stands as it is. Rounds the value's 15 significant decimal digits, a half away from zero, and
+/// shows no minus sign on a value that shows as zero. "0.##00" always shows four decimals, since the last two are
+/// required; the decimal point of the pattern is always written ("0.##" of 3 is "3.").
+std::string Format(Double valor, std::string_view patron);
+/// A Single is written by its shortest decimal digits that read back as the same Single.
+std::string Format(Single valor, std::string_view patron);
+inline std::string Format(std::integral auto valor, std::string_view patron) { return Format(Double(valor), patron); }
+inline std::string Format(double valor, std::string_view patron) { return Format(Double(valor), patron); }
+/// A text comes back unchanged.
+std::string Format(std::string_view texto, std::string_view patron);
+
+/// Number of characters (code points), not of bytes, of a UTF-8 text.
+int Len(std::string_view texto);
+/// The text without its leading and trailing blanks.
+std::string Trim(std::string_view texto);
+/// The character with this code point, as UTF-8. Error 5 for a code that no character has.
+std::string Chr(int codigo);
+/// Code point of the first character. Error 5 for the empty text.
+int Asc(std::string_view texto);
+/// The characters (code points) inicio, inicio + 1, … of the text, numbered from 0; at most `cuantos`.
+std::string Subtexto(std::string_view texto, int inicio, int cuantos);
+/// `cuantos` blanks; none when it is not positive.
+std::string Space(int cuantos);
+
+}  // namespace cuencalia
