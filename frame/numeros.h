@@ -23,8 +23,7 @@ class Real {
     constexpr Real(std::integral auto valor) : v_(static_cast<F>(valor)) {}
     /// A narrower real widens by itself; the way back is CSng.
     template <std::floating_point G>
-        requires(sizeof(G) < sizeof(F))
-    constexpr Real(Real<G> otro) : v_(static_cast<F>(otro.valor())) {}
+    requires(sizeof(G) < sizeof(F)) constexpr Real(Real<G> otro) : v_(static_cast<F>(otro.valor())) {}
 
     constexpr F valor() const { return v_; }
     constexpr explicit operator F() const { return v_; }
@@ -66,7 +65,8 @@ using Double = Real<double>;  ///< 64-bit real: what every calculation uses.
 /// A signed whole number of I's width whose arithmetic raises error 6 instead of wrapping around. The quotient of two
 /// whole numbers is a Double.
 template <std::signed_integral I>
-class Entero {
+requires(sizeof(I) < sizeof(std::int64_t))  // the products are formed in 64 bits
+    class Entero {
   public:
     constexpr Entero() = default;
     constexpr Entero(std::integral auto valor) : v_(EnRango(static_cast<std::int64_t>(valor)).v_) {}
@@ -137,7 +137,7 @@ Double Elevar(Double a, Double b);
 /// The next number of the uniform generator, 0 <= Rnd < 1. The sequence is the same at every start of the program
 /// until Randomize is called.
 Double Rnd();
-/// Seeds the generator; equal seeds give equal sequences.
+/// Seeds the generator; equal seeds give equal sequences, and any two different seeds different ones.
 void Randomize(Double semilla);
 /// Seconds since midnight, local time, with fractions.
 Double Timer();
@@ -146,8 +146,7 @@ Double Timer();
 template <typename T>
 class ArregloBase {
   public:
-    ArregloBase(int minimo, int maximo)
-        : minimo_(minimo), datos_(static_cast<std::size_t>(maximo - minimo + 1)) {}
+    ArregloBase(int minimo, int maximo) : minimo_(minimo), datos_(static_cast<std::size_t>(maximo - minimo + 1)) {}
 
     T& operator()(int i) { return datos_[Posicion(i)]; }
     const T& operator()(int i) const { return datos_[Posicion(i)]; }

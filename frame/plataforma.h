@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+#include "frame/errores.h"
+
+namespace cuencalia {
+
+class Formulario;
+class Menu;
+
+/// Icon of a message box.
+enum Icono : int { kSinIcono = 0, kIconoError = 16, kIconoPregunta = 32, kIconoAdvertencia = 48, kIconoInformacion = 64 };
+
+/// What the program asks of the system that it runs on. The desktop answers with windows and dialogs, tests and scripts
+/// with a platform of their own.
+class Plataforma {
+  public:
+    virtual ~Plataforma() = default;
+
+    /// Shows a message and returns when it was read. An empty title means the program's own.
+    virtual void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) = 0;
+    /// Shows the number and text of a run-time error that no handler caught.
+    virtual void MostrarError(const ErrorEjecucion& error) = 0;
+
+    /// A form was loaded and is to be shown, or is shown already: its window comes to the front.
+    virtual void MostrarForma(Formulario& forma) = 0;
+    /// The form is about to go: its window closes.
+    virtual void DescargarForma(Formulario& forma) = 0;
+    /// Opens a menu at the pointer; the entry that the user picks fires its Click before this returns.
+    virtual void MenuEmergente(Menu& menu) = 0;
+    /// Sends the form's image to the default printer, with no dialog. Raises an error with a clear text where there is
+    /// no printer.
+    virtual void ImprimirForma(Formulario& forma) = 0;
+    /// Ends the program's message loop.
+    virtual void Terminar() = 0;
+    /// Runs after each event and all that came of it: the moment to paint.
+    virtual void DespuesDeDespachar() {}
+
+    /// Asks the shell to open a file with the program that the user has for it. A missing file is no error; a shell
+    /// that cannot be called is (ErrorEjecucion).
+    virtual void AbrirConShell(const std::string& ruta) = 0;
+
+    /// Folder of the installed program: help and correction tables stand below it.
+    virtual std::string CarpetaInstalacion() const = 0;
+};
+
+}  // namespace cuencalia

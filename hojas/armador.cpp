@@ -1,0 +1,68 @@
+#include "hojas/armador.h"
+
+#include <glib.h>
+
+#include <array>
+#include <cmath>
+
+#include "hojas/errores_libro.h"
+
+namespace cuencalia {
+
+namespace {
+
+// One long text may be referred to by every cell, which makes a small file a large sheet.
+constexpr std::size_t kMaxBytesDeTexto = std::size_t{64} << 20;
+
+}  // namespace
+
+void ArmadorHoja::Poner(int fila, int columna, ValorCelda valor) {
+    if (const auto* numero = std::get_if<Double>(&valor); numero != nullptr && !std::isfinite(numero->valor())) {
+        FallarDanado();
+    }
+    if (const auto* texto = std::get_if<std::string>(&valor)) {
+        bytesDeTexto_ += texto->size();
+        if (bytesDeTexto_ > kMaxBytesDeTexto) {
+            FallarDemasiadoGrande();
+        }
+    }
+    hoja_.Poner(fila, columna, std::move(valor));
+}
+
+void ArmadorHoja::PonerCompartido(int fila, int columna, std::uint32_t indice) {
+    pendientes_[indice].emplace_back(fila, columna);
+}
+
+void ArmadorHoja::DarTexto(std::uint32_t indice, const std::string& texto) {
+    const auto celdas = pendientes_.extract(indice);
+    if (celdas.empty()) {
+        return;
+    }
+    for (const auto& [fila, columna] : celdas.mapped()) {
+        Poner(fila, columna, texto);
+    }
+}
+
+Hoja ArmadorHoja::Terminar() const {
+    if (FaltanTextos()) {
+        FallarDanado();
+    }
+    const int filas = hoja_.Filas();
+    Hoja datos;
+    for (const auto& [posicion, valor] : hoja_.Celdas()) {
+        if (posicion.first <= filas) {
+            datos.Poner(posicion.first, posicion.second, valor);
+        }
+    }
+    return datos;
+}
+
+void AgregarCaracter(std::string& texto, char32_t codigo) {
+    constexpr char32_t kReemplazo = 0xFFFD;
+    std::array<char, 6> bytes;
+    const char32_t valido = g_unichar_validate(codigo) ? codigo : kReemplazo;
+    const int cuantos = g_unichar_to_utf8(valido, bytes.data());
+    texto.append(bytes.data(), static_cast<std::size_t>(cuantos));
+}
+
+}  // namespace cuencalia

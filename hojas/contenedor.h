@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace cuencalia {
+
+/// A file made of named parts, held in memory: a ZIP archive or an OLE2 document. The bytes must outlive it.
+class Contenedor {
+  public:
+    /// Takes a piece of a part; false ends the reading.
+    using Receptor = std::function<bool(std::span<const std::byte>)>;
+
+    /// Error 1004 when the bytes are no sound container of the kind.
+    static Contenedor Zip(std::span<const std::byte> bytes);
+    static Contenedor Ole(std::span<const std::byte> bytes);
+
+    /// Part names have '/' between folders, none in front, and do not tell capitals from small letters.
+    bool Tiene(const std::string& parte) const;
+
+    /// Hands over the unpacked bytes of a part, piece by piece. Error 1004 when the part is missing or damaged, or goes
+    /// on beyond `limite` bytes: what the file declares as its size is not trusted.
+    void Recorrer(const std::string& parte, std::size_t limite, const Receptor& recibir) const;
+
+  private:
+    struct Soltar {
+        void operator()(void* objeto) const;
+    };
+    using Objeto = std::unique_ptr<void, Soltar>;
+
+    explicit Contenedor(Objeto raiz) : raiz_(std::move(raiz)) {}
+    Objeto Abrir(const std::string& parte) const;
+
+    Objeto raiz_;
+};
+
+}  // namespace cuencalia

@@ -1,0 +1,130 @@
+#include "modules/estadistica/frmParamEsta.h"
+
+#include "frame/textos.h"
+#include "modules/estadistica/momentos.h"
+#include "modules/estadistica/orden.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr std::array<const char*, 6> kParametros{
+    "Media:                      ", "Varianza:                   ", "Desviación Estándar:        ",
+    "Coeficiente Variación:      ", "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "};
+
+std::array<std::string, 6> Textos(const ParametrosEstadisticos& p) {
+    return {Format(p.media, "0.##00"), Format(p.varianza, "0.0###"), Format(p.desviacion, "0.##00"),
+            Format(p.Cv, "0.##00"),    Format(p.Cs, "0.##00"),       Format(p.Ck, "0.##00")};
+}
+
+/// The L-moment ratios in the rows of the conventional parameters: L2 is the dispersion itself, not a standard
+/// deviation made from it, and the variance row holds its square.
+std::array<std::string, 6> Textos(const MomentosLineales& l) {
+    return {Format(l.L1, "0.0000"),        Format(l.L2 * l.L2, "0.0###"), Format(l.L2, "0.0000"),
+            Format(l.L2 / l.L1, "0.0000"), Format(l.L3 / l.L2, "0.0000"), Format(l.L4 / l.L2, "0.0000")};
+}
+
+}  // namespace
+
+frmParamEsta::frmParamEsta(Aplicacion& app)
+    : ModuloCalculo(app, "frmParamEsta",
+                    {.titulo = "Cálculo de parámetros estadísticos, comunes y con momentos lineales",
+                     .encabezados = {"N°", "X"}}) {
+    LeerEn({&x});
+    AgregarBoton(bCalcular, "calcular");
+    AgregarBoton(orden.bOrdenar, "ordenar");
+    AgregarBoton(bLimpiar, "limpiar");
+    AgregarBoton(bImprimir, "imprimir");
+    AgregarBoton(bMenu, "menu");
+    AgregarBoton(bCrear, "crear");
+    AgregarBoton(bAccesar, "accesar");
+    AgregarBoton(bReporte, "reporte");
+    AgregarBoton(bCalculadora, "calculadora");
+    AgregarBoton(bCargarExcel, "excel");
+    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+    for (TextBox* caja : {&txtL1, &txtL2, &txtL3, &txtL4}) {
+        caja->Locked = true;
+    }
+    lblL1.Nombra(txtL1);
+    lblL2.Nombra(txtL2);
+    lblL3.Nombra(txtL3);
+    lblL4.Nombra(txtL4);
+}
+
+void frmParamEsta::InicializarParam() {
+    grdParam.Clear();
+    grdParam.PonerRows(7);
+    grdParam.PonerCols(4);
+    grdParam.PonerFixedRows(1);
+    grdParam.PonerFixedCols(1);
+    for (int c = 0; c < grdParam.Cols(); ++c) {
+        grdParam.PonerColWidth(c, c == 0 ? 2050 : 1750);
+        grdParam.PonerColAlignment(c, kAlinearCentro);
+    }
+    grdParam.PonerRowHeight(0, 340);
+    grdParam.PonerEncabezados({"Parámetros", "Muestrales", "Poblacionales", "Momentos Lineales"});
+    grdParam.BorderStyle = 0;
+}
+
+void frmParamEsta::LimpiarOtros() {
+    for (TextBox* caja : {&txtL1, &txtL2, &txtL3, &txtL4}) {
+        caja->Text = "";
+    }
+    orden.OcultarGrid();
+}
+
+void frmParamEsta::OrdenarCopia() {
+    xo = x;
+    OrdenarSerie(xo, n);
+}
+
+void frmParamEsta::MostrarColumna(int columna, const Columna6& textos) {
+    for (std::size_t i = 0; i < textos.size(); ++i) {
+        grdParam.PonerTextMatrix(static_cast<int>(i) + 1, columna, textos[i]);
+    }
+}
+
+void frmParamEsta::bCalcular_Click() {
+    CargarMatrices();
+    if (n <= 1) {
+        App().MsgBox("Para el cálculo de los parámetros se requieren por lo menos dos datos", kIconoError, "Error");
+        return;
+    }
+    // Everything is computed before anything is shown: a series that stops the calculation leaves the window as it was.
+    const Columna6 pm = Textos(ParametrosMuestrales(x, n));
+    const Columna6 pp = Textos(ParametrosPoblacionales(x, n));
+    OrdenarCopia();
+    const MomentosLineales l = CalcularMomentosLineales(xo, n);
+    const Columna6 pl = Textos(l);
+
+    txtL1.Text = Format(l.L1, "0.0000");
+    txtL2.Text = Format(l.L2, "0.0000");
+    txtL3.Text = Format(l.L3, "0.0000");
+    txtL4.Text = Format(l.L4, "0.0000");
+    grdParam.PonerColAlignment(0, kAlinearIzquierda);
+    for (std::size_t i = 0; i < kParametros.size(); ++i) {
+        grdParam.PonerTextMatrix(static_cast<int>(i) + 1, 0, kParametros[i]);
+    }
+    MostrarColumna(1, pm);
+    MostrarColumna(2, pp);
+    MostrarColumna(3, pl);
+}
+
+void frmParamEsta::bOrdenar_Click() {
+    orden.MostrarGrid();
+    CargarMatrices();
+    OrdenarCopia();
+    orden.Llenar(xo, n);
+}
+
+std::vector<Disposicion> frmParamEsta::BotonesAccion() {
+    return {bCalcular, orden.bOrdenar, bLimpiar, bImprimir, bMenu};
+}
+
+Disposicion frmParamEsta::Contenido() {
+    return Columna({grdParam, Fila({Grupo(Frame8, {Pares(2, {lblL1, txtL1, lblL2, txtL2, lblL3, txtL3, lblL4, txtL4})}),
+                                    orden.Zona(), Espacio()})
+                                  .Estira(1)});
+}
+
+}  // namespace cuencalia

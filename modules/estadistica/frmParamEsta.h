@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "frame/modulo.h"
+#include "modules/estadistica/listaordenada.h"
+
+namespace cuencalia {
+
+/// Statistical parameters of a series: sample, population and linear moments side by side, and the series in order.
+class frmParamEsta : public ModuloCalculo {
+  public:
+    explicit frmParamEsta(Aplicacion& app);
+
+    FlexGrid grdParam{*this, "grdParam", "Parámetros estadísticos"};
+    Frame Frame8{*this, "Frame8", "Coeficientes Lineales:"};
+    Label lblL1{*this, "lblL1", "L1:"}, lblL2{*this, "lblL2", "L2:"};
+    Label lblL3{*this, "lblL3", "L3:"}, lblL4{*this, "lblL4", "L4:"};
+    TextBox txtL1{*this, "txtL1"}, txtL2{*this, "txtL2"}, txtL3{*this, "txtL3"}, txtL4{*this, "txtL4"};
+    ListaOrdenada orden{*this};
+
+    Serie x;
+    Serie xo;  ///< x in ascending order.
+
+    void InicializarResultados() override { InicializarParam(); }
+    void InicializarParam();
+    void bCalcular_Click() override;
+    void bOrdenar_Click();
+
+  protected:
+    void LimpiarOtros() override;
+    Disposicion Contenido() override;
+    std::vector<Disposicion> BotonesAccion() override;
+
+  private:
+    using Columna6 = std::array<std::string, 6>;
+
+    void OrdenarCopia();
+    void MostrarColumna(int columna, const Columna6& textos);
+};
+
+}  // namespace cuencalia

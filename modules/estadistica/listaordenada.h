@@ -1,0 +1,30 @@
+#pragma once
+
+#include "frame/controles.h"
+#include "frame/disposicion.h"
+#include "frame/flexgrid.h"
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// The list of a series in ascending order that a module shows on demand, with its label; hidden until then.
+class ListaOrdenada {
+  public:
+    explicit ListaOrdenada(Formulario& forma);
+
+    CommandButton bOrdenar;
+    Label lblOrdenado;
+    FlexGrid grdorden;
+
+    void MostrarGrid() { PonerVisible(true); }
+    void OcultarGrid() { PonerVisible(false); }
+    /// Fills the list with the first n values of the sorted series.
+    void Llenar(const ArregloBase<Double>& ordenada, int n);
+
+    Disposicion Zona();
+
+  private:
+    void PonerVisible(bool visible);
+};
+
+}  // namespace cuencalia

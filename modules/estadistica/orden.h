@@ -1,0 +1,12 @@
+#pragma once
+
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// Puts the values x(1) to x(n) in ascending order by selection; the rest of the array stays. Fewer than two values
+/// are in order already. Error 9 when the array has no x(1) to x(n).
+/// About n²/2 comparisons: half a millisecond for the 1500 values of a Serie.
+void OrdenarSerie(ArregloBase<Double>& x, int n);
+
+}  // namespace cuencalia

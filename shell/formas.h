@@ -1,0 +1,10 @@
+#pragma once
+
+#include "frame/aplicacion.h"
+
+namespace cuencalia {
+
+/// Every form of the program: a new module adds its line here.
+TablaFormas FormasDelPrograma();
+
+}  // namespace cuencalia

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "frame/aplicacion.h"
+
+namespace cuencalia {
+
+/// The main menu: the program's first window. It holds no data and does no calculation.
+class frmCuencalia : public Formulario {
+  public:
+    explicit frmCuencalia(Aplicacion& app);
+
+    PictureBox imgFondo{*this, "imgFondo", "fondo", true};
+    Label lblNombre{*this, "lblNombre", "Cuencalia", Papel::Titulo};
+    Label lblLema{*this, "lblLema", "Cálculos hidrológicos y estadísticos", Papel::Lema};
+    CommandButton bsalir{*this, "bsalir", "&Salir", "Salir del programa"};
+
+    void Form_Load() override;
+    /// Ends the program at once, with no question, whatever the state of the open modules.
+    void bsalir_Click() { App().Terminar(); }
+    void mayuayu_Click();
+
+  protected:
+    Disposicion Disponer() override;
+
+  private:
+    void CrearMenus();
+
+    std::vector<std::unique_ptr<Menu>> menus_;
+};
+
+}  // namespace cuencalia

@@ -1,0 +1,43 @@
+#include "tests/guion/plataformaguion.h"
+
+#include "frame/formulario.h"
+
+namespace cuencalia::pruebas {
+
+void PlataformaGuion::MsgBox(const std::string& texto, Icono icono, const std::string& titulo) {
+    mensajes.push_back({texto, icono, titulo});
+}
+
+void PlataformaGuion::MostrarError(const ErrorEjecucion& error) { errores.push_back(error); }
+
+void PlataformaGuion::MostrarForma(Formulario& forma) { alFrente = &forma; }
+
+void PlataformaGuion::DescargarForma(Formulario& forma) {
+    if (alFrente == &forma) {
+        alFrente = nullptr;
+    }
+}
+
+void PlataformaGuion::MenuEmergente(Menu& menu) {
+    entradaElegida = false;
+    if (!entradaEmergente) {
+        return;
+    }
+    for (Menu* entrada : menu.Entradas()) {
+        if (entrada->Nombre() == *entradaEmergente) {
+            entradaElegida = entrada->Elegir();
+        }
+    }
+    entradaEmergente.reset();
+}
+
+void PlataformaGuion::ImprimirForma(Formulario& forma) { impresas.push_back(forma.Nombre()); }
+
+void PlataformaGuion::AbrirConShell(const std::string& ruta) {
+    if (shellFalla) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    abiertos.push_back(ruta);
+}
+
+}  // namespace cuencalia::pruebas

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/plataforma.h"
+
+namespace cuencalia::pruebas {
+
+struct Mensaje {
+    std::string texto;
+    Icono icono;
+    std::string titulo;
+};
+
+/// A platform with no screen: a script or a test answers what a user would, and reads what the program showed.
+class PlataformaGuion : public Plataforma {
+  public:
+    void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
+    void MostrarError(const ErrorEjecucion& error) override;
+    void MostrarForma(Formulario& forma) override;
+    void DescargarForma(Formulario& forma) override;
+    void MenuEmergente(Menu& menu) override;
+    void ImprimirForma(Formulario& forma) override;
+    void Terminar() override { terminado = true; }
+    void AbrirConShell(const std::string& ruta) override;
+    std::string CarpetaInstalacion() const override { return "/cuencalia"; }
+
+    std::vector<Mensaje> mensajes;
+    std::vector<ErrorEjecucion> errores;
+    std::vector<std::string> impresas;  ///< Forms sent to the printer, by name.
+    std::vector<std::string> abiertos;  ///< Files handed to the shell.
+    /// The form that was shown last, or null.
+    Formulario* alFrente = nullptr;
+    /// Entry to pick in the next pop-up menu; none closes the menu.
+    std::optional<std::string> entradaEmergente;
+    /// Whether the entry asked for was there and not greyed.
+    bool entradaElegida = false;
+    /// When set, the shell cannot be called.
+    bool shellFalla = false;
+    bool terminado = false;
+};
+
+}  // namespace cuencalia::pruebas
