@@ -359,7 +359,7 @@ class Lector {
     void Simbolo(char simbolo);
     void Hexadecimal();
     void Byte(unsigned char byte);
-    void Literal(std::string_view ascii);
+    void Literal(std::string_view texto);
     bool EsSustituto();
     void CerrarFuente();
     void SoltarSustitutoAlto();

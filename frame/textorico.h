@@ -80,7 +80,8 @@ TextoRico DeTextoPlano(std::string_view texto, const FormatoCaracter& caracter =
                        const FormatoParrafo& parrafo = {});
 
 /// What a rich-text box offers the program: a document with a selection. Positions and lengths count characters (code
-/// points), a line break being one. Inserting at one place again and again costs the text inserted, not the document.
+/// points), a line break being one. Inserting at one place again and again costs the text inserted, not the document;
+/// only a line break moves the lines after it.
 class EditorTextoRico {
   public:
     /// An empty document whose text is written in the format `base`.

@@ -58,6 +58,8 @@ TEST(Format, RedondeaLos15DigitosConLaMitadHaciaAfuera) {
     EXPECT_EQ(Format(2.5, "0"), "3");
     EXPECT_EQ(Format(0.5, "0"), "1");
     EXPECT_EQ(Format(0.4999999999999, "0"), "0");
+    EXPECT_EQ(Format(-0.4, "0"), "0");
+    EXPECT_EQ(Format(-0.04, "0.0"), "0.0");
     EXPECT_EQ(Format(0.09995, "0.0##0"), "0.1000");
     EXPECT_EQ(Format(0.00005, "0.0##0"), "0.0001");
     EXPECT_EQ(Format(0.000049, "0.0##0"), "0.0000");

@@ -12,8 +12,7 @@ def de_openpyxl():
     libro.iso_dates = True
     hoja = libro.active
     hoja.append([1.5, "compartido", datetime.datetime(2024, 2, 29, 12, 0), True])
-    hoja.append([2.5, "en línea", datetime.datetime(1900, 2, 28), "#N/A"])
-    hoja["B2"].data_type = "inlineStr"
+    hoja.append([2.5, "en línea €", datetime.datetime(1900, 2, 28), "#N/A"])
     hoja.append([3.5, None, -0.001, "x < y & z"])
     hoja["A5"] = 5.5
     libro.create_chartsheet("Grafico", 0)

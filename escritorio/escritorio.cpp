@@ -1,0 +1,176 @@
+#include "escritorio/escritorio.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QUrl>
+#include <algorithm>
+
+#include "escritorio/ventana.h"
+#include "escritorio/vista.h"
+#include "escritorio/vistagrid.h"
+
+namespace cuencalia {
+
+Escritorio::Escritorio(TablaFormas formas) : app_(std::make_unique<Aplicacion>(*this, std::move(formas))) {}
+
+Escritorio::~Escritorio() { app_.reset(); }
+
+Ventana* Escritorio::VentanaDe(const Formulario& forma) const {
+    const auto hallada = ventanas_.find(&forma);
+    return hallada == ventanas_.end() ? nullptr : hallada->second;
+}
+
+void Escritorio::Ensuciar(Vista* vista) {
+    if (std::find(sucias_.begin(), sucias_.end(), vista) == sucias_.end()) {
+        sucias_.push_back(vista);
+    }
+}
+
+void Escritorio::Olvidar(Vista* vista) { std::erase(sucias_, vista); }
+
+void Escritorio::Pintar() {
+    if (pintando_) {
+        return;
+    }
+    pintando_ = true;
+    while (!sucias_.empty()) {
+        Vista* vista = sucias_.front();
+        sucias_.erase(sucias_.begin());
+        vista->Actualizar();
+    }
+    DarFoco();
+    pintando_ = false;
+}
+
+/// The widget of the control that has the focus has it too. Hiding a widget makes the toolkit choose another one, so
+/// this comes last.
+void Escritorio::DarFoco() {
+    const Control* foco = app_->Foco();
+    if (foco == nullptr || foco->Vista() == nullptr) {
+        return;
+    }
+    QWidget* widget = static_cast<Vista*>(foco->Vista())->Widget();
+    if (!widget->hasFocus() && widget->window()->focusWidget() != widget) {
+        widget->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string& titulo) {
+    Pintar();
+    QMessageBox caja(QApplication::activeWindow());
+    caja.setIcon(icono == kIconoError         ? QMessageBox::Critical
+                 : icono == kIconoPregunta    ? QMessageBox::Question
+                 : icono == kIconoAdvertencia ? QMessageBox::Warning
+                 : icono == kIconoInformacion ? QMessageBox::Information
+                                              : QMessageBox::NoIcon);
+    caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : Q(titulo));
+    caja.setTextFormat(Qt::PlainText);
+    caja.setText(Q(texto));
+    caja.exec();
+}
+
+void Escritorio::MostrarError(const ErrorEjecucion& error) {
+    MsgBox("Se produjo el error " + std::to_string(error.Numero()) +
+               ":\n\n" + error.Texto() +
+               "\n\nLa operación se detuvo en ese punto. Los datos escritos se conservan.",
+           kIconoError, "Error en tiempo de ejecución");
+}
+
+void Escritorio::MostrarForma(Formulario& forma) {
+    Ventana*& ventana = ventanas_[&forma];
+    if (ventana == nullptr) {
+        ventana = new Ventana(*this, forma);
+    }
+    if (ventana->isMinimized()) {
+        ventana->showNormal();
+    } else {
+        ventana->show();
+    }
+    ventana->raise();
+    ventana->activateWindow();
+}
+
+void Escritorio::DescargarForma(Formulario& forma) {
+    const auto hallada = ventanas_.find(&forma);
+    if (hallada == ventanas_.end()) {
+        return;
+    }
+    Ventana* ventana = hallada->second;
+    ventanas_.erase(hallada);
+    ventana->Soltar();
+    ventana->close();
+    ventana->deleteLater();
+}
+
+void Escritorio::MenuEmergente(Menu& menu) {
+    Pintar();
+    QMenu emergente;
+    LlenarMenu(*this, emergente, menu);
+    QPoint donde = QCursor::pos();
+    const Control* foco = app_->Foco();
+    const auto* grid = dynamic_cast<const FlexGrid*>(foco);
+    if (grid != nullptr && grid->Vista() != nullptr) {
+        // Called from the keyboard the pointer may be anywhere: the menu opens at the current cell.
+        const auto* vista = static_cast<VistaGrid*>(grid->Vista());
+        const QWidget* tabla = vista->Tabla()->viewport();
+        const QRect enPantalla(tabla->mapToGlobal(QPoint(0, 0)), tabla->size());
+        if (!enPantalla.contains(donde)) {
+            donde = tabla->mapToGlobal(vista->CeldaActual().center());
+        }
+    }
+    emergente.exec(donde);
+}
+
+void Escritorio::ImprimirForma(Formulario& forma) {
+    Ventana* ventana = VentanaDe(forma);
+    if (ventana == nullptr) {
+        return;
+    }
+    if (QPrinterInfo::defaultPrinter().isNull()) {
+        MsgBox("No hay ninguna impresora predeterminada. Instale una impresora y vuelva a imprimir; nada se ha perdido.",
+               kIconoInformacion, "Imprimir");
+        return;
+    }
+    QPrinter impresora(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    impresora.setPageOrientation(QPageLayout::Landscape);
+    impresora.setDocName(ventana->windowTitle());
+    QPainter pintor;
+    if (!pintor.begin(&impresora)) {
+        MsgBox("La impresora no responde. Revísela y vuelva a imprimir; nada se ha perdido.", kIconoError, "Imprimir");
+        return;
+    }
+    const QPixmap imagen = ventana->grab();
+    const QRectF hoja = impresora.pageRect(QPrinter::DevicePixel);
+    const QSizeF tamano = QSizeF(imagen.size()).scaled(hoja.size(), Qt::KeepAspectRatio);
+    pintor.drawPixmap(QRectF(QPointF(0, 0), tamano), imagen, QRectF(imagen.rect()));
+}
+
+void Escritorio::Terminar() { QCoreApplication::quit(); }
+
+void Escritorio::AbrirConShell(const std::string& ruta) {
+    const QString archivo = Q(ruta);
+    if (QFileInfo::exists(archivo)) {
+        QDesktopServices::openUrl(QUrl::fromLocalFile(archivo));
+    }
+}
+
+std::string Escritorio::CarpetaInstalacion() const {
+    const QDir programa(QCoreApplication::applicationDirPath());
+    // An installed program keeps its files in share/; one that runs from its build folder finds them in the source tree.
+    for (const char* lugar : {"../share/cuencalia", "../../..", ".."}) {
+        if (programa.exists(QLatin1String(lugar) + QStringLiteral("/ayuda"))) {
+            return Std(QDir::cleanPath(programa.filePath(QLatin1String(lugar))));
+        }
+    }
+    return Std(programa.absolutePath());
+}
+
+}  // namespace cuencalia

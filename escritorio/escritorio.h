@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "frame/aplicacion.h"
+#include "frame/plataforma.h"
+
+namespace cuencalia {
+
+class Ventana;
+class Vista;
+
+/// The program on a desktop: windows, dialogs, printer and shell.
+class Escritorio : public Plataforma {
+  public:
+    explicit Escritorio(TablaFormas formas);
+    ~Escritorio() override;
+
+    Aplicacion& App() { return *app_; }
+    /// The window of a loaded form, or null.
+    Ventana* VentanaDe(const Formulario& forma) const;
+
+    /// A view to bring up to date when the event that changed its control has ended.
+    void Ensuciar(Vista* vista);
+    void Olvidar(Vista* vista);
+    /// Whether the views are being brought up to date: what the widgets tell meanwhile is no act of the user.
+    bool Pintando() const { return pintando_; }
+    void Pintar();
+
+    void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
+    void MostrarError(const ErrorEjecucion& error) override;
+    void MostrarForma(Formulario& forma) override;
+    void DescargarForma(Formulario& forma) override;
+    void MenuEmergente(Menu& menu) override;
+    void ImprimirForma(Formulario& forma) override;
+    void Terminar() override;
+    void DespuesDeDespachar() override { Pintar(); }
+    void AbrirConShell(const std::string& ruta) override;
+    std::string CarpetaInstalacion() const override;
+
+  private:
+    void DarFoco();
+
+    std::unique_ptr<Aplicacion> app_;
+    std::map<const Formulario*, Ventana*> ventanas_;
+    std::vector<Vista*> sucias_;
+    bool pintando_ = false;
+};
+
+}  // namespace cuencalia

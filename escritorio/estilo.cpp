@@ -1,0 +1,187 @@
+#include "escritorio/estilo.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QSharedPointer>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+
+namespace cuencalia::estilo {
+
+namespace {
+
+struct Colores {
+    QRgb ventana, base, alterna, texto, tenue, linea, encabezado, entrada, acento, sobreAcento, boton, botonLuz;
+};
+
+constexpr Colores kClaro{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff5b6876, 0xffc9d1da, 0xffe6ebf1,
+                         0xfffff8e6, 0xff2f6db5, 0xffffffff, 0xfffbfcfd, 0xffe3edf8};
+constexpr Colores kOscuro{0xff20252b, 0xff191d22, 0xff1e2328, 0xffe4e9ee, 0xffa3afbb, 0xff3d4650, 0xff2b323a,
+                          0xff33301f, 0xff3b7cc9, 0xffffffff, 0xff2b323a, 0xff35424f};
+
+Colores colores = kClaro;
+
+QPalette Paleta() {
+    QPalette p;
+    const QColor tenue(colores.tenue);
+    p.setColor(QPalette::Window, colores.ventana);
+    p.setColor(QPalette::WindowText, colores.texto);
+    p.setColor(QPalette::Base, colores.base);
+    p.setColor(QPalette::AlternateBase, colores.alterna);
+    p.setColor(QPalette::Text, colores.texto);
+    p.setColor(QPalette::Button, colores.boton);
+    p.setColor(QPalette::ButtonText, colores.texto);
+    p.setColor(QPalette::Highlight, colores.acento);
+    p.setColor(QPalette::HighlightedText, colores.sobreAcento);
+    p.setColor(QPalette::ToolTipBase, colores.base);
+    p.setColor(QPalette::ToolTipText, colores.texto);
+    p.setColor(QPalette::PlaceholderText, tenue);
+    p.setColor(QPalette::Link, colores.acento);
+    for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        QColor apagado = tenue;
+        apagado.setAlphaF(0.6f);
+        p.setColor(QPalette::Disabled, rol, apagado);
+    }
+    return p;
+}
+
+QString Nombre(QRgb color) { return QColor(color).name(); }
+
+QString Hoja() {
+    QString hoja = QStringLiteral(R"(
+QToolButton, QPushButton {
+    background: @boton; color: @texto; border: 1px solid @linea; border-radius: 5px; padding: 5px 8px;
+}
+QToolButton:hover, QPushButton:hover { background: @luz; border-color: @acento; }
+QToolButton:pressed, QPushButton:pressed { background: @encabezado; }
+QToolButton:focus, QPushButton:focus { border: 2px solid @acento; padding: 4px 7px; }
+QToolButton:disabled, QPushButton:disabled { color: @tenue; background: transparent; }
+QGroupBox { border: 1px solid @linea; border-radius: 6px; margin-top: 9px; padding: 6px 4px 2px 4px; }
+QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: @tenue; }
+QGroupBox[sinTitulo="true"] { margin-top: 9px; }
+QLineEdit, QComboBox {
+    background: @base; color: @texto; border: 1px solid @linea; border-radius: 4px; padding: 3px 6px;
+    selection-background-color: @acento; selection-color: @sobre;
+}
+QLineEdit:focus, QComboBox:focus { border: 2px solid @acento; padding: 2px 5px; }
+QLineEdit[readOnly="true"] { background: @ventana; }
+QLineEdit[flotante="true"] { border: 2px solid @acento; border-radius: 0; padding: 0 2px; }
+QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea;
+    selection-background-color: @luz; selection-color: @texto; }
+QTableView:focus { border: 1px solid @acento; }
+QTableView[sinBorde="true"] { border: none; border-top: 1px solid @linea; border-left: 1px solid @linea; }
+QHeaderView { background: @encabezado; }
+QHeaderView::section { background: @encabezado; color: @texto; border: none; border-right: 1px solid @linea;
+    border-bottom: 1px solid @linea; padding: 1px 6px; }
+QTableCornerButton::section { background: @encabezado; border: none; border-right: 1px solid @linea;
+    border-bottom: 1px solid @linea; }
+QLabel[papel="encabezado"] { font-weight: 600; }
+QLabel[papel="nota"] { color: @tenue; }
+QLabel[papel="titulo"] { color: white; font-size: 30pt; font-weight: 600; }
+QLabel[papel="lema"] { color: white; font-size: 13pt; }
+QLabel[papel="estado"] { color: @tenue; padding: 3px 12px; border-top: 1px solid @linea; }
+QMenuBar { background: @base; border-bottom: 1px solid @linea; padding: 2px; }
+QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
+QMenuBar::item:selected { background: @luz; }
+QMenu { background: @base; border: 1px solid @linea; padding: 4px; }
+QMenu::item { padding: 5px 26px 5px 14px; border-radius: 4px; }
+QMenu::item:selected { background: @luz; color: @texto; }
+QMenu::item:disabled { color: @tenue; background: transparent; }
+QMenu::separator { height: 1px; background: @linea; margin: 4px 8px; }
+QToolTip { background: @base; color: @texto; border: 1px solid @linea; padding: 3px; }
+)");
+    const std::pair<const char*, QRgb> nombres[] = {
+        {"@ventana", colores.ventana}, {"@base", colores.base},   {"@encabezado", colores.encabezado},
+        {"@texto", colores.texto},     {"@tenue", colores.tenue}, {"@linea", colores.linea},
+        {"@acento", colores.acento},   {"@sobre", colores.sobreAcento}, {"@boton", colores.boton},
+        {"@luz", colores.botonLuz}};
+    for (const auto& [nombre, color] : nombres) {
+        hoja.replace(QLatin1String(nombre), Nombre(color));
+    }
+    return hoja;
+}
+
+/// Draws an SVG at whatever size and scale the screen asks for, and keeps what it drew.
+class MotorSvg : public QIconEngine {
+  public:
+    explicit MotorSvg(const QString& archivo) : svg_(new QSvgRenderer(archivo)) {}
+
+    void paint(QPainter* pintor, const QRect& donde, QIcon::Mode modo, QIcon::State) override {
+        if (modo == QIcon::Disabled) {
+            pintor->setOpacity(0.35);
+        }
+        svg_->render(pintor, donde);
+        pintor->setOpacity(1);
+    }
+    QPixmap pixmap(const QSize& tamano, QIcon::Mode modo, QIcon::State estado) override {
+        const quint64 clave = (quint64(tamano.width()) << 32) | (quint64(tamano.height()) << 4) | quint64(modo);
+        QPixmap& dibujo = dibujos_[clave];
+        if (dibujo.isNull()) {
+            dibujo = QPixmap(tamano);
+            dibujo.fill(Qt::transparent);
+            QPainter pintor(&dibujo);
+            paint(&pintor, QRect(QPoint(), tamano), modo, estado);
+        }
+        return dibujo;
+    }
+    QIconEngine* clone() const override { return new MotorSvg(*this); }
+
+  private:
+    QSharedPointer<QSvgRenderer> svg_;
+    QHash<quint64, QPixmap> dibujos_;
+};
+
+QString Archivo(const QString& nombre) { return QStringLiteral(":/imagenes/%1.svg").arg(nombre); }
+
+}  // namespace
+
+void Aplicar(QApplication& app) {
+    const QPalette sistema = QGuiApplication::palette();
+    const bool oscuro = sistema.color(QPalette::Window).lightness() < sistema.color(QPalette::WindowText).lightness();
+    Aplicar(app, oscuro ? Esquema::Oscuro : Esquema::Claro);
+}
+
+void Aplicar(QApplication& app, Esquema esquema) {
+    colores = esquema == Esquema::Oscuro ? kOscuro : kClaro;
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(Paleta());
+    app.setStyleSheet(Hoja());
+}
+
+QColor FondoEncabezado() { return colores.encabezado; }
+QColor FondoEntrada() { return colores.entrada; }
+QColor Linea() { return colores.linea; }
+QColor TextoTenue() { return colores.tenue; }
+
+int Pixeles(int twips) { return twips / 15; }
+
+QIcon Icono(const QString& nombre) {
+    static QHash<QString, QIcon> iconos;
+    const auto hallado = iconos.constFind(nombre);
+    if (hallado != iconos.constEnd()) {
+        return *hallado;
+    }
+    const QIcon icono = nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
+    iconos.insert(nombre, icono);
+    return icono;
+}
+
+void PintarFondo(QPainter& pintor, const QRectF& donde, const QString& nombre) {
+    QSvgRenderer svg(Archivo(nombre));
+    if (!svg.isValid()) {
+        return;
+    }
+    const QSizeF natural = svg.defaultSize();
+    const qreal escala = qMax(donde.width() / natural.width(), donde.height() / natural.height());
+    QRectF marco(QPointF(), natural * escala);
+    marco.moveCenter(donde.center());
+    svg.render(&pintor, marco);
+}
+
+}  // namespace cuencalia::estilo

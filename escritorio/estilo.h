@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+
+class QApplication;
+class QPainter;
+class QRectF;
+
+/// The looks of every window in one place: spacing, fonts and colours.
+namespace cuencalia::estilo {
+
+inline constexpr int kMargen = 12;        ///< Around the contents of a window, pixels at 100 %.
+inline constexpr int kSeparacion = 8;     ///< Between controls.
+inline constexpr int kSeparacionMin = 4;  ///< Between a heading and what it heads.
+inline constexpr int kIcono = 26;         ///< Side of a button's picture.
+inline constexpr int kAnchoBoton = 76;    ///< Least width of a button with its picture on top.
+
+enum class Esquema { Claro, Oscuro };
+
+/// Sets style, palette and style sheet. The scheme follows the desktop's own colours.
+void Aplicar(QApplication& app);
+void Aplicar(QApplication& app, Esquema esquema);
+
+QColor FondoEncabezado();  ///< Of fixed cells and headings.
+QColor FondoEntrada();     ///< Of the entry row of a data grid.
+QColor Linea();            ///< Grid lines and borders.
+QColor TextoTenue();       ///< Notes.
+
+/// Pixels of a length in twips (1/1440 inch) at 96 pixels an inch; the screen's own scale comes on top.
+int Pixeles(int twips);
+
+/// A picture of the program by its name, sharp at any size; an empty icon when there is none.
+QIcon Icono(const QString& nombre);
+/// Paints a picture over the whole rectangle, cut at two edges rather than stretched.
+void PintarFondo(QPainter& pintor, const QRectF& donde, const QString& nombre);
+
+}  // namespace cuencalia::estilo

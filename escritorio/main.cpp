@@ -1,0 +1,26 @@
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
+#include "shell/formas.h"
+
+int main(int argc, char** argv) {
+    QApplication programa(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("cuencalia"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Cuencalia"));
+    QApplication::setOrganizationName(QStringLiteral("cuencalia"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("cuencalia"));
+    QLocale::setDefault(QLocale(QLocale::Spanish));
+    QTranslator espanol;
+    if (espanol.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QApplication::installTranslator(&espanol);
+    }
+    cuencalia::estilo::Aplicar(programa);
+    QApplication::setWindowIcon(cuencalia::estilo::Icono(QStringLiteral("cuencalia")));
+
+    cuencalia::Escritorio escritorio(cuencalia::FormasDelPrograma());
+    escritorio.App().Despachar([&] { escritorio.App().ModuloAbrir("frmCuencalia"); });
+    return QApplication::exec();
+}

@@ -1,0 +1,242 @@
+#include "escritorio/ventana.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScreen>
+#include <QShortcut>
+#include <QTabWidget>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
+#include "escritorio/vistas.h"
+
+namespace cuencalia {
+
+namespace {
+
+/// What a window shows inside its frame: over a picture, if the form has one for its background.
+class Lienzo : public QWidget {
+  public:
+    explicit Lienzo(QWidget* padre) : QWidget(padre) { setMouseTracking(true); }
+
+    QString fondo;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        if (!fondo.isEmpty()) {
+            QPainter pintor(this);
+            pintor.setRenderHint(QPainter::Antialiasing);
+            estilo::PintarFondo(pintor, rect(), fondo);
+        }
+    }
+};
+
+/// The form itself: its title, and the pointer over its bare places.
+class VistaFormulario : public Vista {
+  public:
+    VistaFormulario(Escritorio& escritorio, Formulario& forma, Lienzo* lienzo, QMainWindow* ventana)
+        : Vista(escritorio, forma, lienzo), forma_(forma), ventana_(ventana) {}
+
+  protected:
+    void Mostrar() override { ventana_->setWindowTitle(Q(forma_.Caption)); }
+
+  private:
+    Formulario& forma_;
+    QMainWindow* ventana_;
+};
+
+/// A menu entry shows whether it is greyed.
+class VistaMenu : public QObject, public VistaControl {
+  public:
+    VistaMenu(Menu& menu, QAction* accion) : QObject(accion), menu_(menu), accion_(accion) {
+        menu_.PonerVista(this);
+        VistaMenu::ModeloCambio();
+    }
+    ~VistaMenu() override { menu_.PonerVista(nullptr); }
+
+    void ModeloCambio() override {
+        accion_->setText(Q(menu_.Caption));
+        accion_->setEnabled(menu_.Enabled);
+        accion_->setVisible(menu_.Visible);
+    }
+
+  private:
+    Menu& menu_;
+    QAction* accion_;
+};
+
+}  // namespace
+
+void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo) {
+    for (Menu* entrada : modelo.Entradas()) {
+        if (entrada->EsSeparador()) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* accion = nullptr;
+        if (entrada->Entradas().empty()) {
+            accion = menu.addAction(QString());
+            QObject::connect(accion, &QAction::triggered, accion, [&escritorio, entrada] {
+                escritorio.App().Despachar([entrada] { entrada->Elegir(); });
+            });
+        } else {
+            QMenu* submenu = menu.addMenu(QString());
+            LlenarMenu(escritorio, *submenu, *entrada);
+            accion = submenu->menuAction();
+        }
+        new VistaMenu(*entrada, accion);
+    }
+}
+
+Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escritorio), forma_(&forma) {
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setObjectName(Q("ventana_" + forma.Nombre()));
+    auto* lienzo = new Lienzo(this);
+    auto* caja = new QVBoxLayout(lienzo);
+    caja->setContentsMargins(estilo::kMargen, estilo::kMargen, estilo::kMargen, 0);
+    caja->setSpacing(estilo::kSeparacion);
+    vistas_.push_back(new VistaFormulario(escritorio, forma, lienzo, this));
+    for (Control* control : EnOrden(forma.Distribucion())) {
+        const auto* imagen = dynamic_cast<PictureBox*>(control);
+        if (imagen != nullptr && imagen->EsFondo()) {
+            lienzo->fondo = Q(imagen->Picture);
+        }
+    }
+    if (!lienzo->fondo.isEmpty()) {
+        caja->setContentsMargins(36, 30, 28, 28);
+    }
+    PonerHijos(forma.Distribucion(), *caja, lienzo);
+    setCentralWidget(lienzo);
+    HacerMenus();
+
+    auto* ayuda = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(ayuda, &QShortcut::activated, this,
+            [this] { escritorio_.App().Despachar([this] { escritorio_.App().AbrirAyuda(); }); });
+
+    for (Vista* vista : vistas_) {
+        vista->Actualizar();
+    }
+    const QSize pantalla = screen()->availableSize();
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo({600, 320}) : QSize(960, 580);
+    resize(propio.boundedTo(pantalla));
+}
+
+void Ventana::Soltar() {
+    for (Vista* vista : vistas_) {
+        vista->Soltar();
+    }
+    vistas_.clear();
+    menuBar()->clear();
+    forma_ = nullptr;
+}
+
+void Ventana::closeEvent(QCloseEvent* evento) {
+    evento->accept();
+    if (forma_ != nullptr) {
+        escritorio_.App().CerrarVentana(*forma_);
+    }
+}
+
+void Ventana::HacerMenus() {
+    for (Menu* menu : forma_->Barra()) {
+        QMenu* enBarra = menuBar()->addMenu(Q(menu->Caption));
+        LlenarMenu(escritorio_, *enBarra, *menu);
+    }
+}
+
+Vista* Ventana::Hacer(Control& control, QWidget* padre) {
+    Vista* vista = HacerVista(escritorio_, control, padre);
+    if (vista != nullptr) {
+        vistas_.push_back(vista);
+    }
+    return vista;
+}
+
+void Ventana::PonerHijos(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
+    for (const Disposicion& hijo : d.hijos) {
+        Poner(hijo, caja, padre);
+    }
+}
+
+void Ventana::Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
+    switch (d.clase) {
+        case Disposicion::Clase::Control: {
+            const auto* imagen = dynamic_cast<PictureBox*>(d.control);
+            if (imagen != nullptr && imagen->EsFondo()) {
+                return;
+            }
+            const auto* texto = dynamic_cast<TextBox*>(d.control);
+            Vista* vista = Hacer(*d.control, padre);
+            if (vista != nullptr && (texto == nullptr || texto->Sobre() == nullptr)) {
+                caja.addWidget(vista->Widget(), d.estira);
+            }
+            return;
+        }
+        case Disposicion::Clase::Fila:
+        case Disposicion::Clase::Columna: {
+            const bool fila = d.clase == Disposicion::Clase::Fila;
+            auto* dentro = new QBoxLayout(fila ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+            dentro->setSpacing(fila ? estilo::kSeparacion : estilo::kSeparacionMin + 2);
+            caja.addLayout(dentro, d.estira);
+            PonerHijos(d, *dentro, padre);
+            return;
+        }
+        case Disposicion::Clase::Grupo:
+            PonerGrupo(d, caja, padre);
+            return;
+        case Disposicion::Clase::Fichas:
+            PonerFichas(d, caja, padre);
+            return;
+        case Disposicion::Clase::Pares:
+            PonerPares(d, caja, padre);
+            return;
+        case Disposicion::Clase::Espacio:
+            caja.addStretch(d.estira);
+            return;
+    }
+}
+
+void Ventana::PonerGrupo(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
+    Vista* vista = Hacer(*d.control, padre);
+    auto* dentro = new QVBoxLayout(vista->Widget());
+    dentro->setSpacing(estilo::kSeparacion);
+    dentro->setContentsMargins(8, 6, 8, 8);
+    PonerHijos(d, *dentro, vista->Widget());
+    caja.addWidget(vista->Widget(), d.estira);
+}
+
+void Ventana::PonerFichas(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
+    Vista* vista = Hacer(*d.control, padre);
+    auto* fichas = static_cast<QTabWidget*>(vista->Widget());
+    const auto& titulos = static_cast<SSTab*>(d.control)->Titulos();
+    for (std::size_t i = 0; i < d.hijos.size() && i < titulos.size(); ++i) {
+        auto* pagina = new QWidget(fichas);
+        auto* dentro = new QVBoxLayout(pagina);
+        Poner(d.hijos[i], *dentro, pagina);
+        fichas->addTab(pagina, Q(titulos[i]));
+    }
+    caja.addWidget(fichas, d.estira);
+}
+
+void Ventana::PonerPares(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
+    auto* tabla = new QGridLayout;
+    tabla->setHorizontalSpacing(estilo::kSeparacion);
+    tabla->setVerticalSpacing(estilo::kSeparacion);
+    int celda = 0;
+    for (const Disposicion& hijo : d.hijos) {
+        if (hijo.control != nullptr) {
+            if (Vista* vista = Hacer(*hijo.control, padre)) {
+                tabla->addWidget(vista->Widget(), celda / d.columnas, celda % d.columnas);
+            }
+        }
+        ++celda;
+    }
+    caja.addLayout(tabla, d.estira);
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QMainWindow>
+#include <vector>
+
+#include "frame/formulario.h"
+
+class QBoxLayout;
+class QMenu;
+
+namespace cuencalia {
+
+class Escritorio;
+class Vista;
+
+/// The window of a form: its menus, and its controls laid out as the form says.
+class Ventana : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    Ventana(Escritorio& escritorio, Formulario& forma);
+
+    Formulario& Forma() const { return *forma_; }
+    /// The form is about to go: from now on the window shows nothing and tells nothing.
+    void Soltar();
+
+  protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+  private:
+    void HacerMenus();
+    /// Puts the controls of the tree into the layout.
+    void Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
+    void PonerHijos(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
+    void PonerGrupo(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
+    void PonerFichas(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
+    void PonerPares(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
+    Vista* Hacer(Control& control, QWidget* padre);
+
+    Escritorio& escritorio_;
+    Formulario* forma_;
+    std::vector<Vista*> vistas_;
+};
+
+/// Fills a menu of the screen with the entries of a form's menu.
+void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo);
+
+}  // namespace cuencalia

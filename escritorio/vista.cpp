@@ -1,0 +1,140 @@
+#include "escritorio/vista.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include "escritorio/escritorio.h"
+
+namespace cuencalia {
+
+Vista::Vista(Escritorio& escritorio, Control& control, QWidget* widget)
+    : QObject(widget), escritorio_(escritorio), control_(&control), widget_(widget) {
+    control.PonerVista(this);
+    widget->setObjectName(Q(control.Nombre()));
+    widget->setMouseTracking(true);
+    widget->installEventFilter(this);
+}
+
+Vista::~Vista() { Soltar(); }
+
+void Vista::Soltar() {
+    if (control_ != nullptr) {
+        control_->PonerVista(nullptr);
+        control_ = nullptr;
+    }
+    escritorio_.Olvidar(this);
+}
+
+void Vista::ModeloCambio() { escritorio_.Ensuciar(this); }
+
+void Vista::Actualizar() {
+    if (control_ == nullptr) {
+        return;
+    }
+    if (!widget_->isWindow()) {
+        widget_->setVisible(control_->Visible);
+    }
+    widget_->setEnabled(control_->Enabled);
+    const QString ayuda = Q(control_->ToolTipText);
+    if (widget_->toolTip() != ayuda) {
+        widget_->setToolTip(ayuda);
+    }
+    if (!control_->NombreAccesible().empty()) {
+        widget_->setAccessibleName(Q(control_->NombreAccesible));
+    }
+    Mostrar();
+}
+
+bool Vista::Tecla(QKeyEvent&) { return false; }
+
+void Vista::MoverRaton() {
+    if (control_->MouseMove.Atendido()) {
+        escritorio_.App().Despachar([this] { control_->MouseMove(); });
+    }
+}
+
+bool Vista::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != widget_ || control_ == nullptr) {
+        return QObject::eventFilter(objeto, evento);
+    }
+    switch (evento->type()) {
+        case QEvent::FocusIn:
+            if (!escritorio_.Pintando() && !control_->TieneFoco() && control_->PuedeRecibirFoco()) {
+                escritorio_.App().Despachar([this] { control_->SetFocus(); });
+            }
+            return false;
+        case QEvent::KeyPress:
+            return Tecla(static_cast<QKeyEvent&>(*evento));
+        case QEvent::Enter:
+            MoverRaton();
+            return false;
+        case QEvent::MouseMove:
+            // Eaten, or it would go on to the frame around, which darkens its buttons.
+            if (static_cast<QMouseEvent*>(evento)->buttons() == Qt::NoButton) {
+                MoverRaton();
+                return true;
+            }
+            return false;
+        default:
+            return false;
+    }
+}
+
+int CodigoDeTecla(const QKeyEvent& evento) {
+    switch (evento.key()) {
+        case Qt::Key_Backspace:
+            return kTeclaRetroceso;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return kTeclaEnter;
+        case Qt::Key_Escape:
+            return kTeclaEscape;
+        case Qt::Key_PageUp:
+            return kTeclaRePag;
+        case Qt::Key_PageDown:
+            return kTeclaAvPag;
+        case Qt::Key_End:
+            return kTeclaFin;
+        case Qt::Key_Home:
+            return kTeclaInicio;
+        case Qt::Key_Left:
+            return kTeclaIzquierda;
+        case Qt::Key_Up:
+            return kTeclaArriba;
+        case Qt::Key_Right:
+            return kTeclaDerecha;
+        case Qt::Key_Down:
+            return kTeclaAbajo;
+        case Qt::Key_Delete:
+            return kTeclaSuprimir;
+        case Qt::Key_F2:
+            return kTeclaF2;
+        default:
+            break;
+    }
+    const bool letraODigito = (evento.key() >= Qt::Key_A && evento.key() <= Qt::Key_Z) ||
+                              (evento.key() >= Qt::Key_0 && evento.key() <= Qt::Key_9) ||
+                              evento.key() == Qt::Key_Space;
+    return letraODigito ? evento.key() : 0;
+}
+
+int CaracterDe(const QKeyEvent& evento) {
+    switch (evento.key()) {
+        case Qt::Key_Backspace:
+            return kTeclaRetroceso;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return kTeclaEnter;
+        case Qt::Key_Escape:
+            return kTeclaEscape;
+        default:
+            break;
+    }
+    const QList<uint> codigos = evento.text().toUcs4();
+    const bool imprimible = codigos.size() == 1 && codigos[0] >= kTeclaEspacio && codigos[0] != 127;
+    return imprimible ? static_cast<int>(codigos[0]) : 0;
+}
+
+}  // namespace cuencalia

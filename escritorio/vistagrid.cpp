@@ -1,0 +1,364 @@
+#include "escritorio/vistagrid.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <numeric>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr int kFilasNaturales = 14;
+constexpr int kFilasMinimas = 4;
+constexpr int kAireColumna = 18;
+
+Qt::Alignment AlineacionDe(int codigo) {
+    if (codigo == kAlinearCentro) {
+        return Qt::AlignCenter;
+    }
+    return (codigo == kAlinearDerecha ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
+}  // namespace
+
+ModeloGrid::ModeloGrid(const FlexGrid& grid, QObject* padre) : QAbstractTableModel(padre), grid_(grid) {}
+
+bool ModeloGrid::PonerAlDia() {
+    const int filas = grid_.Rows() - grid_.FixedRows();
+    const int columnas = grid_.Cols() - grid_.FixedCols();
+    if (columnas != columnas_ || grid_.FixedRows() != filasFijas_ || grid_.FixedCols() != columnasFijas_) {
+        beginResetModel();
+        filas_ = filas;
+        columnas_ = columnas;
+        filasFijas_ = grid_.FixedRows();
+        columnasFijas_ = grid_.FixedCols();
+        endResetModel();
+        return true;
+    }
+    if (filas > filas_) {
+        beginInsertRows({}, filas_, filas - 1);
+        filas_ = filas;
+        endInsertRows();
+    } else if (filas < filas_) {
+        beginRemoveRows({}, filas, filas_ - 1);
+        filas_ = filas;
+        endRemoveRows();
+    }
+    return false;
+}
+
+QVariant ModeloGrid::data(const QModelIndex& indice, int rol) const {
+    const int fila = indice.row() + filasFijas_;
+    const int columna = indice.column() + columnasFijas_;
+    if (fila >= grid_.Rows() || columna >= grid_.Cols()) {
+        return {};
+    }
+    switch (rol) {
+        case Qt::DisplayRole:
+            return Q(grid_.TextMatrix(fila, columna));
+        case Qt::TextAlignmentRole:
+            return QVariant(AlineacionDe(grid_.ColAlignment(columna)));
+        default:
+            return {};
+    }
+}
+
+QVariant ModeloGrid::headerData(int seccion, Qt::Orientation orientacion, int rol) const {
+    if (orientacion == Qt::Horizontal) {
+        const int columna = seccion + columnasFijas_;
+        if (rol != Qt::DisplayRole || columna >= grid_.Cols()) {
+            return {};
+        }
+        QStringList renglones;
+        for (int f = 0; f < filasFijas_; ++f) {
+            renglones << Q(grid_.TextMatrix(f, columna));
+        }
+        return renglones.join(QLatin1Char('\n'));
+    }
+    const int fila = seccion + filasFijas_;
+    if (columnasFijas_ == 0 || fila >= grid_.Rows()) {
+        return {};
+    }
+    if (rol == Qt::DisplayRole) {
+        return Q(grid_.TextMatrix(fila, 0)).trimmed();
+    }
+    if (rol == Qt::TextAlignmentRole) {
+        return QVariant(AlineacionDe(grid_.ColAlignment(0)));
+    }
+    return {};
+}
+
+QSize TablaGrid::minimumSizeHint() const {
+    const int fila = verticalHeader()->defaultSectionSize();
+    const int filas = model() == nullptr ? kFilasMinimas : std::min(kFilasMinimas, model()->rowCount());
+    return {std::min(anchoNatural, 180), horizontalHeader()->height() + filas * fila + 2 * frameWidth()};
+}
+
+void TablaGrid::resizeEvent(QResizeEvent* evento) {
+    QTableView::resizeEvent(evento);
+    if (alCambiarTamano) {
+        alCambiarTamano();
+    }
+}
+
+void TablaGrid::mousePressEvent(QMouseEvent* evento) {
+    if (!alPresionar || !alPresionar(*evento)) {
+        QTableView::mousePressEvent(evento);
+    }
+}
+
+void TablaGrid::mouseMoveEvent(QMouseEvent* evento) {
+    if (alArrastrar && (evento->buttons() & Qt::LeftButton)) {
+        alArrastrar(*evento);
+    }
+}
+
+void TablaGrid::contextMenuEvent(QContextMenuEvent* evento) {
+    if (alPedirMenu && evento->reason() == QContextMenuEvent::Keyboard) {
+        alPedirMenu();
+    }
+    evento->accept();
+}
+
+VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
+    : Vista(escritorio, grid, new TablaGrid(padre)),
+      grid_(grid),
+      tabla_(static_cast<TablaGrid*>(Widget())),
+      modelo_(new ModeloGrid(grid, this)),
+      esquina_(nullptr) {
+    tabla_->setModel(modelo_);
+    tabla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tabla_->setTabKeyNavigation(false);
+    tabla_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+    tabla_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    tabla_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    tabla_->setCornerButtonEnabled(false);
+    tabla_->setWordWrap(false);
+    tabla_->viewport()->setMouseTracking(true);
+    tabla_->setProperty("sinBorde", grid.BorderStyle() == 0);
+
+    const int alto = std::max(estilo::Pixeles(grid.RowHeight(grid.Rows() - 1)), tabla_->fontMetrics().height() + 6);
+    tabla_->verticalHeader()->setDefaultSectionSize(alto);
+    tabla_->verticalHeader()->setMinimumSectionSize(alto);
+    tabla_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    tabla_->verticalHeader()->setHighlightSections(false);
+    tabla_->horizontalHeader()->setHighlightSections(false);
+    tabla_->horizontalHeader()->setSectionsClickable(false);
+    tabla_->verticalHeader()->setSectionsClickable(false);
+    tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+
+    // The heading of the label column stands in the corner, which a table leaves blank.
+    if (auto* boton = tabla_->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        esquina_ = new QLabel(boton);
+        esquina_->setAlignment(Qt::AlignCenter);
+        auto* caja = new QVBoxLayout(boton);
+        caja->setContentsMargins(0, 0, 0, 0);
+        caja->addWidget(esquina_);
+    }
+
+    tabla_->alCambiarTamano = [this] { AjustarColumnas(); };
+    tabla_->alPresionar = [this](QMouseEvent& evento) { return Presionar(evento); };
+    tabla_->alArrastrar = [this](QMouseEvent& evento) { Arrastrar(evento); };
+    tabla_->alPedirMenu = [this] { MenuDeTeclado(); };
+    connect(tabla_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int valor) {
+        const int superior = valor + grid_.FixedRows();
+        if (!mostrando_ && superior != grid_.TopRow()) {
+            escritorio_.App().Despachar([&] { grid_.DesplazadoPorUsuario(superior); });
+        }
+    });
+    // A press on a row's label is a press on its row.
+    connect(tabla_->verticalHeader(), &QHeaderView::sectionPressed, this, [this](int seccion) {
+        escritorio_.App().Despachar([&] { grid_.Presionar(kBotonIzquierdo, seccion + grid_.FixedRows(), 0); });
+    });
+}
+
+QModelIndex VistaGrid::Indice(int fila, int columna) const {
+    return modelo_->index(fila - grid_.FixedRows(), columna - grid_.FixedCols());
+}
+
+QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Row(), grid_.Col())); }
+
+void VistaGrid::MedirColumnas() {
+    const QFontMetrics letra = tabla_->fontMetrics();
+    std::vector<int> anchos;
+    for (int c = 0; c < grid_.Cols(); ++c) {
+        int texto = 0;
+        for (int f = 0; f < grid_.FixedRows(); ++f) {
+            texto = std::max(texto, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c))));
+        }
+        anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), texto + kAireColumna));
+    }
+    if (anchos == anchos_) {
+        return;
+    }
+    anchos_ = anchos;
+    const int barra = tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    tabla_->anchoNatural = std::accumulate(anchos_.begin(), anchos_.end(), 0) + barra + 2 * tabla_->frameWidth() + 2;
+    const bool conEtiquetas = grid_.FixedCols() > 0;
+    tabla_->verticalHeader()->setVisible(conEtiquetas);
+    if (conEtiquetas && !anchos_.empty()) {
+        tabla_->verticalHeader()->setFixedWidth(anchos_[0]);
+    }
+    tabla_->updateGeometry();
+    AjustarColumnas();
+}
+
+void VistaGrid::AjustarColumnas() {
+    const auto primera = static_cast<std::size_t>(grid_.FixedCols());
+    if (anchos_.size() <= primera) {
+        return;
+    }
+    // Room to spare is shared out among the data columns, so that no table ends in an empty strip.
+    const int natural = std::accumulate(anchos_.begin() + static_cast<std::ptrdiff_t>(primera), anchos_.end(), 0);
+    const int sobra = std::max(0, tabla_->viewport()->width() - natural);
+    const int columnas = static_cast<int>(anchos_.size() - primera);
+    for (int c = 0; c < columnas; ++c) {
+        const int parte = sobra * (c + 1) / columnas - sobra * c / columnas;
+        tabla_->setColumnWidth(c, anchos_[primera + static_cast<std::size_t>(c)] + parte);
+    }
+    const int alto = tabla_->verticalHeader()->defaultSectionSize();
+    grid_.PonerFilasVisibles(tabla_->viewport()->height() / std::max(1, alto));
+}
+
+void VistaGrid::MostrarSeleccion() {
+    QItemSelectionModel* seleccion = tabla_->selectionModel();
+    const QModelIndex actual = Indice(grid_.Row(), grid_.Col());
+    if (!actual.isValid()) {
+        seleccion->clear();
+        return;
+    }
+    if (tabla_->currentIndex() != actual) {
+        seleccion->setCurrentIndex(actual, QItemSelectionModel::NoUpdate);
+    }
+    const QModelIndex desde = Indice(std::min(grid_.Row(), grid_.RowSel()), std::min(grid_.Col(), grid_.ColSel()));
+    const QModelIndex hasta = Indice(std::max(grid_.Row(), grid_.RowSel()), std::max(grid_.Col(), grid_.ColSel()));
+    if (desde.isValid() && hasta.isValid()) {
+        seleccion->select(QItemSelection(desde, hasta), QItemSelectionModel::ClearAndSelect);
+    }
+}
+
+void VistaGrid::MostrarDesplazamiento() {
+    if (grid_.TopRow() != superiorMostrada_) {
+        tabla_->verticalScrollBar()->setValue(grid_.TopRow() - grid_.FixedRows());
+    }
+    if (grid_.Row() != filaMostrada_) {
+        filaMostrada_ = grid_.Row();
+        tabla_->scrollTo(Indice(grid_.Row(), grid_.Col()), QAbstractItemView::EnsureVisible);
+    }
+    superiorMostrada_ = grid_.TopRow();
+}
+
+void VistaGrid::Mostrar() {
+    mostrando_ = true;
+    const bool reiniciado = modelo_->PonerAlDia();
+    if (reiniciado) {
+        anchos_.clear();
+        filaMostrada_ = superiorMostrada_ = -1;
+    }
+    MedirColumnas();
+    const int alto = estilo::Pixeles(grid_.Rows() > 0 ? grid_.RowHeight(0) : 340);
+    const int renglon = tabla_->fontMetrics().height();
+    tabla_->horizontalHeader()->setVisible(grid_.FixedRows() > 0);
+    tabla_->horizontalHeader()->setFixedHeight(std::max(alto, grid_.FixedRows() * renglon + 6));
+    const int filas = std::min(kFilasNaturales, std::max(kFilasMinimas, grid_.Rows() - grid_.FixedRows()));
+    const int natural = tabla_->horizontalHeader()->height() +
+                        filas * tabla_->verticalHeader()->defaultSectionSize() + 2 * tabla_->frameWidth() + 2;
+    if (natural != tabla_->altoNatural) {
+        tabla_->altoNatural = natural;
+        tabla_->updateGeometry();
+    }
+    if (esquina_ != nullptr && grid_.FixedCols() > 0 && grid_.Rows() > 0) {
+        esquina_->setText(Q(grid_.TextMatrix(0, 0)));
+    }
+    MostrarSeleccion();
+    MostrarDesplazamiento();
+    tabla_->viewport()->update();
+    tabla_->verticalHeader()->viewport()->update();
+    tabla_->horizontalHeader()->viewport()->update();
+    mostrando_ = false;
+}
+
+bool VistaGrid::Tecla(QKeyEvent& evento) {
+    if (evento.matches(QKeySequence::Copy)) {
+        Copiar();
+        return true;
+    }
+    const bool orden = evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const bool altGr = (evento.modifiers() & Qt::ControlModifier) && (evento.modifiers() & Qt::AltModifier);
+    if ((orden && !altGr) || evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) {
+        return false;
+    }
+    const int codigo = CodigoDeTecla(evento);
+    const int caracter = CaracterDe(evento);
+    if (codigo == 0 && caracter == 0) {
+        return false;
+    }
+    const bool marca = (evento.modifiers() & Qt::ShiftModifier) && caracter == 0;
+    const int df = codigo == kTeclaAbajo ? 1 : codigo == kTeclaArriba ? -1 : 0;
+    const int dc = codigo == kTeclaDerecha ? 1 : codigo == kTeclaIzquierda ? -1 : 0;
+    if (marca && (df != 0 || dc != 0)) {
+        escritorio_.App().Despachar([&] {
+            grid_.Seleccionar(std::max(grid_.RowSel() + df, grid_.FixedRows()),
+                              std::max(grid_.ColSel() + dc, grid_.FixedCols()));
+        });
+        return true;
+    }
+    escritorio_.App().PulsarTecla(codigo, caracter);
+    return true;
+}
+
+bool VistaGrid::Presionar(QMouseEvent& evento) {
+    const QModelIndex indice = tabla_->indexAt(evento.position().toPoint());
+    const bool conocido = evento.button() == Qt::LeftButton || evento.button() == Qt::RightButton;
+    if (!indice.isValid() || !conocido) {
+        return true;
+    }
+    const BotonRaton boton = evento.button() == Qt::RightButton ? kBotonDerecho : kBotonIzquierdo;
+    escritorio_.App().Despachar([&] {
+        grid_.Presionar(boton, indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols());
+    });
+    return true;
+}
+
+void VistaGrid::Arrastrar(const QMouseEvent& evento) {
+    const QModelIndex indice = tabla_->indexAt(evento.position().toPoint());
+    if (indice.isValid()) {
+        escritorio_.App().Despachar([&] {
+            grid_.Seleccionar(indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols());
+        });
+    }
+}
+
+void VistaGrid::MenuDeTeclado() {
+    if (grid_.Row() < grid_.Rows()) {
+        escritorio_.App().Despachar([&] { grid_.Presionar(kBotonDerecho, grid_.Row(), grid_.Col()); });
+    }
+}
+
+void VistaGrid::Copiar() const {
+    QStringList renglones;
+    const auto [f0, f1] = std::minmax({grid_.Row(), grid_.RowSel()});
+    const auto [c0, c1] = std::minmax({grid_.Col(), grid_.ColSel()});
+    for (int f = f0; f <= f1; ++f) {
+        QStringList celdas;
+        for (int c = c0; c <= c1; ++c) {
+            celdas << Q(grid_.TextMatrix(f, c));
+        }
+        renglones << celdas.join(QLatin1Char('\t'));
+    }
+    QApplication::clipboard()->setText(renglones.join(QLatin1Char('\n')));
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QRect>
+#include <QTableView>
+
+#include "escritorio/vista.h"
+#include "frame/flexgrid.h"
+
+class QLabel;
+
+namespace cuencalia {
+
+/// The cells of a grid that can be moved over: fixed rows and columns are headings. It holds no copy of the cells.
+class ModeloGrid : public QAbstractTableModel {
+  public:
+    ModeloGrid(const FlexGrid& grid, QObject* padre);
+
+    int rowCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : filas_; }
+    int columnCount(const QModelIndex& padre = {}) const override { return padre.isValid() ? 0 : columnas_; }
+    QVariant data(const QModelIndex& indice, int rol) const override;
+    QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
+
+    /// Takes over the grid's number of rows and columns; says whether more than the number of rows changed.
+    bool PonerAlDia();
+
+  private:
+    int filas_ = 0, columnas_ = 0, filasFijas_ = 0, columnasFijas_ = 0;
+    const FlexGrid& grid_;
+};
+
+/// A table whose keys and clicks go to the grid's model.
+class TablaGrid : public QTableView {
+  public:
+    explicit TablaGrid(QWidget* padre) : QTableView(padre) {}
+
+    /// Width that shows every column as wide as the grid says.
+    int anchoNatural = 0;
+    /// Height that shows all rows, up to those of a data grid.
+    int altoNatural = 0;
+
+    QSize sizeHint() const override { return {anchoNatural, altoNatural}; }
+    QSize minimumSizeHint() const override;
+
+    std::function<void()> alCambiarTamano;
+    std::function<bool(QMouseEvent&)> alPresionar;
+    std::function<void(QMouseEvent&)> alArrastrar;
+    std::function<void()> alPedirMenu;
+
+  protected:
+    void resizeEvent(QResizeEvent* evento) override;
+    void mousePressEvent(QMouseEvent* evento) override;
+    void mouseMoveEvent(QMouseEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override { mousePressEvent(evento); }
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+};
+
+class VistaGrid : public Vista {
+  public:
+    VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre);
+
+    QTableView* Tabla() const { return tabla_; }
+    /// Place of the current cell in the table's viewport.
+    QRect CeldaActual() const;
+
+  protected:
+    void Mostrar() override;
+    bool Tecla(QKeyEvent& evento) override;
+
+  private:
+    void AjustarColumnas();
+    void MedirColumnas();
+    void MostrarSeleccion();
+    void MostrarDesplazamiento();
+    bool Presionar(QMouseEvent& evento);
+    void Arrastrar(const QMouseEvent& evento);
+    void MenuDeTeclado();
+    void Copiar() const;
+    QModelIndex Indice(int fila, int columna) const;
+
+    FlexGrid& grid_;
+    TablaGrid* tabla_;
+    ModeloGrid* modelo_;
+    QLabel* esquina_;
+    std::vector<int> anchos_;
+    int filaMostrada_ = -1, superiorMostrada_ = -1;
+    bool mostrando_ = false;
+};
+
+}  // namespace cuencalia
