@@ -71,7 +71,7 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
                  : icono == kIconoAdvertencia ? QMessageBox::Warning
                  : icono == kIconoInformacion ? QMessageBox::Information
                                               : QMessageBox::NoIcon);
-    caja.setWindowTitle(titulo.empty() ? QApplication::applicationDisplayName() : Q(titulo));
+    caja.setWindowTitle(titulo.empty() ? QStringLiteral("Cuencalia") : Q(titulo));
     caja.setTextFormat(Qt::PlainText);
     caja.setText(Q(texto));
     caja.exec();

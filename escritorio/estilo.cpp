@@ -75,6 +75,7 @@ QLineEdit[flotante="true"] { border: 2px solid @acento; border-radius: 0; paddin
 QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea;
     selection-background-color: @luz; selection-color: @texto; }
 QTableView:focus { border: 1px solid @acento; }
+QTableView[lectura="true"]:!focus { selection-background-color: @base; }
 QTableView[sinBorde="true"] { border: none; border-top: 1px solid @linea; border-left: 1px solid @linea; }
 QHeaderView { background: @encabezado; }
 QHeaderView::section { background: @encabezado; color: @texto; border: none; border-right: 1px solid @linea;

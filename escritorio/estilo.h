@@ -15,7 +15,8 @@ inline constexpr int kMargen = 12;        ///< Around the contents of a window, 
 inline constexpr int kSeparacion = 8;     ///< Between controls.
 inline constexpr int kSeparacionMin = 4;  ///< Between a heading and what it heads.
 inline constexpr int kIcono = 26;         ///< Side of a button's picture.
-inline constexpr int kAnchoBoton = 76;    ///< Least width of a button with its picture on top.
+inline constexpr int kAnchoBoton = 76;    ///< Least width of a button.
+inline constexpr int kAireBoton = 14;     ///< Left and right of a button's text.
 
 enum class Esquema { Claro, Oscuro };
 

@@ -9,7 +9,6 @@
 int main(int argc, char** argv) {
     QApplication programa(argc, argv);
     QApplication::setApplicationName(QStringLiteral("cuencalia"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Cuencalia"));
     QApplication::setOrganizationName(QStringLiteral("cuencalia"));
     QGuiApplication::setDesktopFileName(QStringLiteral("cuencalia"));
     QLocale::setDefault(QLocale(QLocale::Spanish));

@@ -10,10 +10,12 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
+#include <algorithm>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
 #include "escritorio/vistas.h"
+#include "frame/flexgrid.h"
 
 namespace cuencalia {
 
@@ -122,8 +124,14 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
         vista->Actualizar();
     }
     const QSize pantalla = screen()->availableSize();
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo({600, 320}) : QSize(960, 580);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 620) : QSize(0, 0)) : QSize(960, 580);
     resize(propio.boundedTo(pantalla));
+}
+
+bool Ventana::EsModulo() const {
+    const auto controles = EnOrden(forma_->Distribucion());
+    return std::any_of(controles.begin(), controles.end(),
+                       [](const Control* c) { return dynamic_cast<const FlexGrid*>(c) != nullptr; });
 }
 
 void Ventana::Soltar() {
@@ -143,6 +151,15 @@ void Ventana::closeEvent(QCloseEvent* evento) {
 }
 
 void Ventana::HacerMenus() {
+    if (forma_->Barra().empty()) {
+        return;
+    }
+    // Not every menu of the bar has an access key: F10 leads to the first one.
+    auto* alMenu = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(alMenu, &QShortcut::activated, this, [this] {
+        menuBar()->setFocus(Qt::ShortcutFocusReason);
+        menuBar()->setActiveAction(menuBar()->actions().first());
+    });
     for (Menu* menu : forma_->Barra()) {
         QMenu* enBarra = menuBar()->addMenu(Q(menu->Caption));
         LlenarMenu(escritorio_, *enBarra, *menu);
@@ -173,6 +190,11 @@ void Ventana::Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
             const auto* texto = dynamic_cast<TextBox*>(d.control);
             Vista* vista = Hacer(*d.control, padre);
             if (vista != nullptr && (texto == nullptr || texto->Sobre() == nullptr)) {
+                if (dynamic_cast<FlexGrid*>(d.control) != nullptr) {
+                    // A grid with no share of the spare room is a small table: all of it is shown.
+                    vista->Widget()->setSizePolicy(QSizePolicy::Preferred,
+                                                   d.estira > 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+                }
                 caja.addWidget(vista->Widget(), d.estira);
             }
             return;

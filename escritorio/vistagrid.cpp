@@ -23,6 +23,7 @@ namespace {
 constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
 constexpr int kAireColumna = 18;
+constexpr int kFilasMedidas = 40;  // labels are measured so far; a longer list has numbers only
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -144,10 +145,10 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->setSelectionMode(QAbstractItemView::ContiguousSelection);
     tabla_->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     tabla_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    tabla_->setCornerButtonEnabled(false);
     tabla_->setWordWrap(false);
     tabla_->viewport()->setMouseTracking(true);
-    tabla_->setProperty("sinBorde", grid.BorderStyle() == 0);
+    // Only a grid that takes what is typed shows its current cell while the focus is elsewhere.
+    tabla_->setProperty("lectura", !grid.KeyPress.Atendido());
 
     const int alto = std::max(estilo::Pixeles(grid.RowHeight(grid.Rows() - 1)), tabla_->fontMetrics().height() + 6);
     tabla_->verticalHeader()->setDefaultSectionSize(alto);
@@ -161,6 +162,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
 
     // The heading of the label column stands in the corner, which a table leaves blank.
     if (auto* boton = tabla_->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        boton->setAttribute(Qt::WA_TransparentForMouseEvents);
         esquina_ = new QLabel(boton);
         esquina_->setAlignment(Qt::AlignCenter);
         auto* caja = new QVBoxLayout(boton);
@@ -195,8 +197,9 @@ void VistaGrid::MedirColumnas() {
     std::vector<int> anchos;
     for (int c = 0; c < grid_.Cols(); ++c) {
         int texto = 0;
-        for (int f = 0; f < grid_.FixedRows(); ++f) {
-            texto = std::max(texto, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c))));
+        const int filas = c < grid_.FixedCols() ? std::min(grid_.Rows(), kFilasMedidas) : grid_.FixedRows();
+        for (int f = 0; f < filas; ++f) {
+            texto = std::max(texto, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c)).trimmed()));
         }
         anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), texto + kAireColumna));
     }
@@ -211,6 +214,7 @@ void VistaGrid::MedirColumnas() {
     if (conEtiquetas && !anchos_.empty()) {
         tabla_->verticalHeader()->setFixedWidth(anchos_[0]);
     }
+    tabla_->Recolocar();
     tabla_->updateGeometry();
     AjustarColumnas();
 }

@@ -41,6 +41,8 @@ class TablaGrid : public QTableView {
 
     QSize sizeHint() const override { return {anchoNatural, altoNatural}; }
     QSize minimumSizeHint() const override;
+    /// Lays headings and cells out anew after a heading changed its size.
+    void Recolocar() { updateGeometries(); }
 
     std::function<void()> alCambiarTamano;
     std::function<bool(QMouseEvent&)> alPresionar;

@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
+#include <algorithm>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
@@ -158,6 +159,8 @@ class VistaBoton : public Vista {
     void Mostrar() override {
         if (widget_->text() != Q(boton_.Caption)) {
             widget_->setText(Q(boton_.Caption));
+            const int texto = widget_->fontMetrics().size(Qt::TextShowMnemonic, widget_->text()).width();
+            widget_->setMinimumWidth(std::max(estilo::kAnchoBoton, texto + 2 * estilo::kAireBoton));
         }
         const QString imagen = Q(boton_.Picture);
         if (imagen != imagen_) {
@@ -353,7 +356,6 @@ QAbstractButton* HacerBoton(const CommandButton& boton, QWidget* padre) {
     auto* pulsador = new QToolButton(padre);
     pulsador->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     pulsador->setIconSize(QSize(estilo::kIcono, estilo::kIcono));
-    pulsador->setMinimumWidth(estilo::kAnchoBoton);
     return pulsador;
 }
 

@@ -25,8 +25,9 @@ MarcoModulo::MarcoModulo(Aplicacion& app, std::string nombre, const std::string&
     bImprimir.Click.Conectar([this] { bImprimir_Click(); });
     bMenu.Click.Conectar([this] { bMenu_Click(); });
     MouseMove.Conectar([this] { ApagarBotones(nullptr); });
-    Frame6.MouseMove.Conectar([this] { ApagarBotones(&Frame6); });
-    Frame7.MouseMove.Conectar([this] { ApagarBotones(&Frame7); });
+    for (Frame* marco : {&Frame6, &Frame7, &fraCalculadora}) {
+        marco->MouseMove.Conectar([this, marco] { ApagarBotones(marco); });
+    }
 }
 
 void MarcoModulo::Form_Load() {
@@ -325,7 +326,8 @@ std::vector<Disposicion> ModuloCalculo::BotonesAccion() { return {bCalcular, bLi
 
 Disposicion ModuloCalculo::ZonaBotones() {
     return Fila({Grupo(Frame6, {Fila(BotonesAccion())}),
-                 Grupo(Frame7, {Fila({bCargarExcel, bReporte, bCrear, bAccesar})}), bCalculadora, Espacio()});
+                 Grupo(Frame7, {Fila({bCargarExcel, bReporte, bCrear, bAccesar})}),
+                 Grupo(fraCalculadora, {bCalculadora}), Espacio()});
 }
 
 Disposicion ModuloCalculo::Disponer() {

@@ -40,6 +40,7 @@ class MarcoModulo : public Formulario {
 
     Frame Frame6{*this, "Frame6"};
     Frame Frame7{*this, "Frame7", "Archivos y resultados:"};
+    Frame fraCalculadora{*this, "fraCalculadora"};
     ImageList ImageList1{*this, "ImageList1"};
     StatusBar StatusBar1{*this, "StatusBar1", 1};
     CommandButton bCalcular{*this, "bCalcular", "Calc&ular", "Efectuar cálculos"};

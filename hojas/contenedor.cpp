@@ -13,9 +13,19 @@ namespace cuencalia {
 
 namespace {
 
+// The library comments on every oddity of a damaged file, without end; the caller learns of it by the error.
+void Callar(const char*, GLogLevelFlags, const char*, void*) {}
+
+bool Iniciar() {
+    gsf_init();
+    for (const char* dominio : {"libgsf:msole", "libgsf:zip"}) {
+        g_log_set_handler(dominio, G_LOG_LEVEL_WARNING, Callar, nullptr);
+    }
+    return true;
+}
+
 GsfInput* EntradaDeMemoria(std::span<const std::byte> bytes) {
-    static const bool iniciada = (gsf_init(), true);
-    static_cast<void>(iniciada);
+    [[maybe_unused]] static const bool iniciada = Iniciar();
     return gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()), static_cast<gsf_off_t>(bytes.size()),
                                 FALSE);
 }

@@ -88,6 +88,7 @@ void frmParamEsta::bCalcular_Click() {
     CargarMatrices();
     if (n <= 1) {
         App().MsgBox("Para el cálculo de los parámetros se requieren por lo menos dos datos", kIconoError, "Error");
+        MenorQue2Celdas();
         return;
     }
     // Everything is computed before anything is shown: a series that stops the calculation leaves the window as it was.
@@ -122,9 +123,8 @@ std::vector<Disposicion> frmParamEsta::BotonesAccion() {
 }
 
 Disposicion frmParamEsta::Contenido() {
-    return Columna({grdParam, Fila({Grupo(Frame8, {Pares(2, {lblL1, txtL1, lblL2, txtL2, lblL3, txtL3, lblL4, txtL4})}),
-                                    orden.Zona(), Espacio()})
-                                  .Estira(1)});
+    Disposicion coeficientes = Grupo(Frame8, {Pares(2, {lblL1, txtL1, lblL2, txtL2, lblL3, txtL3, lblL4, txtL4})});
+    return Columna({grdParam, Fila({Columna({std::move(coeficientes), Espacio()}), orden.Zona(), Espacio()}).Estira(1)});
 }
 
 }  // namespace cuencalia

@@ -3,7 +3,7 @@
 import os
 
 import uno
-from com.sun.star.beans import NamedValue, PropertyValue
+from com.sun.star.beans import PropertyValue
 
 
 def propiedad(nombre, valor):
@@ -16,11 +16,8 @@ remoto = conector.resolve("uno:pipe,name=hojas;urp;StarOffice.ComponentContext")
 escritorio = remoto.ServiceManager.createInstance("com.sun.star.frame.Desktop")
 carpeta = "file://" + os.getcwd() + "/"
 libro = escritorio.loadComponentFromURL(carpeta + "mezcla.fods", "_blank", 0, (propiedad("Hidden", True),))
-clave = propiedad("Password", "clave")
-claveOoxml = propiedad(
-    "EncryptionData", uno.Any("[]com.sun.star.beans.NamedValue", (NamedValue("OOXPassword", "clave"),))
+libro.storeToURL(
+    carpeta + "protegido.xls", (propiedad("FilterName", "MS Excel 97"), propiedad("Password", "clave"))
 )
-libro.storeToURL(carpeta + "protegido.xls", (propiedad("FilterName", "MS Excel 97"), clave))
-libro.storeToURL(carpeta + "protegido.xlsx", (propiedad("FilterName", "Calc Office Open XML"), claveOoxml))
 libro.close(True)
 escritorio.terminate()
