@@ -1,15 +1,18 @@
 #include "escritorio/escritorio.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QSettings>
 #include <QUrl>
 #include <algorithm>
 
@@ -160,6 +163,42 @@ void Escritorio::AbrirConShell(const std::string& ruta) {
     if (QFileInfo::exists(archivo)) {
         QDesktopServices::openUrl(QUrl::fromLocalFile(archivo));
     }
+}
+
+void Escritorio::ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                               std::string& nombre) {
+    Pintar();
+    // "label|pattern|label|pattern" becomes "label (pattern);;label (pattern)".
+    const QStringList partes = Q(filtro).split(QLatin1Char('|'));
+    QStringList filtros;
+    for (int i = 0; i + 1 < partes.size(); i += 2) {
+        const bool yaDicho = partes[i].contains(partes[i + 1]);
+        filtros << (yaDicho ? partes[i] : QStringLiteral("%1 (%2)").arg(partes[i], partes[i + 1]));
+    }
+    QFileDialog dialogo(QApplication::activeWindow(), Q(titulo), QString(), filtros.join(QStringLiteral(";;")));
+    dialogo.setAcceptMode(modo == ModoArchivo::Guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogo.setFileMode(modo == ModoArchivo::Guardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (modo == ModoArchivo::Guardar && partes.size() > 1) {
+        dialogo.setDefaultSuffix(QFileInfo(partes[1]).suffix());
+    }
+    if (!nombre.empty()) {
+        dialogo.selectFile(Q(nombre));
+    }
+    if (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
+        nombre = Std(dialogo.selectedFiles().first());
+    }
+}
+
+std::string Escritorio::TextoDelPortapapeles() const { return Std(QGuiApplication::clipboard()->text()); }
+
+void Escritorio::PonerEnPortapapeles(const std::string& texto) { QGuiApplication::clipboard()->setText(Q(texto)); }
+
+std::string Escritorio::LeerAjuste(const std::string& clave, const std::string& porOmision) const {
+    return Std(QSettings().value(QStringLiteral("Settings/") + Q(clave), Q(porOmision)).toString());
+}
+
+void Escritorio::GuardarAjuste(const std::string& clave, const std::string& valor) {
+    QSettings().setValue(QStringLiteral("Settings/") + Q(clave), Q(valor));
 }
 
 std::string Escritorio::CarpetaInstalacion() const {

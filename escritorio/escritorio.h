@@ -40,6 +40,12 @@ class Escritorio : public Plataforma {
     void DespuesDeDespachar() override { Pintar(); }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override;
+    void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                       std::string& nombre) override;
+    std::string TextoDelPortapapeles() const override;
+    void PonerEnPortapapeles(const std::string& texto) override;
+    std::string LeerAjuste(const std::string& clave, const std::string& porOmision) const override;
+    void GuardarAjuste(const std::string& clave, const std::string& valor) override;
 
   private:
     void DarFoco();

@@ -12,6 +12,9 @@ class Menu;
 /// Icon of a message box.
 enum Icono : int { kSinIcono = 0, kIconoError = 16, kIconoPregunta = 32, kIconoAdvertencia = 48, kIconoInformacion = 64 };
 
+/// What a file dialog is for.
+enum class ModoArchivo { Abrir, Guardar };
+
 /// What the program asks of the system that it runs on. The desktop answers with windows and dialogs, tests and scripts
 /// with a platform of their own.
 class Plataforma {
@@ -43,6 +46,19 @@ class Plataforma {
 
     /// Folder of the installed program: help and correction tables stand below it.
     virtual std::string CarpetaInstalacion() const = 0;
+
+    /// Asks for a file to open or to save. `nombre` comes in as the name of the last use and goes out as the choice;
+    /// on Cancel it stays as it was. The filter joins labels and patterns by bars: "Valores X|*.X".
+    virtual void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                               std::string& nombre) = 0;
+
+    /// The text on the system's clipboard; empty when there is none.
+    virtual std::string TextoDelPortapapeles() const = 0;
+    virtual void PonerEnPortapapeles(const std::string& texto) = 0;
+
+    /// A setting of this user, kept between runs, or `porOmision`.
+    virtual std::string LeerAjuste(const std::string& clave, const std::string& porOmision) const = 0;
+    virtual void GuardarAjuste(const std::string& clave, const std::string& valor) = 0;
 };
 
 }  // namespace cuencalia

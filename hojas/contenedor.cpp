@@ -19,7 +19,8 @@ void Callar(const char*, GLogLevelFlags, const char*, void*) {}
 bool Iniciar() {
     gsf_init();
     for (const char* dominio : {"libgsf:msole", "libgsf:zip"}) {
-        g_log_set_handler(dominio, G_LOG_LEVEL_WARNING, Callar, nullptr);
+        g_log_set_handler(dominio, static_cast<GLogLevelFlags>(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL), Callar,
+                          nullptr);
     }
     return true;
 }

@@ -87,6 +87,7 @@ class ArchivoProvisional {
 
 void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const ValorCelda& valor) {
     constexpr int kMaxColumnas = 16384;
+    constexpr double kMaxNumero = 9.99999999999999E307;
     if (posicion.second > kMaxColumnas) {
         FallarCelda();
     }
@@ -94,8 +95,8 @@ void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const Valo
     const auto columna = static_cast<lxw_col_t>(posicion.second - 1);
     lxw_error error = LXW_NO_ERROR;
     if (const auto* numero = std::get_if<Double>(&valor)) {
-        if (!std::isfinite(numero->valor())) {
-            throw ErrorEjecucion(kDesbordamiento);
+        if (!(std::abs(numero->valor()) <= kMaxNumero)) {
+            FallarCelda();
         }
         error = worksheet_write_number(hoja, fila, columna, numero->valor(), nullptr);
     } else if (const auto* texto = std::get_if<std::string>(&valor)) {

@@ -31,12 +31,6 @@ void LeerParte(const Contenedor& libro, const std::string& parte, std::size_t li
     lector.Concluir();
 }
 
-void ExigirRaiz(std::string_view ruta, std::string_view raiz) {
-    if (ruta.substr(0, ruta.find('/')) != raiz) {
-        FallarDanado();
-    }
-}
-
 void AgregarTexto(std::string& texto, std::string_view trozo) {
     if (texto.size() + trozo.size() > kMaxBytesDeCelda) {
         FallarDanado();
@@ -109,13 +103,12 @@ std::string ResolverParte(const std::string& carpeta, std::string_view destino) 
 
 class LectorRelaciones : public LectorXml {
   public:
-    explicit LectorRelaciones(std::string carpeta) : carpeta_(std::move(carpeta)) {}
+    explicit LectorRelaciones(std::string carpeta) : LectorXml("Relationships"), carpeta_(std::move(carpeta)) {}
 
     std::vector<Relacion> relaciones;
 
   private:
     void AlAbrir(std::string_view ruta, const AtributosXml& atributos) override {
-        ExigirRaiz(ruta, "Relationships");
         if (ruta != "Relationships/Relationship" || atributos.Valor("TargetMode") == "External") {
             return;
         }
@@ -145,11 +138,12 @@ const Relacion* RelacionDeTipo(const std::vector<Relacion>& relaciones, std::str
 
 class LectorLibro : public LectorXml {
   public:
+    LectorLibro() : LectorXml("workbook") {}
+
     std::vector<std::string> idsDeHojas;
 
   private:
     void AlAbrir(std::string_view ruta, const AtributosXml& atributos) override {
-        ExigirRaiz(ruta, "workbook");
         if (ruta == "workbook/sheets/sheet") {
             idsDeHojas.emplace_back(atributos.IdRelacion().value_or(""));
         }
@@ -197,11 +191,9 @@ std::string DescifrarTexto(std::string_view cifrado) {
 // The shared texts that some cell uses. Runs of rich text join; phonetic runs ("rPh") are no part of the text.
 class LectorTextos : public LectorXml {
   public:
-    explicit LectorTextos(ArmadorHoja& armador) : armador_(armador) {}
+    explicit LectorTextos(ArmadorHoja& armador) : LectorXml("sst"), armador_(armador) {}
 
   private:
-    void AlAbrir(std::string_view ruta, const AtributosXml&) override { ExigirRaiz(ruta, "sst"); }
-
     void AlTexto(std::string_view ruta, std::string_view texto) override {
         const bool esTexto = ruta == "sst/si/t" || ruta == "sst/si/r/t";
         if (esTexto && armador_.FaltaTexto(indice_)) {
@@ -292,11 +284,10 @@ Posicion LeerReferencia(std::string_view referencia) {
 
 class LectorHoja : public LectorXml {
   public:
-    explicit LectorHoja(ArmadorHoja& armador) : armador_(armador) {}
+    explicit LectorHoja(ArmadorHoja& armador) : LectorXml("worksheet"), armador_(armador) {}
 
   private:
     void AlAbrir(std::string_view ruta, const AtributosXml& atributos) override {
-        ExigirRaiz(ruta, "worksheet");
         if (ruta == "worksheet/sheetData/row") {
             AbrirFila(atributos);
         } else if (ruta == "worksheet/sheetData/row/c") {

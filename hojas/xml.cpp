@@ -2,6 +2,8 @@
 
 #include <expat.h>
 
+#include <utility>
+
 #include "hojas/errores_libro.h"
 
 namespace cuencalia {
@@ -93,7 +95,7 @@ struct LectorXml::Enlace {
 
 void LectorXml::Liberar::operator()(XML_ParserStruct* analizador) const { XML_ParserFree(analizador); }
 
-LectorXml::LectorXml() : analizador_(XML_ParserCreateNS(nullptr, kSeparador)) {
+LectorXml::LectorXml(std::string raiz) : analizador_(XML_ParserCreateNS(nullptr, kSeparador)), raiz_(std::move(raiz)) {
     if (analizador_ == nullptr) {
         throw ErrorEjecucion(kMemoriaInsuficiente);
     }
@@ -133,10 +135,11 @@ void LectorXml::Analizar(std::span<const std::byte> trozo, bool ultimo) {
 }
 
 void LectorXml::Abrir(std::string_view nombreCompleto, const char** atributos) {
-    if (++profundidad_ > kMaxProfundidad) {
+    const Nombre nombre = Partir(nombreCompleto);
+    const bool esRaiz = ++profundidad_ == 1;
+    if (profundidad_ > kMaxProfundidad || (esRaiz && (!EsPropio(nombre) || nombre.local != raiz_))) {
         FallarDanado();
     }
-    const Nombre nombre = Partir(nombreCompleto);
     if (ajenos_ > 0 || (!EsPropio(nombre) && !EsTransparente(nombre))) {
         ++ajenos_;
         return;

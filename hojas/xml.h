@@ -30,11 +30,13 @@ class AtributosXml {
 /// dialects alike) by their path from the root, "worksheet/sheetData/row"; foreign elements are passed over with all
 /// that they hold, and of alternate contents the fallback stands for the whole.
 ///
-/// The whole of a part arrives by Alimentar and Concluir. Error 1004 for malformed XML, a document type declaration
-/// (which the format forbids, and which could declare entities that expand without end) and absurdly deep nesting.
+/// The whole of a part arrives by Alimentar and Concluir. Error 1004 for malformed XML, another root, a document type
+/// declaration (which the format forbids, and which could declare entities that expand without end) and absurdly deep
+/// nesting.
 class LectorXml {
   public:
-    LectorXml();
+    /// `raiz` is the name of the root that the part must have.
+    explicit LectorXml(std::string raiz);
     LectorXml(const LectorXml&) = delete;
     LectorXml& operator=(const LectorXml&) = delete;
     virtual ~LectorXml();
@@ -45,7 +47,7 @@ class LectorXml {
     void Concluir();
 
   protected:
-    virtual void AlAbrir(std::string_view ruta, const AtributosXml& atributos) = 0;
+    virtual void AlAbrir(std::string_view /*ruta*/, const AtributosXml& /*atributos*/) {}
     virtual void AlTexto(std::string_view /*ruta*/, std::string_view /*texto*/) {}
     virtual void AlCerrar(std::string_view /*ruta*/) {}
 
@@ -64,6 +66,7 @@ class LectorXml {
 
     std::unique_ptr<XML_ParserStruct, Liberar> analizador_;
     std::exception_ptr fallo_;
+    std::string raiz_;
     std::string ruta_;
     int profundidad_ = 0;
     int ajenos_ = 0;  // open elements from the outermost foreign one inwards

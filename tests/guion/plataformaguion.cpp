@@ -31,6 +31,21 @@ void PlataformaGuion::MenuEmergente(Menu& menu) {
     entradaEmergente.reset();
 }
 
+void PlataformaGuion::ElegirArchivo(ModoArchivo, const std::string& titulo, const std::string& filtro,
+                                    std::string& nombre) {
+    tituloDialogo = titulo;
+    filtroDialogo = filtro;
+    if (archivo) {
+        nombre = *archivo;
+        archivo.reset();
+    }
+}
+
+std::string PlataformaGuion::LeerAjuste(const std::string& clave, const std::string& porOmision) const {
+    const auto hallado = ajustes.find(clave);
+    return hallado == ajustes.end() ? porOmision : hallado->second;
+}
+
 void PlataformaGuion::ImprimirForma(Formulario& forma) { impresas.push_back(forma.Nombre()); }
 
 void PlataformaGuion::AbrirConShell(const std::string& ruta) {

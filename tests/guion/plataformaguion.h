@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,11 +27,23 @@ class PlataformaGuion : public Plataforma {
     void Terminar() override { terminado = true; }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override { return "/cuencalia"; }
+    void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                       std::string& nombre) override;
+    std::string TextoDelPortapapeles() const override { return portapapeles; }
+    void PonerEnPortapapeles(const std::string& texto) override { portapapeles = texto; }
+    std::string LeerAjuste(const std::string& clave, const std::string& porOmision) const override;
+    void GuardarAjuste(const std::string& clave, const std::string& valor) override { ajustes[clave] = valor; }
 
     std::vector<Mensaje> mensajes;
     std::vector<ErrorEjecucion> errores;
     std::vector<std::string> impresas;  ///< Forms sent to the printer, by name.
     std::vector<std::string> abiertos;  ///< Files handed to the shell.
+    std::string portapapeles;
+    std::map<std::string, std::string> ajustes;
+    /// Answer of the next file dialog; none cancels it.
+    std::optional<std::string> archivo;
+    /// What the last file dialog asked for.
+    std::string tituloDialogo, filtroDialogo;
     /// The form that was shown last, or null.
     Formulario* alFrente = nullptr;
     /// Entry to pick in the next pop-up menu; none closes the menu.
