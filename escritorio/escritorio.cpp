@@ -13,6 +13,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QUrl>
 #include <algorithm>
 
@@ -154,6 +155,29 @@ void Escritorio::ImprimirForma(Formulario& forma) {
     const QRectF hoja = impresora.pageRect(QPrinter::DevicePixel);
     const QSizeF tamano = QSizeF(imagen.size()).scaled(hoja.size(), Qt::KeepAspectRatio);
     pintor.drawPixmap(QRectF(QPointF(0, 0), tamano), imagen, QRectF(imagen.rect()));
+}
+
+void Escritorio::ImprimirDocumento(Formulario&, bool, const std::string&) {}
+
+/// The workbook goes to a file of the user's choice where there is no spreadsheet program, to a new temporary one
+/// otherwise.
+void Escritorio::MostrarLibro(const Hoja& hoja) {
+    QTemporaryFile plantilla(QDir::tempPath() + QStringLiteral("/serie-XXXXXX.xlsx"));
+    plantilla.setAutoRemove(false);
+    if (!plantilla.open()) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    plantilla.close();
+    libros_.EscribirLibro(Std(plantilla.fileName()), hoja);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(plantilla.fileName()))) {
+        return;
+    }
+    std::string nombre;
+    ElegirArchivo(ModoArchivo::Guardar, "Guardar la hoja de cálculo", "Libro de Excel|*.xlsx", nombre);
+    if (!nombre.empty()) {
+        libros_.EscribirLibro(nombre, hoja);
+    }
+    QFile::remove(plantilla.fileName());
 }
 
 void Escritorio::Terminar() { QCoreApplication::quit(); }

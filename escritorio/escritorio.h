@@ -7,6 +7,7 @@
 
 #include "frame/aplicacion.h"
 #include "frame/plataforma.h"
+#include "hojas/libros.h"
 
 namespace cuencalia {
 
@@ -36,6 +37,9 @@ class Escritorio : public Plataforma {
     void DescargarForma(Formulario& forma) override;
     void MenuEmergente(Menu& menu) override;
     void ImprimirForma(Formulario& forma) override;
+    void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
+    AccesoHojas& Hojas() override { return libros_; }
+    void MostrarLibro(const Hoja& hoja) override;
     void Terminar() override;
     void DespuesDeDespachar() override { Pintar(); }
     void AbrirConShell(const std::string& ruta) override;
@@ -53,6 +57,7 @@ class Escritorio : public Plataforma {
     std::unique_ptr<Aplicacion> app_;
     std::map<const Formulario*, Ventana*> ventanas_;
     std::vector<Vista*> sucias_;
+    LibrosDeCalculo libros_;
     bool pintando_ = false;
 };
 

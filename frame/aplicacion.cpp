@@ -9,6 +9,9 @@ Aplicacion::Aplicacion(Plataforma& plataforma, TablaFormas formas, std::string m
     : plataforma_(plataforma), formas_(std::move(formas)), menuPrincipal_(std::move(menuPrincipal)) {}
 
 Aplicacion::~Aplicacion() {
+    for (const auto& hija : hijas_) {
+        plataforma_.DescargarForma(*hija);
+    }
     for (const auto& [nombre, forma] : cargadas_) {
         plataforma_.DescargarForma(*forma);
     }
@@ -114,6 +117,10 @@ void Aplicacion::PedirFoco(Control& control) {
 }
 
 void Aplicacion::Activar(Formulario& forma) {
+    const auto hija = std::find_if(hijas_.begin(), hijas_.end(), [&](const auto& otra) { return otra.get() == &forma; });
+    if (hija != hijas_.end()) {
+        std::rotate(hija, hija + 1, hijas_.end());
+    }
     Control* destino = forma.ControlActivo();
     if (destino == nullptr || !destino->PuedeRecibirFoco()) {
         destino = forma.PrimerControl();
@@ -166,15 +173,46 @@ void Aplicacion::ModuloCerrar(Formulario& forma) {
 }
 
 void Aplicacion::Unload(Formulario& forma) {
+    const auto esta = [&](const std::unique_ptr<Formulario>& otra) { return otra.get() == &forma; };
+    if (const auto hija = std::find_if(hijas_.begin(), hijas_.end(), esta); hija != hijas_.end()) {
+        std::unique_ptr<Formulario> sale = std::move(*hija);
+        hijas_.erase(hija);
+        Descargar(std::move(sale));
+        return;
+    }
     const auto hallada = cargadas_.find(forma.Nombre());
     if (hallada == cargadas_.end() || hallada->second.get() != &forma) {
         return;
     }
-    forma.Form_Unload();
-    Olvidar(forma);
-    plataforma_.DescargarForma(forma);
-    descargadas_.push_back(std::move(hallada->second));
+    while (Formulario* hija = HijaActiva(forma)) {
+        Unload(*hija);
+    }
+    std::unique_ptr<Formulario> sale = std::move(hallada->second);
     cargadas_.erase(hallada);
+    Descargar(std::move(sale));
+}
+
+void Aplicacion::Descargar(std::unique_ptr<Formulario> forma) {
+    Proteger([&] { forma->Form_Unload(); });
+    Olvidar(*forma);
+    plataforma_.DescargarForma(*forma);
+    descargadas_.push_back(std::move(forma));
+}
+
+Formulario& Aplicacion::AbrirHija(Formulario& padre, std::unique_ptr<Formulario> hija) {
+    Formulario& forma = *hijas_.emplace_back(std::move(hija));
+    forma.PonerPadre(padre);
+    forma.Cargar();
+    plataforma_.MostrarForma(forma);
+    Activar(forma);
+    return forma;
+}
+
+Formulario* Aplicacion::HijaActiva(const Formulario& padre) const {
+    const auto ultima = std::find_if(hijas_.rbegin(), hijas_.rend(), [&](const std::unique_ptr<Formulario>& hija) {
+        return hija->Padre() == &padre;
+    });
+    return ultima == hijas_.rend() ? nullptr : ultima->get();
 }
 
 void Aplicacion::Terminar() {

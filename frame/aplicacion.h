@@ -8,12 +8,20 @@
 #include <vector>
 
 #include "frame/formulario.h"
+#include "frame/numeros.h"
 #include "frame/plataforma.h"
 
 namespace cuencalia {
 
 /// How to make each form of the program, by its name.
 using TablaFormas = std::map<std::string, std::function<std::unique_ptr<Formulario>(Aplicacion&)>>;
+
+/// Values that all forms share; each handler runs to its end, so they need no protection.
+struct Variables {
+    std::string NombreArchivo;  ///< Name chosen in the last file dialog of a module.
+    Integer NRegistros;         ///< Records of the file or sheet read last.
+    int documentos = 0;         ///< Report documents made since the program started.
+};
 
 /// The running program: its forms, the keyboard focus and the one door by which events come in.
 class Aplicacion {
@@ -58,6 +66,13 @@ class Aplicacion {
     /// Unloads the form and shows the main menu.
     void ModuloCerrar(Formulario& forma);
     void Unload(Formulario& forma);
+    /// Loads and shows a window inside the window of `padre`; there may be several of one name.
+    Formulario& AbrirHija(Formulario& padre, std::unique_ptr<Formulario> hija);
+    /// The window inside `padre` that was active last, or null.
+    Formulario* HijaActiva(const Formulario& padre) const;
+
+    Variables& Globales() { return variables_; }
+
     /// Ends the program at once, with no question and no unloading.
     void Terminar();
     bool Terminada() const { return terminada_; }
@@ -69,6 +84,7 @@ class Aplicacion {
     void AbrirAyuda();
 
   private:
+    void Descargar(std::unique_ptr<Formulario> forma);
     void Proteger(const std::function<void()>& accion);
     void EntregarFoco(Control& control);
 
@@ -76,6 +92,9 @@ class Aplicacion {
     TablaFormas formas_;
     std::string menuPrincipal_;
     std::map<std::string, std::unique_ptr<Formulario>> cargadas_;
+    /// Windows inside others, the one active last at the end.
+    std::vector<std::unique_ptr<Formulario>> hijas_;
+    Variables variables_;
     /// Unloaded inside a handler of their own; they go when the handler has ended.
     std::vector<std::unique_ptr<Formulario>> descargadas_;
     std::deque<Control*> focosPedidos_;

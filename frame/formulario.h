@@ -27,6 +27,10 @@ class Formulario : public Control {
 
     const Disposicion& Distribucion() const { return disposicion_; }
 
+    /// The form inside whose window this one stands, or null.
+    Formulario* Padre() const { return padre_; }
+    void PonerPadre(Formulario& padre) { padre_ = &padre; }
+
     /// Lays the form out and runs Form_Load: the application does it once, before the form is shown.
     void Cargar();
     virtual void Form_Load() {}
@@ -50,6 +54,7 @@ class Formulario : public Control {
     std::vector<Control*> controles_;
     std::vector<Menu*> barra_;
     Disposicion disposicion_;
+    Formulario* padre_ = nullptr;
     Control* activo_ = nullptr;
 };
 

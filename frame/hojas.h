@@ -72,11 +72,11 @@ class AccesoHojas {
     /// protected by a password, or too large.
     virtual Hoja LeerPrimeraHoja(const std::string& ruta, int columnas, int filasMax) = 0;
 
-    /// Writes a new workbook (.xlsx) of one sheet with these cells. It replaces the file only when it was written
-    /// whole.
+    /// Writes a new workbook (.xlsx) of one sheet with these cells, numbers with 16 significant digits. It replaces the
+    /// file only when it was written whole.
     ///
-    /// Error 6: a number is not finite; 61: disk full; 75: no access; 76: no such folder; 1004: a cell that a workbook
-    /// cannot hold (beyond row 1,048,576 or column 16,384, or a text of more than 32,767 characters or not UTF-8).
+    /// Error 61: disk full; 75: no access; 76: no such folder; 1004: a cell that a workbook cannot hold (beyond row
+    /// 1,048,576 or column 16,384, a number of 10^308 or more, a text of more than 32,767 characters or not UTF-8).
     virtual void EscribirLibro(const std::string& ruta, const Hoja& hoja) = 0;
 };
 

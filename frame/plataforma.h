@@ -6,7 +6,9 @@
 
 namespace cuencalia {
 
+class AccesoHojas;
 class Formulario;
+class Hoja;
 class Menu;
 
 /// Icon of a message box.
@@ -35,6 +37,8 @@ class Plataforma {
     /// Sends the form's image to the default printer, with no dialog. Raises an error with a clear text where there is
     /// no printer.
     virtual void ImprimirForma(Formulario& forma) = 0;
+    /// Asks for a printer under that title and prints the document, or what is selected in it. Cancel prints nothing.
+    virtual void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) = 0;
     /// Ends the program's message loop.
     virtual void Terminar() = 0;
     /// Runs after each event and all that came of it: the moment to paint.
@@ -51,6 +55,11 @@ class Plataforma {
     /// on Cancel it stays as it was. The filter joins labels and patterns by bars: "Valores X|*.X".
     virtual void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                                std::string& nombre) = 0;
+
+    /// Reading and writing of workbooks.
+    virtual AccesoHojas& Hojas() = 0;
+    /// Shows a new workbook with these cells in the user's spreadsheet program.
+    virtual void MostrarLibro(const Hoja& hoja) = 0;
 
     /// The text on the system's clipboard; empty when there is none.
     virtual std::string TextoDelPortapapeles() const = 0;

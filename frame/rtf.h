@@ -18,7 +18,7 @@ bool EsRtf(std::string_view texto);
 std::string EscribirRtf(const TextoRico& texto, ClaseRtf clase = ClaseRtf::kDocumento,
                         std::string_view fuenteBase = kFuenteReporte);
 
-/// Reads RTF source by the Rich Text Format Specification 1.9.1 (Microsoft, 2008). Pictures, headers, notes on the
+/// Reads RTF source as Rich Text Format 1.9.1 defines it (Microsoft, 2008). Pictures, headers, notes on the
 /// document and unknown optional groups are passed over; table cells are parted by tabs, their rows by line breaks.
 /// Source that is cut or makes no sense is read as far as it goes; text that is not RTF source is taken as it stands.
 TextoRico LeerRtf(std::string_view fuente, ClaseRtf clase = ClaseRtf::kDocumento);

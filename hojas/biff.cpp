@@ -9,16 +9,14 @@
 #include <string>
 #include <vector>
 
-#include "hojas/contenedor.h"
 #include "hojas/errores_libro.h"
+#include "hojas/ole.h"
 
 namespace cuencalia {
 
 namespace {
 
 using Bytes = std::span<const std::byte>;
-
-constexpr std::size_t kMaxFlujo = std::size_t{256} << 20;
 
 enum TipoRegistro : std::uint16_t {
     kFormula = 0x0006,
@@ -442,20 +440,18 @@ void LeerBiff(std::span<const std::byte> flujo, ArmadorHoja& armador) {
 }
 
 void LeerXls(std::span<const std::byte> bytes, ArmadorHoja& armador) {
-    const Contenedor documento = Contenedor::Ole(bytes);
-    if (documento.Tiene("EncryptedPackage")) {
+    const DocumentoOle documento(bytes);
+    if (documento.Flujo("EncryptedPackage")) {
         FallarProtegido();
     }
-    const std::string nombre = documento.Tiene("Workbook") ? "Workbook" : "Book";
-    if (!documento.Tiene(nombre)) {
+    auto flujo = documento.Flujo("Workbook");
+    if (!flujo) {
+        flujo = documento.Flujo("Book");
+    }
+    if (!flujo) {
         FallarNoEsLibro();
     }
-    std::vector<std::byte> flujo;
-    documento.Recorrer(nombre, kMaxFlujo, [&](std::span<const std::byte> trozo) {
-        flujo.insert(flujo.end(), trozo.begin(), trozo.end());
-        return true;
-    });
-    LeerBiff(flujo, armador);
+    LeerBiff(*flujo, armador);
 }
 
 }  // namespace cuencalia

@@ -1,4 +1,5 @@
 #include <glib.h>
+#include <locale.h>
 #include <unistd.h>
 #include <xlsxwriter.h>
 
@@ -70,7 +71,7 @@ class ArchivoProvisional {
         if (!std::filesystem::exists(destino, error)) {
             return destino;
         }
-        if (access(destino.c_str(), W_OK) != 0 || std::filesystem::is_directory(destino, error)) {
+        if (access(destino.c_str(), W_OK) != 0 || !std::filesystem::is_regular_file(destino, error)) {
             throw ErrorEjecucion(kAccesoRuta);
         }
         const auto real = std::filesystem::canonical(destino, error);
@@ -79,6 +80,22 @@ class ArchivoProvisional {
 
     std::filesystem::path destino_;
     std::string ruta_;
+};
+
+// The writer prints numbers by the locale of the calling thread, and a decimal comma makes the workbook unreadable.
+class PuntoDecimal {
+  public:
+    PuntoDecimal() : neutro_(newlocale(LC_ALL_MASK, "C", nullptr)), previo_(uselocale(neutro_)) {}
+    PuntoDecimal(const PuntoDecimal&) = delete;
+    PuntoDecimal& operator=(const PuntoDecimal&) = delete;
+    ~PuntoDecimal() {
+        uselocale(previo_);
+        freelocale(neutro_);
+    }
+
+  private:
+    locale_t neutro_;
+    locale_t previo_;
 };
 
 [[noreturn]] void FallarCelda() {
@@ -112,6 +129,7 @@ void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const Valo
 }  // namespace
 
 void LibrosDeCalculo::EscribirLibro(const std::string& ruta, const Hoja& hoja) {
+    const PuntoDecimal neutro;
     ArchivoProvisional archivo(ruta);
     lxw_workbook* libro = workbook_new(archivo.Ruta().c_str());
     if (libro == nullptr) {

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "hojas/contenedor.h"
 #include "hojas/errores_libro.h"
 #include "hojas/xml.h"
+#include "hojas/zip.h"
 
 namespace cuencalia {
 
@@ -26,7 +26,7 @@ constexpr std::size_t kMaxBytesDeCelda = 32767 * 7;
 constexpr int kMaxFilas = 1048576;
 constexpr int kMaxColumnas = 16384;
 
-void LeerParte(const Contenedor& libro, const std::string& parte, std::size_t limite, LectorXml& lector) {
+void LeerParte(const ArchivoZip& libro, const std::string& parte, std::size_t limite, LectorXml& lector) {
     libro.Recorrer(parte, limite, [&](std::span<const std::byte> trozo) { return lector.Alimentar(trozo); });
     lector.Concluir();
 }
@@ -121,7 +121,7 @@ class LectorRelaciones : public LectorXml {
     std::string carpeta_;
 };
 
-std::vector<Relacion> RelacionesDe(const Contenedor& libro, const std::string& parte) {
+std::vector<Relacion> RelacionesDe(const ArchivoZip& libro, const std::string& parte) {
     const std::string carpeta = CarpetaDe(parte);
     const std::string nombre = parte.substr(carpeta.empty() ? 0 : carpeta.size() + 1);
     LectorRelaciones lector(carpeta);
@@ -384,7 +384,7 @@ class LectorHoja : public LectorXml {
 }  // namespace
 
 void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador) {
-    const Contenedor libro = Contenedor::Zip(bytes);
+    const ArchivoZip libro(bytes);
     if (!libro.Tiene("_rels/.rels")) {
         FallarNoEsLibro();
     }

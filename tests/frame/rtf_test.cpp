@@ -160,7 +160,7 @@ TEST(EscribirRtf, LibreOfficeLeeLoEscrito) {
     fs::remove_all(carpeta);
 }
 
-// The texts follow from the Rich Text Format Specification 1.9.1, by the section named with each group.
+// The texts follow from the definition of Rich Text Format 1.9.1, by the section named with each group.
 TEST(LeerRtf, Textos) {
     struct Caso {
         std::string rtf;

@@ -48,6 +48,10 @@ std::string PlataformaGuion::LeerAjuste(const std::string& clave, const std::str
 
 void PlataformaGuion::ImprimirForma(Formulario& forma) { impresas.push_back(forma.Nombre()); }
 
+void PlataformaGuion::ImprimirDocumento(Formulario& documento, bool, const std::string&) {
+    impresas.push_back(documento.Nombre());
+}
+
 void PlataformaGuion::AbrirConShell(const std::string& ruta) {
     if (shellFalla) {
         throw ErrorEjecucion(kArgumentoNoValido);

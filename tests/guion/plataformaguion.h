@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "frame/hojas.h"
 #include "frame/plataforma.h"
+#include "hojas/libros.h"
 
 namespace cuencalia::pruebas {
 
@@ -24,6 +26,9 @@ class PlataformaGuion : public Plataforma {
     void DescargarForma(Formulario& forma) override;
     void MenuEmergente(Menu& menu) override;
     void ImprimirForma(Formulario& forma) override;
+    void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
+    AccesoHojas& Hojas() override { return libros_; }
+    void MostrarLibro(const Hoja& hoja) override { libro = hoja; }
     void Terminar() override { terminado = true; }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override { return "/cuencalia"; }
@@ -36,7 +41,8 @@ class PlataformaGuion : public Plataforma {
 
     std::vector<Mensaje> mensajes;
     std::vector<ErrorEjecucion> errores;
-    std::vector<std::string> impresas;  ///< Forms sent to the printer, by name.
+    std::vector<std::string> impresas;  ///< Forms and documents sent to the printer, by name.
+    Hoja libro;                         ///< The workbook shown last.
     std::vector<std::string> abiertos;  ///< Files handed to the shell.
     std::string portapapeles;
     std::map<std::string, std::string> ajustes;
@@ -53,6 +59,9 @@ class PlataformaGuion : public Plataforma {
     /// When set, the shell cannot be called.
     bool shellFalla = false;
     bool terminado = false;
+
+  private:
+    LibrosDeCalculo libros_;
 };
 
 }  // namespace cuencalia::pruebas

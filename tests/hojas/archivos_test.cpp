@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <clocale>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -103,7 +105,7 @@ TEST_F(ArchivosDeHojas, CortadosEnCualquierByte) {
 }
 
 TEST_F(ArchivosDeHojas, LoEscritoSeLeeIgual) {
-    const double maximo = std::numeric_limits<double>::max();
+    const double maximo = 9.99999999999999E307;  // the greatest number of a cell
     Hoja hoja;
     const Filas filas = {{Double(0.1), "río Ω €"},
                          {Double(-1.0 / 3), "<a & \"b\">"},
@@ -121,6 +123,20 @@ TEST_F(ArchivosDeHojas, LoEscritoSeLeeIgual) {
     EXPECT_EQ(libros_.LeerPrimeraHoja(Ruta("nuevo.xlsx"), 2, 1501).Filas(), 0);
 }
 
+// Desktop toolkits adopt the user's locale for the whole program, decimal comma included.
+TEST_F(ArchivosDeHojas, LaComaDecimalDelSistemaNoEntraEnElLibro) {
+    const std::string previa = std::setlocale(LC_NUMERIC, nullptr);
+    if (std::setlocale(LC_NUMERIC, "es_ES.UTF-8") == nullptr && std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr) {
+        GTEST_SKIP() << "no locale with a decimal comma on this system";
+    }
+    Hoja hoja;
+    hoja.Poner(1, 1, Double(0.5));
+    libros_.EscribirLibro(Ruta("coma.xlsx"), hoja);
+    const ValorCelda leida = libros_.LeerPrimeraHoja(Ruta("coma.xlsx"), 1, 1).Cells(1, 1);
+    std::setlocale(LC_NUMERIC, previa.c_str());
+    EXPECT_EQ(leida, ValorCelda(Double(0.5)));
+}
+
 TEST_F(ArchivosDeHojas, UnFalloAlEscribirDejaElArchivoAnterior) {
     auto con = [](ValorCelda valor, int fila = 1, int columna = 1) {
         Hoja hoja;
@@ -133,13 +149,16 @@ TEST_F(ArchivosDeHojas, UnFalloAlEscribirDejaElArchivoAnterior) {
     EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con("\xFF")), kErrorLibro);
     EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con("a", 1048577)), kErrorLibro);
     EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con("a", 1, 65537)), kErrorLibro);
-    EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con(Double(std::numeric_limits<double>::quiet_NaN()))),
-              kDesbordamiento);
+    EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con(Double(1e308))), kErrorLibro);
+    EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx"), con(Double(std::numeric_limits<double>::quiet_NaN()))), kErrorLibro);
     EXPECT_EQ(ErrorAlEscribir(Ruta("no_hay/libro.xlsx"), con("a")), kRutaNoEncontrada);
     EXPECT_EQ(ErrorAlEscribir(carpeta_.string(), con("a")), kAccesoRuta);
+    ASSERT_EQ(mkfifo(Ruta("tubo").c_str(), 0600), 0);
+    EXPECT_EQ(ErrorAlEscribir(Ruta("tubo"), con("a")), kAccesoRuta);
+    EXPECT_EQ(ErrorAlLeer(Ruta("tubo")), kAccesoRuta);
     EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx/libro.xlsx"), con("a")), kAccesoRuta);
 
-    EXPECT_EQ(Archivos(), 1U);
+    EXPECT_EQ(Archivos(), 2U);  // nothing half-written beside the old workbook and the pipe
     EXPECT_EQ(libros_.LeerPrimeraHoja(Ruta("viejo.xlsx"), 1, 10).Cells(1, 1), ValorCelda("viejo"));
 }
 

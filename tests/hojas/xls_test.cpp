@@ -28,6 +28,8 @@ Bytes LibroDe(std::uint16_t version, const Flujo& celdas, const Flujo& globales 
         .Crudo();
 }
 
+std::string Texto(const Bytes& bytes) { return {reinterpret_cast<const char*>(bytes.data()), bytes.size()}; }
+
 Flujo Numero(unsigned fila, unsigned columna, double valor) {
     return Flujo(0).Registro(0x0203, Celda(fila, columna) + F64(valor));
 }
@@ -49,7 +51,8 @@ TEST(Xls, LoQueEscribeXlwt) {
 }
 
 TEST(Xls, RegistrosDeCeldas) {
-    // RK examples of OpenOffice.org's "Documentation of the Microsoft Excel File Format", section 2.5.5.
+    // RK values: the upper half of 1.0; the same in hundredths; 1234321 * 4 + 2 = 0x4B5646; the same in hundredths;
+    // -3 * 4 + 2 = -10.
     const Flujo celdas = Flujo(0)
                              .Registro(0x027E, Celda(0, 0) + U32(0x3FF00000))
                              .Registro(0x00BD, U16(0) + U16(1) + U16(0) + U32(0x3FF00001) + U16(0) + U32(0x004B5646) +
@@ -61,7 +64,7 @@ TEST(Xls, RegistrosDeCeldas) {
                              .Agregar(Numero(2, 0, -0.75))
                              .Registro(0x0205, Celda(2, 1) + "\x2A\1"s)
                              .Registro(0x0201, Celda(2, 2));
-    const Filas esperadas = {{Double(1), Double(0.01), Double(1234567), Double(12345.67)},
+    const Filas esperadas = {{Double(1), Double(0.01), Double(1234321), Double(12343.21)},
                              {Double(-3), "ño", "Ω!", "Verdadero"},
                              {Double(-0.75), "#N/A", kVacia, kVacia}};
     EXPECT_EQ(Leer(LibroDe(kBiff8, celdas), 4), esperadas);
@@ -110,8 +113,7 @@ TEST(Xls, LibroDeExcel5) {
     const Filas esperadas = {{"€ño", "sí", Double(0.1)}};
     const Bytes crudo = LibroDe(kBiff5, celdas, pagina);
     EXPECT_EQ(Leer(crudo, 3), esperadas);
-    const std::string flujo(reinterpret_cast<const char*>(crudo.data()), crudo.size());
-    EXPECT_EQ(Leer(Ole({{"Book", flujo}}), 3), esperadas);
+    EXPECT_EQ(Leer(Ole({{"Book", Texto(crudo)}}), 3), esperadas);
 }
 
 TEST(Xls, LaPrimeraHojaDeCalculo) {
@@ -168,6 +170,28 @@ TEST(Xls, RechazaLoDanado) {
     const Flujo textos =
         Flujo(0).Registro(0x00FC, U32(0xFFFFFFFF) + U32(0xFFFFFFFF) + U16(1) + "\4"s + U32(0xFFFFFFFF) + "a");
     EXPECT_EQ(Rechazo(LibroDe(kBiff8, celda, textos)), danado);
+}
+
+TEST(Xls, UnLibroIncrustadoNoEsElLibro) {
+    // One stream is short and lives among the small sectors, the other is not.
+    const std::string uno = Texto(LibroDe(kBiff8, Numero(0, 0, 1)));
+    const std::string otro = Texto(LibroDe(kBiff8, Numero(0, 0, 2))) + std::string(5000, '\0');
+    EXPECT_EQ(Leer(Ole({{"MBD00/Workbook", otro}, {"Workbook", uno}}), 1), kUno);
+    EXPECT_EQ(Leer(Ole({{"A/Workbook", uno}, {"WORKBOOK", otro}}), 1), Filas{{Double(2)}});
+    EXPECT_EQ(Rechazo(Ole({{"MBD00/Workbook", uno}})), "El archivo no es un libro de Excel (.xls o .xlsx)");
+}
+
+TEST(Xls, EntradasDeDirectorioEnCirculo) {
+    // Byte 48 of the header names the sector of the directory; each entry has its neighbours at bytes 68 and 72.
+    Bytes libro = Ole({{"Uno", "1"}, {"Dos", "2"}, {"Tres", "3"}});
+    const std::size_t directorio = 512 * (std::to_integer<std::size_t>(libro.at(48)) + 1);
+    const std::string circulo = U32(1) + U32(2);
+    for (std::size_t entrada = 0; entrada < 4; ++entrada) {
+        for (std::size_t i = 0; i < circulo.size(); ++i) {
+            libro.at(directorio + 128 * entrada + 68 + i) = static_cast<std::byte>(circulo[i]);
+        }
+    }
+    EXPECT_EQ(Rechazo(libro), "El archivo no es un libro de Excel (.xls o .xlsx)");
 }
 
 TEST(Xls, CadenasDeSectoresEnCirculo) {

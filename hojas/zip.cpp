@@ -1,11 +1,10 @@
-#include "hojas/contenedor.h"
+#include "hojas/zip.h"
 
 #include <gsf/gsf.h>
 
 #include <algorithm>
 #include <array>
-#include <string_view>
-#include <utility>
+#include <mutex>
 
 #include "hojas/errores_libro.h"
 
@@ -16,30 +15,10 @@ namespace {
 // The library comments on every oddity of a damaged file, without end; the caller learns of it by the error.
 void Callar(const char*, GLogLevelFlags, const char*, void*) {}
 
-bool Iniciar() {
+void Iniciar() {
     gsf_init();
-    for (const char* dominio : {"libgsf:msole", "libgsf:zip"}) {
-        g_log_set_handler(dominio, static_cast<GLogLevelFlags>(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL), Callar,
-                          nullptr);
-    }
-    return true;
-}
-
-GsfInput* EntradaDeMemoria(std::span<const std::byte> bytes) {
-    [[maybe_unused]] static const bool iniciada = Iniciar();
-    return gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()), static_cast<gsf_off_t>(bytes.size()),
-                                FALSE);
-}
-
-template <typename Abridor>
-void* AbrirContenedor(std::span<const std::byte> bytes, Abridor abrir) {
-    GsfInput* entrada = EntradaDeMemoria(bytes);
-    GsfInfile* archivo = abrir(entrada, nullptr);
-    g_object_unref(entrada);
-    if (archivo == nullptr) {
-        FallarDanado();
-    }
-    return archivo;
+    constexpr int kAvisos = G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL;
+    g_log_set_handler("libgsf:zip", static_cast<GLogLevelFlags>(kAvisos), Callar, nullptr);
 }
 
 GsfInput* HijoLlamado(GsfInput* carpeta, const std::string& nombre) {
@@ -59,17 +38,20 @@ GsfInput* HijoLlamado(GsfInput* carpeta, const std::string& nombre) {
 
 }  // namespace
 
-void Contenedor::Soltar::operator()(void* objeto) const { g_object_unref(objeto); }
+void ArchivoZip::Soltar::operator()(void* objeto) const { g_object_unref(objeto); }
 
-Contenedor Contenedor::Zip(std::span<const std::byte> bytes) {
-    return Contenedor(Objeto(AbrirContenedor(bytes, gsf_infile_zip_new)));
+ArchivoZip::ArchivoZip(std::span<const std::byte> bytes) {
+    static std::once_flag iniciada;
+    std::call_once(iniciada, Iniciar);
+    const Objeto entrada(gsf_input_memory_new(reinterpret_cast<const guint8*>(bytes.data()),
+                                              static_cast<gsf_off_t>(bytes.size()), FALSE));
+    raiz_.reset(gsf_infile_zip_new(GSF_INPUT(entrada.get()), nullptr));
+    if (raiz_ == nullptr) {
+        FallarDanado();
+    }
 }
 
-Contenedor Contenedor::Ole(std::span<const std::byte> bytes) {
-    return Contenedor(Objeto(AbrirContenedor(bytes, gsf_infile_msole_new)));
-}
-
-Contenedor::Objeto Contenedor::Abrir(const std::string& parte) const {
+ArchivoZip::Objeto ArchivoZip::Abrir(const std::string& parte) const {
     Objeto actual(g_object_ref(raiz_.get()));
     for (std::size_t inicio = 0; actual != nullptr && inicio <= parte.size();) {
         const std::size_t fin = std::min(parte.find('/', inicio), parte.size());
@@ -79,9 +61,9 @@ Contenedor::Objeto Contenedor::Abrir(const std::string& parte) const {
     return actual;
 }
 
-bool Contenedor::Tiene(const std::string& parte) const { return Abrir(parte) != nullptr; }
+bool ArchivoZip::Tiene(const std::string& parte) const { return Abrir(parte) != nullptr; }
 
-void Contenedor::Recorrer(const std::string& parte, std::size_t limite, const Receptor& recibir) const {
+void ArchivoZip::Recorrer(const std::string& parte, std::size_t limite, const Receptor& recibir) const {
     const Objeto objeto = Abrir(parte);
     if (objeto == nullptr) {
         FallarDanado();

@@ -8,15 +8,14 @@
 
 namespace cuencalia {
 
-/// A file made of named parts, held in memory: a ZIP archive or an OLE2 document. The bytes must outlive it.
-class Contenedor {
+/// A ZIP archive held in memory, as a tree of named parts. The bytes must outlive it.
+class ArchivoZip {
   public:
     /// Takes a piece of a part; false ends the reading.
     using Receptor = std::function<bool(std::span<const std::byte>)>;
 
-    /// Error 1004 when the bytes are no sound container of the kind.
-    static Contenedor Zip(std::span<const std::byte> bytes);
-    static Contenedor Ole(std::span<const std::byte> bytes);
+    /// Error 1004 when the bytes are no sound archive.
+    explicit ArchivoZip(std::span<const std::byte> bytes);
 
     /// Part names have '/' between folders, none in front, and do not tell capitals from small letters.
     bool Tiene(const std::string& parte) const;
@@ -31,7 +30,6 @@ class Contenedor {
     };
     using Objeto = std::unique_ptr<void, Soltar>;
 
-    explicit Contenedor(Objeto raiz) : raiz_(std::move(raiz)) {}
     Objeto Abrir(const std::string& parte) const;
 
     Objeto raiz_;

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "frame/flexgrid.h"
+#include "frame/richtextbox.h"
+
+namespace cuencalia {
+
+/// Writes a module's report at the insertion point of a document. Numbers are the texts that the module's grids and
+/// boxes show.
+class Reporte {
+  public:
+    explicit Reporte(EditorTextoRico& documento) : documento_(documento) {}
+
+    /// Margin of a report, and centred from here on.
+    void ReporteAbrir();
+    /// 0 left, 2 centred, from here on.
+    void ReporteAlinear(int alineacion) { documento_.SelAlignment(alineacion); }
+    void ReporteTexto(std::string_view texto) { documento_.SelRTF(texto); }
+    void ReporteLinea(std::string_view texto) { ReporteTexto(std::string(texto) + "\n"); }
+    void ReporteBlanco() { ReporteTexto("\n"); }
+    /// So many dashes, without a line end.
+    void ReporteRegla(int guiones);
+    /// The same with its line end.
+    void LineaDeGuiones(int guiones);
+
+    /// "Resultados" and the title, centred; then left alignment and a blank line.
+    void Cabecera(std::string_view titulo);
+    /// The title of a block, its line end and a blank line.
+    void Titulo(std::string_view titulo);
+    /// The table of a data or sorted grid: title, rule, headings (each with a blank before and two tabs behind), rule,
+    /// the rows `desde` to `hasta` with two tabs behind each cell, rule, blank line.
+    void TablaDeSerie(std::string_view titulo, FlexGrid& grid, int hasta, int guiones);
+    /// A row of cells, each centred by blanks in `ancho` characters, with so many blanks more before the texts of
+    /// column `columnaExtra`.
+    void FilaCentrada(const FlexGrid& grid, int fila, int ancho, int columnaExtra, int extra);
+
+  private:
+    EditorTextoRico& documento_;
+};
+
+/// Blanks that centre a text in so many characters: (width - length) / 2, a half going to the even number; none for a
+/// text that is too long.
+std::string Relleno(std::string_view texto, int ancho);
+
+}  // namespace cuencalia
