@@ -86,6 +86,8 @@ QLabel[papel="encabezado"] { font-weight: 600; }
 QLabel[papel="nota"] { color: @tenue; }
 QLabel[papel="titulo"] { color: white; font-size: 30pt; font-weight: 600; }
 QLabel[papel="lema"] { color: white; font-size: 13pt; }
+QLabel[papel="pantalla"] { background: @base; border: 1px solid @linea; border-radius: 5px; padding: 8px 12px;
+    font-family: monospace; font-size: 20pt; qproperty-alignment: 'AlignRight | AlignVCenter'; }
 QLabel[papel="estado"] { color: @tenue; padding: 3px 12px; border-top: 1px solid @linea; }
 QMenuBar { background: @base; border-bottom: 1px solid @linea; padding: 2px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }

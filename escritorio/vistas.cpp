@@ -122,7 +122,7 @@ class VistaEtiqueta : public Vista {
   public:
     VistaEtiqueta(Escritorio& escritorio, Label& etiqueta, QLabel* texto)
         : Vista(escritorio, etiqueta, texto), etiqueta_(etiqueta), texto_(texto) {
-        static constexpr const char* kPapeles[] = {"texto", "encabezado", "nota", "titulo", "lema"};
+        static constexpr const char* kPapeles[] = {"texto", "encabezado", "nota", "titulo", "lema", "pantalla"};
         texto_->setProperty("papel", QLatin1String(kPapeles[static_cast<int>(etiqueta.SuPapel())]));
         texto_->setWordWrap(etiqueta.SuPapel() == Papel::Nota);
         texto_->setTextFormat(Qt::PlainText);

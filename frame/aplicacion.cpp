@@ -121,6 +121,10 @@ void Aplicacion::Activar(Formulario& forma) {
     if (hija != hijas_.end()) {
         std::rotate(hija, hija + 1, hijas_.end());
     }
+    if (Formulario* dentro = HijaActiva(forma)) {
+        Activar(*dentro);
+        return;
+    }
     Control* destino = forma.ControlActivo();
     if (destino == nullptr || !destino->PuedeRecibirFoco()) {
         destino = forma.PrimerControl();

@@ -80,6 +80,8 @@ class Control {
     Propiedad<std::string> ToolTipText{*this};
     /// What a screen reader calls the control where its own texts do not say it.
     Propiedad<std::string> NombreAccesible{*this};
+    /// A text that the form keeps with the control; nothing shows it.
+    Propiedad<std::string> Tag{*this};
 
     Evento<> Click;
     Evento<> GotFocus;

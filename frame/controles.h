@@ -59,6 +59,7 @@ enum class Papel {
     Nota,        ///< Explains; may take several lines.
     Titulo,      ///< The program's name over its picture.
     Lema,        ///< What stands below it.
+    Pantalla,    ///< The number on a calculator's display, at its right edge.
 };
 
 /// A text that names or tells something.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "frame/frmPadre.h"
+#include "frame/hojas.h"
 #include "frame/textos.h"
 
 namespace cuencalia {
@@ -15,6 +17,17 @@ constexpr int kAltoEncabezado = 340;
 constexpr int kFilasALaVista = 14;
 constexpr const char* kMarcaEspera = "[?]";
 constexpr const char* kMarcaEntrada = "[->]";
+constexpr const char* kCalculadora = "frmCalculadora";
+constexpr const char* kVentanaReportes = "frmPadre";
+
+/// A number of a sheet by the pattern of the cells; a text as it stands.
+std::string TextoDeCelda(const ValorCelda& valor) {
+    if (const auto* numero = std::get_if<Double>(&valor)) {
+        return Format(*numero, kPatronEdicionB);
+    }
+    const auto* texto = std::get_if<std::string>(&valor);
+    return texto == nullptr ? std::string() : *texto;
+}
 
 }  // namespace
 
@@ -24,6 +37,10 @@ MarcoModulo::MarcoModulo(Aplicacion& app, std::string nombre, const std::string&
     bLimpiar.Click.Conectar([this] { bLimpiar_Click(); });
     bImprimir.Click.Conectar([this] { bImprimir_Click(); });
     bMenu.Click.Conectar([this] { bMenu_Click(); });
+    bReporte.Click.Conectar([this] { bReporte_Click(); });
+    if (app.Existe(kCalculadora)) {
+        bCalculadora.Click.Conectar([this] { bCalculadora_Click(); });
+    }
     MouseMove.Conectar([this] { ApagarBotones(nullptr); });
     for (Frame* marco : {&Frame6, &Frame7, &fraCalculadora}) {
         marco->MouseMove.Conectar([this, marco] { ApagarBotones(marco); });
@@ -39,6 +56,23 @@ void MarcoModulo::Form_Load() {
 void MarcoModulo::bImprimir_Click() { App().Sistema().ImprimirForma(*this); }
 
 void MarcoModulo::bMenu_Click() { App().ModuloCerrar(*this); }
+
+void MarcoModulo::bCalculadora_Click() { App().ModuloAbrir(kCalculadora); }
+
+void MarcoModulo::bReporte_Click() {
+    auto& padre = static_cast<frmPadre&>(App().ModuloAbrir(kVentanaReportes));
+    try {
+        frmDocumento* documento = padre.ActiveForm();
+        if (documento == nullptr) {
+            throw ErrorEjecucion(kObjetoNoEstablecido);
+        }
+        Reporte reporte(documento->rtfText.Editor());
+        reporte.Cabecera(Caption());
+        GenerarReporte(reporte);
+    } catch (const ErrorEjecucion&) {
+        App().MsgBox("No se puede editar el reporte: " + Caption(), kIconoInformacion, "Mensaje de error");
+    }
+}
 
 void MarcoModulo::AgregarBoton(CommandButton& boton, const std::string& imagen) {
     botones_.push_back({&boton, ImageList1.AgregarPar(imagen)});
@@ -82,6 +116,16 @@ ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionMod
     txtt.LostFocus.Conectar([this] { StatusBar1.PonerPanel(1, ""); });
     txtt.KeyDown.Conectar([this](int codigo) { txtt_KeyDown(codigo); });
     txtt.KeyPress.Conectar([](int& keyAscii) { keyAscii = keyAscii == kTeclaEnter ? 0 : keyAscii; });
+    cdCrear.DialogTitle = "Ubicar directorio y escribir el nombre archivo a crear";
+    cdAccesar.DialogTitle = cdCargarExcel.DialogTitle = "Seleccionar el archivo a cargar";
+    cdCargarExcel.Filter = "Archivos de Excel 97-2003|*.xls|Archivos de Excel 07-2010|*.xlsx";
+    if (descripcion_.archivo != nullptr) {
+        cdCrear.Filter = descripcion_.archivo->FiltroCrear();
+        cdAccesar.Filter = descripcion_.archivo->FiltroAccesar();
+        bCrear.Click.Conectar([this] { bCrear_Click(); });
+        bAccesar.Click.Conectar([this] { bAccesar_Click(); });
+        bCargarExcel.Click.Conectar([this] { bCargarExcel_Click(); });
+    }
     mnuEditInsertar.Click.Conectar([this] { InsertarFila(); });
     mnuEditEliminar.Click.Conectar([this] { EliminarFila(); });
 }
@@ -230,8 +274,94 @@ void ModuloCalculo::EliminarFila() {
 
 void ModuloCalculo::LimpiarModulo() {
     IniciarGrid();
+    LimpiarResultados();
+}
+
+void ModuloCalculo::LimpiarResultados() {
     InicializarResultados();
     LimpiarOtros();
+}
+
+void ModuloCalculo::ConTrampa(const char* mensaje, const std::function<void()>& orden) {
+    try {
+        orden();
+    } catch (const ErrorEjecucion& error) {
+        if (error.Numero() == kDialogoCancelado) {
+            App().MsgBox(mensaje + App().Globales().NombreArchivo);
+        }
+    }
+}
+
+void ModuloCalculo::bCrear_Click() {
+    ConTrampa("Error desconocido al salvar el archivo ", [this] {
+        cdCrear.ShowSave();
+        App().Globales().NombreArchivo = cdCrear.FileName;
+        CargarMatrices();
+        EscritorSerie archivo(cdCrear.FileName, descripcion_.archivo->valores);
+        for (int i = 1; i <= n; ++i) {
+            Registro registro;
+            for (std::size_t c = 0; c < columnas_.size(); ++c) {
+                registro[c] = CSng((*columnas_[c])(i));
+            }
+            archivo.Escribir(registro);
+        }
+        for (const Registro& registro : RegistrosDeCola()) {
+            archivo.Escribir(registro);
+        }
+    });
+}
+
+void ModuloCalculo::bAccesar_Click() {
+    LimpiarResultados();
+    ConTrampa("Error desconocido al abrir el archivo ", [this] {
+        cdAccesar.ShowOpen();
+        App().Globales().NombreArchivo = cdAccesar.FileName;
+        IniciarGrid();
+        n = 0;
+        LectorSerie archivo(cdAccesar.FileName, descripcion_.archivo->valores);
+        App().Globales().NRegistros = Integer(archivo.Registros());
+        grdt.PonerRows(archivo.Registros() + 2);
+        for (int i = 1; i <= archivo.Registros(); ++i) {
+            const Registro registro = archivo.Leer();
+            grdt.PonerTextMatrix(i, 0, Etiqueta(i));
+            for (int c = 1; c <= UltimaColumna(); ++c) {
+                grdt.PonerTextMatrix(i, c, Format(registro[static_cast<std::size_t>(c - 1)], kPatronEdicionA));
+            }
+        }
+        TerminarCarga(archivo.Registros());
+    });
+}
+
+void ModuloCalculo::bCargarExcel_Click() {
+    LimpiarResultados();
+    ConTrampa("Error desconocido al abrir el archivo ", [this] {
+        IniciarGrid();
+        cdCargarExcel.ShowOpen();
+        App().Globales().NombreArchivo = cdCargarExcel.FileName;
+        // One row more than the arrays hold, to learn that a sheet is too long for them.
+        const int filasMax = columnas_.at(0)->UBound();
+        const Hoja hoja =
+            App().Sistema().Hojas().LeerPrimeraHoja(cdCargarExcel.FileName, UltimaColumna(), filasMax + 1);
+        const int filas = hoja.Filas();
+        if (filas > filasMax) {
+            throw ErrorEjecucion(kSubindiceFuera);
+        }
+        App().Globales().NRegistros = Integer(filas);
+        grdt.PonerRows(filas + 2);
+        for (int i = 1; i <= filas; ++i) {
+            grdt.PonerTextMatrix(i, 0, Str(i));
+            for (int c = 1; c <= UltimaColumna(); ++c) {
+                grdt.PonerTextMatrix(i, c, TextoDeCelda(hoja.Cells(i, c)));
+            }
+        }
+        TerminarCarga(filas);
+    });
+}
+
+void ModuloCalculo::TerminarCarga(int filas) {
+    Marcar(kMarcaEntrada);
+    grdt.PonerCelda(filas + 1, 1);
+    n = filas;
 }
 
 void ModuloCalculo::IrACeldaPorLlenar(int k) {

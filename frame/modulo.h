@@ -4,9 +4,12 @@
 #include <vector>
 
 #include "frame/aplicacion.h"
+#include "frame/archivoserie.h"
 #include "frame/controles.h"
+#include "frame/dialogo.h"
 #include "frame/flexgrid.h"
 #include "frame/numeros.h"
+#include "frame/reporte.h"
 
 namespace cuencalia {
 
@@ -30,6 +33,7 @@ struct DescripcionModulo {
     int columnaSel = 0;         ///< Last column that a right click selects; 0: the last data column.
     int columnaSelEntrada = 0;  ///< The same on the entry row; 0: as elsewhere.
     std::string tituloDatos = "Ingreso de datos:";
+    const TipoArchivo* archivo = nullptr;  ///< Of the module's series files; null for a module without files.
 };
 
 /// What every module window has, with or without a data grid: the action buttons with their lit pictures, the status
@@ -56,6 +60,13 @@ class MarcoModulo : public Formulario {
     void bLimpiar_Click() { LimpiarModulo(); }
     virtual void bImprimir_Click();
     void bMenu_Click();
+    /// Opens the pocket calculator.
+    void bCalculadora_Click();
+    /// Shows the report window and writes the module's report into its active document.
+    void bReporte_Click();
+
+    /// The module's report, from the head on.
+    virtual void GenerarReporte(Reporte& reporte) = 0;
 
     /// Empties the window as if it had just been opened.
     virtual void LimpiarModulo() = 0;
@@ -98,6 +109,7 @@ class ModuloCalculo : public MarcoModulo {
     CommandButton bCrear{*this, "bCrear", "&Crear", "Crear archivo"};
     CommandButton bAccesar{*this, "bAccesar", "&Accesar", "Cargar archivo"};
     CommandButton bCargarExcel{*this, "bCargarExcel", "&Excel", "Cargar archivo desde Excel"};
+    CommonDialog cdCrear{*this, "cdCrear"}, cdAccesar{*this, "cdAccesar"}, cdCargarExcel{*this, "cdCargarExcel"};
 
     /// Number of data rows at the last CargarMatrices; stale after any edit of the grid.
     int n = 0;
@@ -126,13 +138,22 @@ class ModuloCalculo : public MarcoModulo {
     void MenorQue4Celdas() { IrACeldaPorLlenar(4); }
     void MenorQue5Celdas() { IrACeldaPorLlenar(5); }
 
+    /// Stores the grid's columns as Single records; an older file of that name goes without a question.
+    void bCrear_Click();
+    /// Reads a series file into the grid.
+    void bAccesar_Click();
+    /// Reads the first sheet of a workbook, from A1 to the first empty cell of column A, into the grid.
+    void bCargarExcel_Click();
+
     /// Label of data row i (from 1).
     std::string Etiqueta(int i) const;
 
   protected:
     /// The arrays that CargarMatrices fills, one for each data column.
     void LeerEn(std::vector<ArregloBase<Double>*> columnas) { columnas_ = std::move(columnas); }
-    /// Clears the module's other results; part of LimpiarModulo.
+    /// Records that a module's files hold besides those of the data rows, written after them.
+    virtual std::vector<Registro> RegistrosDeCola() { return {}; }
+    /// Clears the module's other results; part of LimpiarModulo and of each load.
     virtual void LimpiarOtros() {}
 
     /// What the module shows beside the data grid.
@@ -152,6 +173,13 @@ class ModuloCalculo : public MarcoModulo {
     void Marcar(const char* marca) { grdt.PonerTextMatrix(FilaEntrada(), 0, marca); }
     void VaciarFila(int fila);
     void IrACeldaPorLlenar(int k);
+
+    /// Runs a file command under the trap that all three share: a cancelled dialog gives the message with the file's
+    /// name, any other error ends the command in silence with what was done so far.
+    void ConTrampa(const char* mensaje, const std::function<void()>& orden);
+    void LimpiarResultados();
+    /// Marks the end of a load and leaves the cursor on the entry row.
+    void TerminarCarga(int filas);
 
     void grdt_GotFocus();
     void grdt_KeyDown(int codigo);

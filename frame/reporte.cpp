@@ -45,17 +45,19 @@ void Reporte::Titulo(std::string_view titulo) {
     ReporteBlanco();
 }
 
-void Reporte::TablaDeSerie(std::string_view titulo, FlexGrid& grid, int hasta, int guiones) {
+void Reporte::TablaDeSerie(std::string_view titulo, const std::vector<std::string>& encabezados, FlexGrid& grid,
+                           int hasta, int guiones) {
     Titulo(titulo);
     LineaDeGuiones(guiones);
-    for (int c = 0; c < grid.Cols(); ++c) {
-        ReporteTexto(" " + grid.TextMatrix(0, c) + "\t\t");
+    for (const std::string& encabezado : encabezados) {
+        ReporteTexto(encabezado + "\t\t");
     }
     ReporteBlanco();
     LineaDeGuiones(guiones);
     for (int fila = 1; fila <= hasta; ++fila) {
         for (int c = 0; c < grid.Cols(); ++c) {
-            ReporteTexto(grid.TextMatrix(fila, c) + "\t\t");
+            grid.PonerCelda(fila, c);
+            ReporteTexto(grid.Text() + "\t\t");
         }
         ReporteBlanco();
     }
@@ -63,13 +65,9 @@ void Reporte::TablaDeSerie(std::string_view titulo, FlexGrid& grid, int hasta, i
     ReporteBlanco();
 }
 
-void Reporte::FilaCentrada(const FlexGrid& grid, int fila, int ancho, int columnaExtra, int extra) {
-    for (int c = 0; c < grid.Cols(); ++c) {
-        const std::string& texto = grid.TextMatrix(fila, c);
-        const std::string relleno = Relleno(texto, ancho);
-        ReporteTexto(relleno + Space(c == columnaExtra ? extra : 0) + texto + relleno);
-    }
-    ReporteBlanco();
+void Reporte::CeldaCentrada(std::string_view texto, int ancho, int extra) {
+    const std::string relleno = Relleno(texto, ancho);
+    ReporteTexto(Space(extra) + relleno + std::string(texto) + relleno);
 }
 
 std::string Relleno(std::string_view texto, int ancho) {

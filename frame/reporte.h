@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "frame/flexgrid.h"
-#include "frame/richtextbox.h"
+#include "frame/textorico.h"
 
 namespace cuencalia {
 
@@ -31,18 +31,18 @@ class Reporte {
     void Cabecera(std::string_view titulo);
     /// The title of a block, its line end and a blank line.
     void Titulo(std::string_view titulo);
-    /// The table of a data or sorted grid: title, rule, headings (each with a blank before and two tabs behind), rule,
-    /// the rows `desde` to `hasta` with two tabs behind each cell, rule, blank line.
-    void TablaDeSerie(std::string_view titulo, FlexGrid& grid, int hasta, int guiones);
-    /// A row of cells, each centred by blanks in `ancho` characters, with so many blanks more before the texts of
-    /// column `columnaExtra`.
-    void FilaCentrada(const FlexGrid& grid, int fila, int ancho, int columnaExtra, int extra);
+    /// The table of a data or sorted grid: title, rule, headings (two tabs behind each), rule, the rows 1 to `hasta`
+    /// with two tabs behind each cell, rule, blank line. The grid's cursor moves through the cells.
+    void TablaDeSerie(std::string_view titulo, const std::vector<std::string>& encabezados, FlexGrid& grid, int hasta,
+                      int guiones);
+    /// A text centred by blanks in `ancho` characters, with so many blanks more before it.
+    void CeldaCentrada(std::string_view texto, int ancho, int extra = 0);
 
   private:
     EditorTextoRico& documento_;
 };
 
-/// Blanks that centre a text in so many characters: (width - length) / 2, a half going to the even number; none for a
+/// Blanks on each side that centre a text in so many characters: (width - length) / 2, a half going to the even number; none for a
 /// text that is too long.
 std::string Relleno(std::string_view texto, int ancho);
 

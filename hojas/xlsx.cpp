@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -69,10 +70,11 @@ double ExigirDouble(std::string_view texto) {
 // --- Relationships of a part (ECMA-376 part 2, 9.3) ---
 
 struct Relacion {
-    std::string id;
     std::string tipo;  // last step of the type's address, which both dialects of the standard share
     std::string parte;
 };
+
+using Relaciones = std::map<std::string, Relacion>;  // by identifier
 
 std::string CarpetaDe(std::string_view parte) {
     const std::size_t corte = parte.rfind('/');
@@ -105,7 +107,7 @@ class LectorRelaciones : public LectorXml {
   public:
     explicit LectorRelaciones(std::string carpeta) : LectorXml("Relationships"), carpeta_(std::move(carpeta)) {}
 
-    std::vector<Relacion> relaciones;
+    Relaciones relaciones;
 
   private:
     void AlAbrir(std::string_view ruta, const AtributosXml& atributos) override {
@@ -113,15 +115,15 @@ class LectorRelaciones : public LectorXml {
             return;
         }
         const std::string_view tipo = atributos.Valor("Type").value_or("");
-        relaciones.push_back({std::string(atributos.Valor("Id").value_or("")),
-                              std::string(tipo.substr(tipo.rfind('/') + 1)),
-                              ResolverParte(carpeta_, atributos.Valor("Target").value_or(""))});
+        relaciones.emplace(atributos.Valor("Id").value_or(""),
+                           Relacion{std::string(tipo.substr(tipo.rfind('/') + 1)),
+                                    ResolverParte(carpeta_, atributos.Valor("Target").value_or(""))});
     }
 
     std::string carpeta_;
 };
 
-std::vector<Relacion> RelacionesDe(const ArchivoZip& libro, const std::string& parte) {
+Relaciones RelacionesDe(const ArchivoZip& libro, const std::string& parte) {
     const std::string carpeta = CarpetaDe(parte);
     const std::string nombre = parte.substr(carpeta.empty() ? 0 : carpeta.size() + 1);
     LectorRelaciones lector(carpeta);
@@ -129,9 +131,9 @@ std::vector<Relacion> RelacionesDe(const ArchivoZip& libro, const std::string& p
     return std::move(lector.relaciones);
 }
 
-const Relacion* RelacionDeTipo(const std::vector<Relacion>& relaciones, std::string_view tipo) {
-    const auto hallada = std::ranges::find(relaciones, tipo, &Relacion::tipo);
-    return hallada == relaciones.end() ? nullptr : &*hallada;
+const Relacion* RelacionDeTipo(const Relaciones& relaciones, std::string_view tipo) {
+    const auto hallada = std::ranges::find_if(relaciones, [&](const auto& par) { return par.second.tipo == tipo; });
+    return hallada == relaciones.end() ? nullptr : &hallada->second;
 }
 
 // --- The workbook part: its sheets in the order of their tabs ---
@@ -151,14 +153,14 @@ class LectorLibro : public LectorXml {
 };
 
 // A tab may also be a chart, a dialog or a macro sheet, which are no worksheets.
-std::string PrimeraHoja(const std::vector<std::string>& ids, const std::vector<Relacion>& relaciones) {
+std::string PrimeraHoja(const std::vector<std::string>& ids, const Relaciones& relaciones) {
     for (const std::string& id : ids) {
-        const auto relacion = std::ranges::find(relaciones, id, &Relacion::id);
+        const auto relacion = relaciones.find(id);
         if (relacion == relaciones.end()) {
             FallarDanado();
         }
-        if (relacion->tipo == "worksheet") {
-            return relacion->parte;
+        if (relacion->second.tipo == "worksheet") {
+            return relacion->second.parte;
         }
     }
     FallarSinHojas();
@@ -388,7 +390,7 @@ void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador) {
     if (!libro.Tiene("_rels/.rels")) {
         FallarNoEsLibro();
     }
-    const std::vector<Relacion> delPaquete = RelacionesDe(libro, "");
+    const Relaciones delPaquete = RelacionesDe(libro, "");
     const Relacion* principal = RelacionDeTipo(delPaquete, "officeDocument");
     if (principal == nullptr) {
         FallarNoEsLibro();
@@ -398,7 +400,7 @@ void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador) {
     }
     LectorLibro indice;
     LeerParte(libro, principal->parte, kMaxIndice, indice);
-    const std::vector<Relacion> delLibro = RelacionesDe(libro, principal->parte);
+    const Relaciones delLibro = RelacionesDe(libro, principal->parte);
     LectorHoja hoja(armador);
     LeerParte(libro, PrimeraHoja(indice.idsDeHojas, delLibro), kMaxHoja, hoja);
 

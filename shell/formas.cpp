@@ -1,6 +1,8 @@
 #include "shell/formas.h"
 
+#include "frame/frmPadre.h"
 #include "modules/estadistica/frmParamEsta.h"
+#include "shell/frmCalculadora.h"
 #include "shell/frmCuencalia.h"
 #include "shell/frmacerc.h"
 
@@ -18,7 +20,9 @@ std::unique_ptr<Formulario> Hacer(Aplicacion& app) {
 TablaFormas FormasDelPrograma() {
     return {
         {"frmCuencalia", Hacer<frmCuencalia>},
+        {"frmPadre", Hacer<frmPadre>},
         {"frmacerc", Hacer<frmacerc>},
+        {"frmCalculadora", Hacer<frmCalculadora>},
         {"frmParamEsta", Hacer<frmParamEsta>},
     };
 }

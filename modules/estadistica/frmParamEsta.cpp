@@ -3,6 +3,7 @@
 #include "frame/textos.h"
 #include "modules/estadistica/momentos.h"
 #include "modules/estadistica/orden.h"
+#include "modules/estadistica/reporteestadistica.h"
 
 namespace cuencalia {
 
@@ -29,7 +30,8 @@ std::array<std::string, 6> Textos(const MomentosLineales& l) {
 frmParamEsta::frmParamEsta(Aplicacion& app)
     : ModuloCalculo(app, "frmParamEsta",
                     {.titulo = "Cálculo de parámetros estadísticos, comunes y con momentos lineales",
-                     .encabezados = {"N°", "X"}}) {
+                     .encabezados = {"N°", "X"},
+                     .archivo = &kArchivoX}) {
     LeerEn({&x});
     AgregarBoton(bCalcular, "calcular");
     AgregarBoton(orden.bOrdenar, "ordenar");
@@ -116,6 +118,28 @@ void frmParamEsta::bOrdenar_Click() {
     CargarMatrices();
     OrdenarCopia();
     orden.Llenar(xo, n);
+}
+
+void frmParamEsta::ReporteParamEsta(Reporte& reporte) {
+    constexpr int kRegla = 145;
+    ReportarSerie(reporte, grdt);
+    reporte.Titulo("Parámetros Estadísticos:");
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteTexto("     Parámetros       \t");
+    reporte.ReporteTexto("                   Muestrales \t");
+    reporte.ReporteTexto(" Poblacionales  \t");
+    reporte.ReporteLinea("    Momentos Lineales  ");
+    reporte.LineaDeGuiones(kRegla);
+    ReportarParametros(reporte, grdParam);
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteBlanco();
+    reporte.Titulo("Coeficientes Lineales:");
+    reporte.ReporteLinea("L1 = " + txtL1.Text());
+    reporte.ReporteLinea("L2 = " + txtL2.Text());
+    reporte.ReporteLinea("L3 = " + txtL3.Text());
+    reporte.ReporteLinea("L4 = " + txtL4.Text());
+    reporte.ReporteBlanco();
+    ReportarOrdenados(reporte, orden.grdorden);
 }
 
 std::vector<Disposicion> frmParamEsta::BotonesAccion() {

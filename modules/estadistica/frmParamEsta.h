@@ -27,6 +27,8 @@ class frmParamEsta : public ModuloCalculo {
     void InicializarParam();
     void bCalcular_Click() override;
     void bOrdenar_Click();
+    void GenerarReporte(Reporte& reporte) override { ReporteParamEsta(reporte); }
+    void ReporteParamEsta(Reporte& reporte);
 
   protected:
     void LimpiarOtros() override;

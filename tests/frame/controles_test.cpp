@@ -147,8 +147,10 @@ TEST_F(ControlesTest, CajaDeTextoAvisaDeCadaCambio) {
 }
 
 // A filter of the form may take back what was typed: the cursor must not be left beyond the end.
-TEST_F(ControlesTest, CajaDeTextoQueSuFormaVacia) {
+TEST_F(ControlesTest, CajaDeTextoQueSuFormaCorrige) {
+    int cursor = -1;
     F().txt.Change.Conectar([&] {
+        cursor = F().txt.SelStart;
         if (F().txt.Text() == "x") {
             F().txt.Text = "";
         }
@@ -158,6 +160,7 @@ TEST_F(ControlesTest, CajaDeTextoQueSuFormaVacia) {
     EXPECT_EQ(F().txt.SelStart(), 0);
     Teclear(U"12");
     EXPECT_EQ(F().txt.Text(), "12");
+    EXPECT_EQ(cursor, 2) << "Change runs with the cursor where the user left it";
 }
 
 TEST_F(ControlesTest, CajaDeResultadoNoSeEscribe) {

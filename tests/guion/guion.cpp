@@ -6,6 +6,8 @@
 
 #include "frame/controles.h"
 #include "frame/flexgrid.h"
+#include "frame/grafico.h"
+#include "frame/richtextbox.h"
 #include "frame/textos.h"
 
 namespace cuencalia::pruebas {
@@ -149,6 +151,50 @@ std::string FilasDe(const FlexGrid& grid) {
     return filas + "]";
 }
 
+std::string Json(const std::vector<std::optional<Double>>& valores) {
+    std::string lista = "[";
+    for (const auto& valor : valores) {
+        lista += lista.size() > 1 ? "," : "";
+        // Shortest digits that read back as the same number.
+        char cifras[32];
+        const auto fin = valor ? std::to_chars(cifras, std::end(cifras), valor->valor()).ptr : cifras;
+        lista += valor ? std::string(cifras, fin) : "null";
+    }
+    return lista + "]";
+}
+
+std::string DatosDe(const GraficoModulo& grafico) {
+    std::string datos = std::string(",\"visible\":") + Json(grafico.EsVisible());
+    const auto entero = [&](const char* nombre, int valor) {
+        datos += std::string(",\"") + nombre + "\":" + std::to_string(valor);
+    };
+    entero("GraphType", grafico.GraphType);
+    entero("GraphStyle", grafico.GraphStyle);
+    entero("Background", grafico.Background);
+    entero("NumPoints", grafico.NumPoints());
+    entero("NumSets", grafico.NumSets());
+    datos += ",\"BottomTitle\":" + Json(grafico.BottomTitle()) + ",\"sets\":[";
+    const char* coma = "";
+    for (const GraficoModulo::Conjunto& conjunto : grafico.Conjuntos()) {
+        datos += std::string(coma) + "{\"LegendText\":" + Json(conjunto.leyenda) + ",\"x\":" + Json(conjunto.x) +
+                 ",\"y\":" + Json(conjunto.y) + "}";
+        coma = ",";
+    }
+    return datos + "]";
+}
+
+std::string DatosDe(RichTextBox& documento) {
+    const EditorTextoRico& editor = documento.Leer();
+    std::string datos = ",\"titulo\":" + Json(documento.Forma().Caption()) + ",\"texto\":" + Json(editor.Text()) +
+                        ",\"alineacion\":[";
+    const char* coma = "";
+    for (const int alineacion : editor.Alineaciones()) {
+        datos += coma + std::to_string(alineacion);
+        coma = ",";
+    }
+    return datos + "]";
+}
+
 }  // namespace
 
 struct Guion::Orden {
@@ -179,6 +225,7 @@ void Guion::Ejecutar(const std::string& linea) {
         {"elegir", 3, &Guion::OrdenElegir},     {"ficha", 3, &Guion::OrdenFicha},
         {"cerrar", 2, &Guion::OrdenCerrar},     {"ver", 2, &Guion::OrdenVer},
         {"estado", 2, &Guion::OrdenEstado},     {"mensajes", 1, &Guion::OrdenMensajes},
+        {"archivo", 2, &Guion::OrdenArchivo},
     };
     ++linea_;
     std::string limpia = linea;
@@ -234,7 +281,12 @@ Formulario& Guion::FormaActual() {
 }
 
 Control& Guion::Buscar(const std::string& nombre) {
-    Control* control = FormaActual().Controls(nombre);
+    Formulario& forma = FormaActual();
+    Control* control = forma.Controls(nombre);
+    Formulario* dentro = app_->HijaActiva(forma);
+    if (control == nullptr && dentro != nullptr) {
+        control = dentro->Controls(nombre);
+    }
     if (control == nullptr) {
         throw Rechazo("no hay tal control: " + nombre);
     }
@@ -430,6 +482,10 @@ void Guion::OrdenFicha(const Palabras& p) {
 
 void Guion::OrdenCerrar(const Palabras& p) {
     Formulario* forma = app_->Cargada(p[1]);
+    if (forma == nullptr && app_->Cargada("frmPadre") != nullptr) {
+        Formulario* documento = app_->HijaActiva(*app_->Cargada("frmPadre"));
+        forma = documento != nullptr && documento->Nombre() == p[1] ? documento : nullptr;
+    }
     if (forma == nullptr) {
         throw Rechazo("la forma no está abierta: " + p[1]);
     }
@@ -439,12 +495,20 @@ void Guion::OrdenCerrar(const Palabras& p) {
     }
 }
 
+void Guion::OrdenArchivo(const Palabras& p) {
+    plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]);
+}
+
 void Guion::OrdenVer(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {
         Control& control = Buscar(p[i]);
         salida_ << "{\"control\":" << Json(p[i]);
         if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
             salida_ << ",\"filas\":" << FilasDe(*grid) << "}\n";
+        } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
+            salida_ << DatosDe(*grafico) << "}\n";
+        } else if (auto* documento = dynamic_cast<RichTextBox*>(&control)) {
+            salida_ << DatosDe(*documento) << "}\n";
         } else {
             salida_ << ",\"texto\":" << Json(TextoDe(control)) << "}\n";
         }

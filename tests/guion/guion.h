@@ -47,6 +47,7 @@ class Guion {
     void OrdenVer(const Palabras& p);
     void OrdenEstado(const Palabras& p);
     void OrdenMensajes(const Palabras& p);
+    void OrdenArchivo(const Palabras& p);
 
     Formulario& FormaActual();
     Control& Buscar(const std::string& nombre);

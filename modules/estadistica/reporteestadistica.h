@@ -1,0 +1,19 @@
+#pragma once
+
+#include "frame/reporte.h"
+
+namespace cuencalia {
+
+/// Blocks that the reports of the statistics modules share.
+
+/// The data grid of one series.
+void ReportarSerie(Reporte& reporte, FlexGrid& grdt);
+/// The six parameter rows: the label, then each figure centred in 25 characters. The first line is shifted by five
+/// blanks, as its figures stand below wider headings.
+void ReportarParametros(Reporte& reporte, const FlexGrid& grdParam);
+/// The table of classes: each cell centred in 18 characters, the first of a row one blank further.
+void ReportarClases(Reporte& reporte, const FlexGrid& grddis);
+/// The sorted list as it stands, also when it was never filled.
+void ReportarOrdenados(Reporte& reporte, FlexGrid& grdorden);
+
+}  // namespace cuencalia
