@@ -1,7 +1,10 @@
 #include "shell/formas.h"
 
 #include "frame/frmPadre.h"
+#include "modules/estadistica/frmDistriFre.h"
+#include "modules/estadistica/frmParEstAgru.h"
 #include "modules/estadistica/frmParamEsta.h"
+#include "modules/regresion/frmRegreLineal.h"
 #include "shell/frmCalculadora.h"
 #include "shell/frmCuencalia.h"
 #include "shell/frmacerc.h"
@@ -23,7 +26,10 @@ TablaFormas FormasDelPrograma() {
         {"frmPadre", Hacer<frmPadre>},
         {"frmacerc", Hacer<frmacerc>},
         {"frmCalculadora", Hacer<frmCalculadora>},
+        {"frmDistriFre", Hacer<frmDistriFre>},
+        {"frmParEstAgru", Hacer<frmParEstAgru>},
         {"frmParamEsta", Hacer<frmParamEsta>},
+        {"frmRegreLineal", Hacer<frmRegreLineal>},
     };
 }
 

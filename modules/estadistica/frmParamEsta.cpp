@@ -4,23 +4,20 @@
 #include "modules/estadistica/momentos.h"
 #include "modules/estadistica/orden.h"
 #include "modules/estadistica/reporteestadistica.h"
+#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
 namespace {
 
-constexpr std::array<const char*, 6> kParametros{
-    "Media:                      ", "Varianza:                   ", "Desviación Estándar:        ",
-    "Coeficiente Variación:      ", "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "};
-
-std::array<std::string, 6> Textos(const ParametrosEstadisticos& p) {
+ColumnaParametros Textos(const ParametrosEstadisticos& p) {
     return {Format(p.media, "0.##00"), Format(p.varianza, "0.0###"), Format(p.desviacion, "0.##00"),
             Format(p.Cv, "0.##00"),    Format(p.Cs, "0.##00"),       Format(p.Ck, "0.##00")};
 }
 
 /// The L-moment ratios in the rows of the conventional parameters: L2 is the dispersion itself, not a standard
 /// deviation made from it, and the variance row holds its square.
-std::array<std::string, 6> Textos(const MomentosLineales& l) {
+ColumnaParametros Textos(const MomentosLineales& l) {
     return {Format(l.L1, "0.0000"),        Format(l.L2 * l.L2, "0.0###"), Format(l.L2, "0.0000"),
             Format(l.L2 / l.L1, "0.0000"), Format(l.L3 / l.L2, "0.0000"), Format(l.L4 / l.L2, "0.0000")};
 }
@@ -54,18 +51,7 @@ frmParamEsta::frmParamEsta(Aplicacion& app)
 }
 
 void frmParamEsta::InicializarParam() {
-    grdParam.Clear();
-    grdParam.PonerRows(7);
-    grdParam.PonerCols(4);
-    grdParam.PonerFixedRows(1);
-    grdParam.PonerFixedCols(1);
-    for (int c = 0; c < grdParam.Cols(); ++c) {
-        grdParam.PonerColWidth(c, c == 0 ? 2050 : 1750);
-        grdParam.PonerColAlignment(c, kAlinearCentro);
-    }
-    grdParam.PonerRowHeight(0, 340);
-    grdParam.PonerEncabezados({"Parámetros", "Muestrales", "Poblacionales", "Momentos Lineales"});
-    grdParam.BorderStyle = 0;
+    IniciarTablaParametros(grdParam, {"Parámetros", "Muestrales", "Poblacionales", "Momentos Lineales"});
 }
 
 void frmParamEsta::LimpiarOtros() {
@@ -80,12 +66,6 @@ void frmParamEsta::OrdenarCopia() {
     OrdenarSerie(xo, n);
 }
 
-void frmParamEsta::MostrarColumna(int columna, const Columna6& textos) {
-    for (std::size_t i = 0; i < textos.size(); ++i) {
-        grdParam.PonerTextMatrix(static_cast<int>(i) + 1, columna, textos[i]);
-    }
-}
-
 void frmParamEsta::bCalcular_Click() {
     CargarMatrices();
     if (n <= 1) {
@@ -94,23 +74,20 @@ void frmParamEsta::bCalcular_Click() {
         return;
     }
     // Everything is computed before anything is shown: a series that stops the calculation leaves the window as it was.
-    const Columna6 pm = Textos(ParametrosMuestrales(x, n));
-    const Columna6 pp = Textos(ParametrosPoblacionales(x, n));
+    const ColumnaParametros pm = Textos(ParametrosMuestrales(x, n));
+    const ColumnaParametros pp = Textos(ParametrosPoblacionales(x, n));
     OrdenarCopia();
     const MomentosLineales l = CalcularMomentosLineales(xo, n);
-    const Columna6 pl = Textos(l);
+    const ColumnaParametros pl = Textos(l);
 
     txtL1.Text = Format(l.L1, "0.0000");
     txtL2.Text = Format(l.L2, "0.0000");
     txtL3.Text = Format(l.L3, "0.0000");
     txtL4.Text = Format(l.L4, "0.0000");
-    grdParam.PonerColAlignment(0, kAlinearIzquierda);
-    for (std::size_t i = 0; i < kParametros.size(); ++i) {
-        grdParam.PonerTextMatrix(static_cast<int>(i) + 1, 0, kParametros[i]);
-    }
-    MostrarColumna(1, pm);
-    MostrarColumna(2, pp);
-    MostrarColumna(3, pl);
+    RotularParametros(grdParam);
+    MostrarParametros(grdParam, 1, pm);
+    MostrarParametros(grdParam, 2, pp);
+    MostrarParametros(grdParam, 3, pl);
 }
 
 void frmParamEsta::bOrdenar_Click() {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <array>
-#include <string>
-
 #include "frame/modulo.h"
 #include "modules/estadistica/listaordenada.h"
 
@@ -36,10 +33,7 @@ class frmParamEsta : public ModuloCalculo {
     std::vector<Disposicion> BotonesAccion() override;
 
   private:
-    using Columna6 = std::array<std::string, 6>;
-
     void OrdenarCopia();
-    void MostrarColumna(int columna, const Columna6& textos);
 };
 
 }  // namespace cuencalia

@@ -31,11 +31,7 @@ MomentosCentrales CalcularMomentosCentrales(const ArregloBase<Double>& x, int n)
     return m;
 }
 
-}  // namespace
-
-ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n) {
-    const MomentosCentrales m = CalcularMomentosCentrales(x, n);
-    const Double N = n;
+ParametrosEstadisticos Muestrales(const MomentosCentrales& m, Double N) {
     ParametrosEstadisticos p;
     p.media = m.media;
     p.varianza = m.S2 / (N - 1);
@@ -45,6 +41,33 @@ ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n)
     p.Cs = N * N * m.M3 / ((N - 1) * (N - 2) * (s * s * s));
     p.Ck = N * N * N * m.M4 / ((N - 1) * (N - 2) * (N - 3) * (s * s * s * s));
     return p;
+}
+
+}  // namespace
+
+ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n) {
+    return Muestrales(CalcularMomentosCentrales(x, n), n);
+}
+
+ParametrosEstadisticos ParametrosAgrupados(const ArregloBase<Double>& marcas, const ArregloBase<Double>& frecuencias,
+                                           int clases, int n) {
+    Double S;
+    for (int i = 1; i <= clases; ++i) {
+        S += frecuencias(i) * marcas(i);
+    }
+    MomentosCentrales m;
+    m.media = S / n;
+    Double S3, S4;
+    for (int i = 1; i <= clases; ++i) {
+        const Double desvio = marcas(i) - m.media;
+        const Double cuadrado = desvio * desvio;
+        m.S2 += frecuencias(i) * cuadrado;
+        S3 += frecuencias(i) * (cuadrado * desvio);
+        S4 += frecuencias(i) * (cuadrado * cuadrado);
+    }
+    m.M3 = S3 / n;
+    m.M4 = S4 / n;
+    return Muestrales(m, n);
 }
 
 ParametrosEstadisticos ParametrosPoblacionales(const ArregloBase<Double>& x, int n) {

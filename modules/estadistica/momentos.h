@@ -22,6 +22,12 @@ ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n)
 /// n >= 2 with a spread and a mean other than 0; errors as above.
 ParametrosEstadisticos ParametrosPoblacionales(const ArregloBase<Double>& x, int n);
 
+/// Sample parameters of grouped data, by the same formulas: the class marks stand for the values, each as often as its
+/// absolute frequency says. n is the number of values of the series, also where some of them are in no class. Both
+/// arrays are read from 1 to `clases`; errors as above.
+ParametrosEstadisticos ParametrosAgrupados(const ArregloBase<Double>& marcas, const ArregloBase<Double>& frecuencias,
+                                           int clases, int n);
+
 /// The first four sample L-moments, in the unit of the series. L1 is the mean; the ratios L2/L1, L3/L2 and L4/L2
 /// describe variation, skewness and kurtosis.
 struct MomentosLineales {

@@ -2,14 +2,27 @@
 
 #include <QApplication>
 #include <QStandardPaths>
+#include <iostream>
 
 #include "escritorio/estilo.h"
+
+namespace {
+
+/// The windows of the tests have no screen: what it would have done is no news.
+void Avisar(QtMsgType, const QMessageLogContext&, const QString& texto) {
+    if (!texto.startsWith(QLatin1String("This plugin does not support"))) {
+        std::cerr << texto.toStdString() << '\n';
+    }
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(Avisar);
     QStandardPaths::setTestModeEnabled(true);
     QApplication programa(argc, argv);
     QApplication::setApplicationName(QStringLiteral("cuencalia-pruebas"));

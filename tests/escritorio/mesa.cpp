@@ -81,7 +81,7 @@ bool Mesa::ActualALaVista() {
 
 void Mesa::ElegirEnBarra(const char* forma, const QString& menu, const QString& entrada) {
     QMenuBar& barra = *Ventana(forma)->menuBar();
-    for (const QAction* enBarra : barra.actions()) {
+    for (QAction* enBarra : barra.actions()) {
         if (enBarra->text() != menu) {
             continue;
         }

@@ -9,11 +9,15 @@
 #include <QTimer>
 #include <QUrl>
 #include <memory>
+#include <ostream>
 #include <stdexcept>
 #include <vector>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vista.h"
+
+/// How a failed comparison shows a text of the toolkit.
+inline void PrintTo(const QString& texto, std::ostream* salida) { *salida << '"' << texto.toStdString() << '"'; }
 
 namespace cuencalia::pruebas {
 

@@ -125,6 +125,7 @@ TEST_F(FlexGridTest, FilasYColumnasQueVanYVienen) {
             g.PonerTextMatrix(f, c, std::to_string(10 * f + c));
         }
     }
+    g.PonerRowHeight(0, 340);
     g.PonerRowHeight(2, 500);
     g.AddItem("nuevo");
     EXPECT_EQ(Columna(0), (Registro{"N°", "10", "20", "nuevo"}));
@@ -133,6 +134,7 @@ TEST_F(FlexGridTest, FilasYColumnasQueVanYVienen) {
     g.RemoveItem(1);
     EXPECT_EQ(Columna(0), (Registro{"N°", "20", "nuevo"}));
     EXPECT_EQ(Columna(3), (Registro{"Z", "23", ""}));
+    EXPECT_EQ(g.RowHeight(0), 340);
     EXPECT_EQ(g.RowHeight(1), 500) << "a row takes its height along";
 
     g.PonerColWidth(1, 777);

@@ -406,6 +406,15 @@ TEST_F(ModuloTest, InsertarFila) {
     EXPECT_EQ(Fila(2), (Textos{" 2", "1.0", "2.0", "3.0", "4.0"}));
     EXPECT_EQ(Fila(3), (Textos{" 3", "5.0", "6.0", "7.0", "8.0"}));
     EXPECT_EQ(Fila(4), (Textos{"[?]", "", "", "", ""}));
+
+    // Both procedures end in the first column, wherever the cursor stood.
+    Celda(2, 3);
+    app.Despachar([&] { M().InsertarFila(); });
+    EXPECT_EQ(Cursor(), "2,1");
+    Celda(2, 3);
+    app.Despachar([&] { M().EliminarFila(); });
+    EXPECT_EQ(Cursor(), "2,1");
+    EXPECT_EQ(Fila(2), (Textos{" 2", "1.0", "2.0", "3.0", "4.0"}));
 }
 
 TEST_F(ModuloTest, InsertarEstaGrisEnLaFilaDeEntrada) {
@@ -535,6 +544,16 @@ TEST_F(ModuloTest, EnterEnLaCuadriculaMantieneLaFilaALaVista) {
     Enter();
     EXPECT_EQ(Cursor(), "21,1");
     EXPECT_EQ(G().TopRow(), 9);
+
+    const auto desde = [&](int fila) {
+        Celda(fila, 1);
+        app.Despachar([&] { G().DesplazadoPorUsuario(5); });
+        Enter();
+        return G().TopRow();
+    };
+    EXPECT_EQ(desde(10), 5) << "up to row 11 the grid stays as the user scrolled it";
+    EXPECT_EQ(desde(11), 1);
+    EXPECT_EQ(desde(12), 1);
 }
 
 TEST_F(ModuloTest, ImagenesDeLosBotones) {

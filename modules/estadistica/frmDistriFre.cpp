@@ -1,0 +1,153 @@
+#include "modules/estadistica/frmDistriFre.h"
+
+#include "frame/textos.h"
+#include "modules/estadistica/orden.h"
+#include "modules/estadistica/reporteestadistica.h"
+#include "modules/estadistica/tablaparametros.h"
+
+namespace cuencalia {
+
+frmDistriFre::frmDistriFre(Aplicacion& app)
+    : ModuloCalculo(app, "frmDistriFre",
+                    {.titulo = "Cálculo de la distribución de frecuencia de una muestra",
+                     .encabezados = {"N°", "X"},
+                     .archivo = &kArchivoX}) {
+    LeerEn({&x});
+    AgregarBoton(bCalcular, "calcular");
+    AgregarBoton(orden.bOrdenar, "ordenar");
+    AgregarBoton(bGraficar, "graficar");
+    AgregarBoton(bLimpiar, "limpiar");
+    AgregarBoton(bImprimir, "imprimir");
+    AgregarBoton(bMenu, "menu");
+    AgregarBoton(bCrear, "crear");
+    AgregarBoton(bAccesar, "accesar");
+    AgregarBoton(bReporte, "reporte");
+    AgregarBoton(bCalculadora, "calculadora");
+    AgregarBoton(bCargarExcel, "excel");
+    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+    bGraficar.Click.Conectar([this] { bGraficar_Click(); });
+    optDensidad.Click.Conectar([this] { optDensidad_Click(); });
+    optAcumulada.Click.Conectar([this] { optAcumulada_Click(); });
+    fraTipoGrafico.Visible = false;
+    MostrarRotulos(false);
+}
+
+void frmDistriFre::InicializarDistri() {
+    IniciarTabla(grddis, 2, {"LCI", "MCL", "LCS", "FreAbsoluta", "FreRelativa", "FunDensidad", "FunAcumulada"}, 1100);
+    grddis.PonerFixedRows(1);
+    grddis.PonerFixedCols(0);
+}
+
+void frmDistriFre::MostrarRotulos(bool visibles) {
+    lblPorcentaje.Visible = visibles;
+    lblFuncion.Visible = visibles;
+    lblMarcaClase.Visible = visibles;
+}
+
+void frmDistriFre::LimpiarOtros() {
+    orden.OcultarGrid();
+    Graph1.LimpiarGrafico();
+    MostrarRotulos(false);
+    calculado = false;
+}
+
+void frmDistriFre::OrdenarCopia() {
+    xo = x;
+    OrdenarSerie(xo, n);
+}
+
+void frmDistriFre::bCalcular_Click() {
+    CargarMatrices();
+    OrdenarCopia();
+    clases = FormarClases(xo, n);
+    const int NC = clases.NC.valor();
+    Double acumulada;
+    for (int i = 1; i <= NC; ++i) {
+        FR(i) = 100 * clases.FA(i) / n;
+        FD(i) = FR(i) / Abs(clases.ancho);
+        acumulada += FR(i);
+        FAc(i) = acumulada;
+    }
+    grddis.PonerRows(NC + 1);
+    for (int i = 1; i <= NC; ++i) {
+        grddis.PonerTextMatrix(i, 0, Format(clases.LCI(i), "0.0#"));
+        grddis.PonerTextMatrix(i, 1, Format(clases.MCL(i), "0.0#"));
+        grddis.PonerTextMatrix(i, 2, Format(clases.LCS(i), "0.0#"));
+        grddis.PonerTextMatrix(i, 3, Format(clases.FA(i), "##0"));
+        grddis.PonerTextMatrix(i, 4, Format(FR(i), "0.###0"));
+        grddis.PonerTextMatrix(i, 5, Format(FD(i), "0.###0"));
+        grddis.PonerTextMatrix(i, 6, Format(FAc(i), "0.#0"));
+    }
+    calculado = true;
+}
+
+void frmDistriFre::bOrdenar_Click() {
+    orden.MostrarGrid();
+    CargarMatrices();
+    OrdenarCopia();
+    orden.Llenar(xo, n);
+}
+
+void frmDistriFre::bGraficar_Click() {
+    fraTipoGrafico.Visible = true;
+    optDensidad.Value = false;
+    optAcumulada.Value = false;
+    optAcumulada.Value = true;
+    MostrarRotulos(true);
+    lblFuncion.Caption = "Fx";
+}
+
+void frmDistriFre::optDensidad_Click() { Dibujar("fx", FD); }
+
+void frmDistriFre::optAcumulada_Click() { Dibujar("Fx", FAc); }
+
+void frmDistriFre::Dibujar(const char* funcion, const Clases::Columna& ordenadas) {
+    lblFuncion.Caption = funcion;
+    const int NC = clases.NC.valor();
+    if (NC <= 1) {
+        App().MsgBox("Para graficar se requiere por lo menos dos puntos", kIconoError, "Error");
+        return;
+    }
+    if (!calculado) {
+        App().MsgBox("Ejecutar cálculos antes de graficar");
+        return;
+    }
+    // The curve starts at the origin of the axes, whatever the first class is.
+    SerieGrafico serie{.x = {0}, .y = {0}};
+    for (int i = 1; i <= NC; ++i) {
+        serie.x.push_back(clases.MCL(i));
+        serie.y.push_back(ordenadas(i));
+    }
+    GraficoDibujar(Graph1, {.conTrama = true}, {serie});
+}
+
+void frmDistriFre::ReporteDistriFre(Reporte& reporte) {
+    constexpr int kRegla = 153;
+    ReportarSerie(reporte, grdt);
+    reporte.Titulo("Distribución de Frecuencias:");
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteTexto("        LCI  \t");
+    reporte.ReporteTexto("        MCL  \t");
+    for (const char* encabezado : {"        LCS  ", "FreAbsoluta ", "FreRelativa ", "FunDensidad "}) {
+        reporte.ReporteTexto(std::string("   ") + encabezado);
+    }
+    reporte.ReporteLinea("FunAcumulada ");
+    reporte.LineaDeGuiones(kRegla);
+    ReportarClases(reporte, grddis);
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteBlanco();
+    ReportarOrdenados(reporte, orden.grdorden);
+}
+
+std::vector<Disposicion> frmDistriFre::BotonesAccion() {
+    return {bCalcular, orden.bOrdenar, bGraficar, bLimpiar, bImprimir, bMenu};
+}
+
+Disposicion frmDistriFre::Contenido() {
+    Disposicion grafico = Columna({Grupo(fraTipoGrafico, {Fila({optDensidad, optAcumulada, Espacio()})}),
+                                   Fila({lblFuncion, lblPorcentaje, Espacio()}), Disposicion(Graph1).Estira(1),
+                                   Fila({Espacio(), lblMarcaClase, Espacio()})});
+    return Columna({Disposicion(grddis).Estira(2), Fila({orden.Zona(), std::move(grafico).Estira(1)}).Estira(3)});
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "frame/grafico.h"
+#include "frame/modulo.h"
+#include "modules/estadistica/clases.h"
+#include "modules/estadistica/listaordenada.h"
+
+namespace cuencalia {
+
+/// Frequency distribution of a series: classes, frequencies, and the polygon or the cumulative curve.
+class frmDistriFre : public ModuloCalculo {
+  public:
+    explicit frmDistriFre(Aplicacion& app);
+
+    FlexGrid grddis{*this, "grddis", "Distribución de frecuencias"};
+    CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+    Frame fraTipoGrafico{*this, "fraTipoGrafico", "Tipo de gráfico:"};
+    OptionButton optDensidad{*this, "optDensidad", "F. Densidad"};
+    OptionButton optAcumulada{*this, "optAcumulada", "F. Acumulada"};
+    GraficoModulo Graph1{*this, "Graph1", "Gráfico de la distribución de frecuencia"};
+    Label lblPorcentaje{*this, "lblPorcentaje", "(%)"};
+    Label lblFuncion{*this, "lblFuncion", "Fx"};
+    Label lblMarcaClase{*this, "lblMarcaClase", "Marca de clase"};
+    ListaOrdenada orden{*this};
+
+    Serie x, xo;
+    Clases clases;
+    Clases::Columna FR;   ///< Relative frequency, percent.
+    Clases::Columna FD;   ///< Density, percent by unit of the series.
+    Clases::Columna FAc;  ///< Cumulative frequency, percent.
+    bool calculado = false;
+
+    void InicializarResultados() override { InicializarDistri(); }
+    void InicializarDistri();
+    void bCalcular_Click() override;
+    void bOrdenar_Click();
+    void bGraficar_Click();
+    void optDensidad_Click();
+    void optAcumulada_Click();
+    void GenerarReporte(Reporte& reporte) override { ReporteDistriFre(reporte); }
+    void ReporteDistriFre(Reporte& reporte);
+
+  protected:
+    void LimpiarOtros() override;
+    Disposicion Contenido() override;
+    std::vector<Disposicion> BotonesAccion() override;
+
+  private:
+    void OrdenarCopia();
+    void MostrarRotulos(bool visibles);
+    void Dibujar(const char* funcion, const Clases::Columna& ordenadas);
+};
+
+}  // namespace cuencalia
