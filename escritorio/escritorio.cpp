@@ -9,15 +9,13 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QSettings>
 #include <QTemporaryFile>
 #include <QUrl>
 #include <algorithm>
 
-#include "escritorio/ventana.h"
+#include "escritorio/impresion.h"
+#include "escritorio/ventanapadre.h"
 #include "escritorio/vista.h"
 #include "escritorio/vistagrid.h"
 
@@ -25,7 +23,13 @@ namespace cuencalia {
 
 Escritorio::Escritorio(TablaFormas formas) : app_(std::make_unique<Aplicacion>(*this, std::move(formas))) {}
 
-Escritorio::~Escritorio() { app_.reset(); }
+Escritorio::~Escritorio() {
+    // A window that closes gives the focus to another one, which must not tell a program that is going.
+    for (const auto& [forma, ventana] : ventanas_) {
+        ventana->Soltar();
+    }
+    app_.reset();
+}
 
 Ventana* Escritorio::VentanaDe(const Formulario& forma) const {
     const auto hallada = ventanas_.find(&forma);
@@ -88,18 +92,28 @@ void Escritorio::MostrarError(const ErrorEjecucion& error) {
            kIconoError, "Error en tiempo de ejecución");
 }
 
-void Escritorio::MostrarForma(Formulario& forma) {
+Ventana& Escritorio::VentanaPara(Formulario& forma) {
     Ventana*& ventana = ventanas_[&forma];
     if (ventana == nullptr) {
-        ventana = new Ventana(*this, forma);
+        auto* padre = dynamic_cast<frmPadre*>(&forma);
+        ventana = padre == nullptr ? new Ventana(*this, forma) : new VentanaPadre(*this, *padre);
     }
-    if (ventana->isMinimized()) {
-        ventana->showNormal();
+    return *ventana;
+}
+
+void Escritorio::MostrarForma(Formulario& forma) {
+    Ventana& ventana = VentanaPara(forma);
+    if (forma.Padre() != nullptr) {
+        static_cast<VentanaPadre&>(VentanaPara(*forma.Padre())).PonerDelante(ventana);
+        return;
+    }
+    if (ventana.isMinimized()) {
+        ventana.showNormal();
     } else {
-        ventana->show();
+        ventana.show();
     }
-    ventana->raise();
-    ventana->activateWindow();
+    ventana.raise();
+    ventana.activateWindow();
 }
 
 void Escritorio::DescargarForma(Formulario& forma) {
@@ -110,8 +124,8 @@ void Escritorio::DescargarForma(Formulario& forma) {
     Ventana* ventana = hallada->second;
     ventanas_.erase(hallada);
     ventana->Soltar();
-    ventana->close();
-    ventana->deleteLater();
+    ventana->Marco()->close();
+    ventana->Marco()->deleteLater();
 }
 
 void Escritorio::MenuEmergente(Menu& menu) {
@@ -134,30 +148,19 @@ void Escritorio::MenuEmergente(Menu& menu) {
 }
 
 void Escritorio::ImprimirForma(Formulario& forma) {
-    Ventana* ventana = VentanaDe(forma);
-    if (ventana == nullptr) {
-        return;
+    if (Ventana* ventana = VentanaDe(forma)) {
+        ImprimirImagen(*this, *ventana);
     }
-    if (QPrinterInfo::defaultPrinter().isNull()) {
-        MsgBox("No hay ninguna impresora predeterminada. Instale una impresora y vuelva a imprimir; nada se ha perdido.",
-               kIconoInformacion, "Imprimir");
-        return;
-    }
-    QPrinter impresora(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
-    impresora.setPageOrientation(QPageLayout::Landscape);
-    impresora.setDocName(ventana->windowTitle());
-    QPainter pintor;
-    if (!pintor.begin(&impresora)) {
-        MsgBox("La impresora no responde. Revísela y vuelva a imprimir; nada se ha perdido.", kIconoError, "Imprimir");
-        return;
-    }
-    const QPixmap imagen = ventana->grab();
-    const QRectF hoja = impresora.pageRect(QPrinter::DevicePixel);
-    const QSizeF tamano = QSizeF(imagen.size()).scaled(hoja.size(), Qt::KeepAspectRatio);
-    pintor.drawPixmap(QRectF(QPointF(0, 0), tamano), imagen, QRectF(imagen.rect()));
 }
 
-void Escritorio::ImprimirDocumento(Formulario&, bool, const std::string&) {}
+void Escritorio::ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) {
+    Pintar();
+    for (Control* control : documento.Controles()) {
+        if (auto* caja = dynamic_cast<RichTextBox*>(control)) {
+            ImprimirTexto(caja->Leer(), soloSeleccion, Q(titulo), Q(documento.Caption));
+        }
+    }
+}
 
 /// The workbook goes to a file of the user's choice where there is no spreadsheet program, to a new temporary one
 /// otherwise.

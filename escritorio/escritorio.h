@@ -53,6 +53,8 @@ class Escritorio : public Plataforma {
 
   private:
     void DarFoco();
+    /// The window of a form, made if there is none yet.
+    Ventana& VentanaPara(Formulario& forma);
 
     std::unique_ptr<Aplicacion> app_;
     std::map<const Formulario*, Ventana*> ventanas_;

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -20,6 +21,8 @@
 namespace cuencalia {
 
 namespace {
+
+constexpr int kMargenDocumento = 100;  // twips around the text of a document
 
 /// What a window shows inside its frame: over a picture, if the form has one for its background.
 class Lienzo : public QWidget {
@@ -45,34 +48,52 @@ class VistaFormulario : public Vista {
         : Vista(escritorio, forma, lienzo), forma_(forma), ventana_(ventana) {}
 
   protected:
-    void Mostrar() override { ventana_->setWindowTitle(Q(forma_.Caption)); }
+    /// The window around a document adds to its title: what did not change is not written again.
+    void Mostrar() override {
+        if (titulo_ != forma_.Caption()) {
+            titulo_ = forma_.Caption();
+            ventana_->setWindowTitle(Q(titulo_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+        }
+    }
 
   private:
     Formulario& forma_;
     QMainWindow* ventana_;
+    std::string titulo_;
 };
 
 /// A menu entry shows whether it is greyed.
 class VistaMenu : public QObject, public VistaControl {
   public:
-    VistaMenu(Menu& menu, QAction* accion) : QObject(accion), menu_(menu), accion_(accion) {
-        menu_.PonerVista(this);
+    VistaMenu(Menu& menu, QAction* accion) : QObject(accion), menu_(&menu), accion_(accion) {
+        menu.PonerVista(this);
         VistaMenu::ModeloCambio();
     }
-    ~VistaMenu() override { menu_.PonerVista(nullptr); }
+    ~VistaMenu() override { Soltar(); }
+
+    QAction* Accion() const { return accion_; }
+    /// The form may go before the menu of the screen does.
+    void Soltar() {
+        if (menu_ != nullptr) {
+            menu_->PonerVista(nullptr);
+            menu_ = nullptr;
+        }
+    }
 
     void ModeloCambio() override {
-        accion_->setText(Q(menu_.Caption));
-        accion_->setEnabled(menu_.Enabled);
-        accion_->setVisible(menu_.Visible);
+        accion_->setText(Q(menu_->Caption));
+        accion_->setEnabled(menu_->Enabled);
+        accion_->setVisible(menu_->Visible);
     }
 
   private:
-    Menu& menu_;
+    Menu* menu_;
     QAction* accion_;
 };
 
 }  // namespace
+
+QAction* AccionDe(const Menu& entrada) { return static_cast<VistaMenu*>(entrada.Vista())->Accion(); }
 
 void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo) {
     for (Menu* entrada : modelo.Entradas()) {
@@ -112,13 +133,19 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     if (!lienzo->fondo.isEmpty()) {
         caja->setContentsMargins(36, 30, 28, 28);
     }
+    if (forma.Padre() != nullptr) {
+        const int margen = estilo::Pixeles(kMargenDocumento);
+        caja->setContentsMargins(margen, margen, margen, margen);
+    }
     PonerHijos(forma.Distribucion(), *caja, lienzo);
     setCentralWidget(lienzo);
     HacerMenus();
 
-    auto* ayuda = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(ayuda, &QShortcut::activated, this,
-            [this] { escritorio_.App().Despachar([this] { escritorio_.App().AbrirAyuda(); }); });
+    if (forma.Padre() == nullptr) {
+        auto* ayuda = new QShortcut(QKeySequence(Qt::Key_F1), this);
+        connect(ayuda, &QShortcut::activated, this,
+                [this] { escritorio_.App().Despachar([this] { escritorio_.App().AbrirAyuda(); }); });
+    }
 
     for (Vista* vista : vistas_) {
         vista->Actualizar();
@@ -134,11 +161,25 @@ bool Ventana::EsModulo() const {
                        [](const Control* c) { return dynamic_cast<const FlexGrid*>(c) != nullptr; });
 }
 
+QWidget* Ventana::Marco() {
+    auto* marco = qobject_cast<QMdiSubWindow*>(parentWidget());
+    return marco == nullptr ? static_cast<QWidget*>(this) : marco;
+}
+
 void Ventana::Soltar() {
+    if (forma_ == nullptr) {
+        return;
+    }
     for (Vista* vista : vistas_) {
         vista->Soltar();
     }
     vistas_.clear();
+    for (const Control* control : forma_->Controles()) {
+        const auto* menu = dynamic_cast<const Menu*>(control);
+        if (menu != nullptr && menu->Vista() != nullptr) {
+            static_cast<VistaMenu*>(menu->Vista())->Soltar();
+        }
+    }
     menuBar()->clear();
     forma_ = nullptr;
 }

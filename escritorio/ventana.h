@@ -5,6 +5,7 @@
 
 #include "frame/formulario.h"
 
+class QAction;
 class QBoxLayout;
 class QMenu;
 
@@ -20,7 +21,10 @@ class Ventana : public QMainWindow {
   public:
     Ventana(Escritorio& escritorio, Formulario& forma);
 
-    Formulario& Forma() const { return *forma_; }
+    /// The form that the window shows, or null once it was let go.
+    Formulario* Forma() const { return forma_; }
+    /// The outermost widget of the window: its frame when it stands inside another window.
+    QWidget* Marco();
     /// The form is about to go: from now on the window shows nothing and tells nothing.
     void Soltar();
 
@@ -43,6 +47,9 @@ class Ventana : public QMainWindow {
     Formulario* forma_;
     std::vector<Vista*> vistas_;
 };
+
+/// The entry of a window's menus that shows an entry of its form.
+QAction* AccionDe(const Menu& entrada);
 
 /// Fills a menu of the screen with the entries of a form's menu.
 void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo);

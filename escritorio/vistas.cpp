@@ -1,5 +1,6 @@
 #include "escritorio/vistas.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QKeyEvent>
@@ -16,6 +17,7 @@
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
 #include "escritorio/vistagrid.h"
+#include "escritorio/vistatextorico.h"
 #include "frame/controles.h"
 #include "frame/flexgrid.h"
 
@@ -298,20 +300,34 @@ class VistaEstado : public Vista {
     VistaEstado(Escritorio& escritorio, StatusBar& barra, QLabel* texto)
         : Vista(escritorio, barra, texto), barra_(barra), texto_(texto) {
         texto_->setProperty("papel", QStringLiteral("estado"));
+        if (barra.Paneles() == 1) {
+            return;
+        }
+        // The panels after the first one stand at the right end.
+        auto* fila = new QHBoxLayout(texto_);
+        fila->setContentsMargins(0, 0, 0, 0);
+        fila->addStretch(1);
+        for (int i = 2; i <= barra.Paneles(); ++i) {
+            auto* panel = new QLabel(texto_);
+            panel->setProperty("papel", QStringLiteral("nota"));
+            fila->addSpacing(estilo::kMargen);
+            fila->addWidget(panel);
+            otros_.push_back(panel);
+        }
     }
 
   protected:
     void Mostrar() override {
-        QStringList textos;
-        for (int i = 1; i <= barra_.Paneles(); ++i) {
-            textos << Q(barra_.Panel(i));
+        texto_->setText(Q(barra_.Panel(1)));
+        for (int i = 2; i <= barra_.Paneles(); ++i) {
+            otros_[static_cast<std::size_t>(i) - 2]->setText(Q(barra_.Panel(i)));
         }
-        texto_->setText(textos.join(QStringLiteral("   ")));
     }
 
   private:
     StatusBar& barra_;
     QLabel* texto_;
+    std::vector<QLabel*> otros_;
 };
 
 /// A picture drawn to the size that it is given.
@@ -392,6 +408,9 @@ Vista* HacerVista(Escritorio& escritorio, Control& control, QWidget* padre) {
     }
     if (auto* c = dynamic_cast<StatusBar*>(&control)) {
         return new VistaEstado(escritorio, *c, new QLabel(padre));
+    }
+    if (auto* c = dynamic_cast<RichTextBox*>(&control)) {
+        return new VistaTextoRico(escritorio, *c, padre);
     }
     if (auto* c = dynamic_cast<PictureBox*>(&control)) {
         return new VistaImagen(escritorio, *c, new Lamina(padre));

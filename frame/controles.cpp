@@ -15,8 +15,11 @@ TextBox::TextBox(Formulario& forma, std::string nombre, std::string nombreAccesi
 
 void TextBox::AlCambiarTexto() {
     const int longitud = Len(Text());
-    SelStart = std::min(SelStart(), longitud);
-    SelLength = std::min(SelLength(), longitud - SelStart());
+    const int inicio = trasEscribir_ ? trasEscribir_->inicio : SelStart();
+    const int marcados = trasEscribir_ ? trasEscribir_->longitud : SelLength();
+    trasEscribir_.reset();
+    SelStart = std::min(inicio, longitud);
+    SelLength = std::min(marcados, longitud - SelStart());
     Change();
 }
 
@@ -26,18 +29,19 @@ void TextBox::Seleccionar(int inicio, int longitud) {
 }
 
 void TextBox::EscritoPorUsuario(const std::string& texto, int selStart, int selLength) {
+    if (texto == Text()) {
+        Seleccionar(selStart, selLength);
+        return;
+    }
+    trasEscribir_ = {selStart, selLength};
     Text = texto;
-    Seleccionar(selStart, selLength);
 }
 
 void TextBox::Reemplazar(int inicio, int cuantos, const std::string& nuevo) {
     const std::string anterior = Text;
-    const int longitud = Len(anterior);
-    // The cursor goes first, so that a Change handler finds it where the user left it.
-    const std::string texto =
-        Subtexto(anterior, 0, inicio) + nuevo + Subtexto(anterior, inicio + cuantos, longitud - inicio - cuantos);
-    Text = texto;
-    Seleccionar(inicio + Len(nuevo), 0);
+    const int resto = inicio + cuantos;
+    EscritoPorUsuario(Subtexto(anterior, 0, inicio) + nuevo + Subtexto(anterior, resto, Len(anterior) - resto),
+                      inicio + Len(nuevo), 0);
 }
 
 void TextBox::Borrar(int desplazamiento) {

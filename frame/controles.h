@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,7 +50,13 @@ class TextBox : public Control {
     void Reemplazar(int inicio, int cuantos, const std::string& nuevo);
     void Borrar(int desplazamiento);
 
+    struct Marca {
+        int inicio, longitud;
+    };
+
     FlexGrid* sobre_ = nullptr;
+    /// Where the cursor is to stand when Change fires for what the user wrote.
+    std::optional<Marca> trasEscribir_;
 };
 
 /// What a label is there for; the screen chooses its looks by it.

@@ -19,7 +19,7 @@ void Avisar(QtMsgType, const QMessageLogContext&, const QString& texto) {
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" CUENCALIA_PANTALLA);
     }
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(Avisar);

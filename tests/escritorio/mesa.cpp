@@ -41,7 +41,7 @@ void Mesa::Empezar(TablaFormas formas) {
     escritorio_.reset();
     escritorio_ = std::make_unique<Escritorio>(std::move(formas));
     escritorio_->App().Despachar([this] { escritorio_->App().ModuloAbrir("frmCuencalia"); });
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana("frmCuencalia")));
+    Traer("frmCuencalia");
 }
 
 void Mesa::TearDown() {
@@ -77,6 +77,11 @@ QString Mesa::Celda(int fila, int columna, const char* grid) {
 bool Mesa::ActualALaVista() {
     const QTableView& tabla = Tabla();
     return tabla.viewport()->rect().contains(tabla.visualRect(tabla.currentIndex()));
+}
+
+void Mesa::Traer(const char* forma) {
+    Ventana(forma)->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
 }
 
 void Mesa::ElegirEnBarra(const char* forma, const QString& menu, const QString& entrada) {

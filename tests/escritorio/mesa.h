@@ -86,6 +86,8 @@ class Mesa : public testing::Test {
     int FilaActual() { return Tabla().currentIndex().row() + 1; }
     bool ActualALaVista();
 
+    /// Brings a window to the front, as the user or the window manager does.
+    static void Traer(const char* forma);
     void AbrirModulo() { ElegirEnBarra("frmCuencalia", "Parámetros", "Datos no agrupados"); }
     void ElegirEnBarra(const char* forma, const QString& menu, const QString& entrada);
     static void Clic(QWidget& widget, QPoint donde, Qt::MouseButton boton = Qt::LeftButton);

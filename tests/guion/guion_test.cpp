@@ -42,6 +42,8 @@ class FormaGuion : public ModuloCalculo {
     Menu mnuFile{*this, "mnuFile", "&Archivo"};
     Menu mnuAviso{mnuFile, "mnuAviso", "Aviso"};
 
+    void GenerarReporte(Reporte&) override {}
+
     /// Fails after its first statement.
     void bCalcular_Click() override {
         lblDato.Caption = "antes";
@@ -141,6 +143,7 @@ TEST_F(GuionTest, PalabrasYComillas) {
     EXPECT_EQ(elegida(R"("a\"b\\c")"), Lineas{Texto("cbLatitud", R"(a\"b\\c)")});
     EXPECT_EQ(elegida("  15°  "), Lineas{Texto("cbLatitud", "15°")});
     EXPECT_EQ(elegida("\tfin\r"), Lineas{Texto("cbLatitud", "fin")});
+    EXPECT_EQ(Salida({R"(ver "a\nb")"}), Lineas{R"({"rechazo":"no hay tal control: a\nb","linea":14})"});
     EsperarRechazo(R"(poner txtDigitos "sin cerrar)");
     EsperarRechazo(R"(poner txtDigitos "sin cerrar\")");
 }

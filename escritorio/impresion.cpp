@@ -1,0 +1,122 @@
+#include "escritorio/impresion.h"
+
+#include <QApplication>
+#include <QMarginsF>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPixmap>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QWidget>
+#include <algorithm>
+#include <memory>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/vistatextorico.h"
+#include "frame/rtf.h"
+#include "frame/textorico.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr qreal kMargenHoja = 20;  // mm
+constexpr qreal kPixelesPorPunto = 96.0 / 72;
+constexpr qreal kEscalaMinima = 0.6;  // 10 point letters come out at 6; below that nobody reads them
+
+/// A rule, or a row whose cells are parted by tabs: broken in two it is no table any more. Prose may be broken.
+bool EsDeTabla(const QString& linea) {
+    return linea.contains(QLatin1Char('\t')) ||
+           (!linea.isEmpty() && std::all_of(linea.begin(), linea.end(), [](QChar c) { return c == QLatin1Char('-'); }));
+}
+
+/// Width of the widest line of a table, in pixels of 1/96 inch.
+qreal AnchoDeTablas(const QTextDocument& documento) {
+    qreal ancho = 0;
+    for (QTextBlock bloque = documento.begin(); bloque.isValid(); bloque = bloque.next()) {
+        if (!EsDeTabla(bloque.text())) {
+            continue;
+        }
+        QTextLayout medida(bloque);
+        QTextOption opcion = documento.defaultTextOption();
+        opcion.setWrapMode(QTextOption::NoWrap);
+        opcion.setTabs(bloque.blockFormat().tabPositions());
+        medida.setTextOption(opcion);
+        medida.beginLayout();
+        medida.createLine().setLineWidth(1e6);
+        medida.endLayout();
+        const QTextBlockFormat formato = bloque.blockFormat();
+        ancho = std::max(ancho, medida.lineAt(0).naturalTextWidth() + formato.leftMargin() + formato.rightMargin() +
+                                    std::max(formato.textIndent(), 0.0));
+    }
+    return ancho;
+}
+
+QSizeF EnPixeles(const QSizeF& puntos) { return puntos * kPixelesPorPunto; }
+
+}  // namespace
+
+void ImprimirImagen(Escritorio& escritorio, QWidget& ventana) {
+    if (QPrinterInfo::defaultPrinter().isNull()) {
+        escritorio.MsgBox(
+            "No hay ninguna impresora predeterminada. Instale una impresora y vuelva a imprimir; nada se ha perdido.",
+            kIconoInformacion, "Imprimir");
+        return;
+    }
+    QPrinter impresora(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+    impresora.setPageOrientation(QPageLayout::Landscape);
+    impresora.setDocName(ventana.windowTitle());
+    QPainter pintor;
+    if (!pintor.begin(&impresora)) {
+        escritorio.MsgBox("La impresora no responde. Revísela y vuelva a imprimir; nada se ha perdido.", kIconoError,
+                          "Imprimir");
+        return;
+    }
+    const QPixmap imagen = ventana.grab();
+    const QRectF hoja = impresora.pageRect(QPrinter::DevicePixel);
+    const QSizeF tamano = QSizeF(imagen.size()).scaled(hoja.size(), Qt::KeepAspectRatio);
+    pintor.drawPixmap(QRectF(QPointF(0, 0), tamano), imagen, QRectF(imagen.rect()));
+}
+
+bool PideApaisado(const QTextDocument& documento, const QPagedPaintDevice& hoja) {
+    const QSizeF util = EnPixeles(hoja.pageLayout().paintRectPoints().size());
+    return AnchoDeTablas(documento) > std::min(util.width(), util.height());
+}
+
+/// The page is laid out at 96 pixels an inch, as on the screen, and painted to the size of the sheet: a page made wider
+/// for the widest table comes out smaller as a whole, and columns of dashes, blanks and tabs keep lining up.
+void ImprimirAjustado(QTextDocument& documento, QPagedPaintDevice& hoja) {
+    const QSizeF util = EnPixeles(hoja.pageLayout().paintRectPoints().size());
+    const qreal escala = std::clamp(util.width() / std::max(AnchoDeTablas(documento), 1.0), kEscalaMinima, 1.0);
+    documento.setPageSize(util / escala);
+    documento.print(&hoja);
+}
+
+void ImprimirTexto(const EditorTextoRico& texto, bool soloSeleccion, const QString& titulo, const QString& nombre) {
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setDocName(nombre);
+    impresora.setPageMargins(QMarginsF(kMargenHoja, kMargenHoja, kMargenHoja, kMargenHoja), QPageLayout::Millimeter);
+    std::unique_ptr<QTextDocument> documento = DocumentoParaPapel(texto.Documento());
+    if (PideApaisado(*documento, impresora)) {
+        impresora.setPageOrientation(QPageLayout::Landscape);
+    }
+    QPrintDialog dialogo(&impresora, QApplication::activeWindow());
+    dialogo.setWindowTitle(titulo);
+    dialogo.setOption(QPrintDialog::PrintPageRange, false);
+    dialogo.setOption(QPrintDialog::PrintCurrentPage, false);
+    dialogo.setOption(QPrintDialog::PrintSelection, soloSeleccion);
+    dialogo.setPrintRange(soloSeleccion ? QPrintDialog::Selection : QPrintDialog::AllPages);
+    if (dialogo.exec() != QDialog::Accepted) {
+        return;
+    }
+    if (dialogo.printRange() == QPrintDialog::Selection) {
+        documento = DocumentoParaPapel(LeerRtf(texto.SelRTF(), ClaseRtf::kFragmento));
+    }
+    ImprimirAjustado(*documento, impresora);
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,171 @@
+#include "escritorio/ventanapadre.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QDateTime>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScreen>
+#include <QTabBar>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/vista.h"
+#include "frame/aplicacion.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr double kTwipsPorPixel = 15;
+constexpr int kMiradaAlReloj = 5000;  // ms
+const QSize kMinimo(320, 240);        // the menus, some lines and the status bar
+
+/// A setting may hold any number.
+int EnPixeles(double twips) {
+    constexpr double kLimite = 1e5;
+    return static_cast<int>(std::clamp(twips / kTwipsPorPixel, -kLimite, kLimite));
+}
+
+QScreen* PantallaDe(const QRect& lugar) {
+    const auto comun = [&lugar](const QScreen* pantalla) {
+        const QSize s = pantalla->availableGeometry().intersected(lugar).size();
+        return s.isEmpty() ? 0 : s.width() * s.height();
+    };
+    QScreen* mejor = QGuiApplication::primaryScreen();
+    for (QScreen* pantalla : QGuiApplication::screens()) {
+        mejor = comun(pantalla) > comun(mejor) ? pantalla : mejor;
+    }
+    return mejor;
+}
+
+}  // namespace
+
+QRect LugarVisible(double izquierda, double arriba, double ancho, double alto, const QSize& minimo) {
+    const QRect pedido(EnPixeles(izquierda), EnPixeles(arriba), EnPixeles(ancho), EnPixeles(alto));
+    const QRect pantalla = PantallaDe(pedido)->availableGeometry();
+    const QSize tamano = pedido.size().expandedTo(minimo).boundedTo(pantalla.size());
+    const QPoint ultimo = pantalla.bottomRight() - QPoint(tamano.width() - 1, tamano.height() - 1);
+    return {QPoint(std::clamp(pedido.left(), pantalla.left(), ultimo.x()),
+                   std::clamp(pedido.top(), pantalla.top(), ultimo.y())),
+            tamano};
+}
+
+VentanaPadre::VentanaPadre(Escritorio& escritorio, frmPadre& forma)
+    : Ventana(escritorio, forma), escritorio_(escritorio), area_(new QMdiArea(this)) {
+    area_->setViewMode(QMdiArea::TabbedView);
+    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    area_->setDocumentMode(true);
+    area_->setTabsClosable(true);
+    area_->setBackground(palette().window());
+    // Of the path of a file the end tells most.
+    area_->findChild<QTabBar*>()->setElideMode(Qt::ElideLeft);
+    auto* caja = static_cast<QBoxLayout*>(centralWidget()->layout());
+    caja->setContentsMargins(0, 0, 0, 0);
+    caja->setSpacing(0);
+    caja->insertWidget(0, area_, 1);
+    connect(area_, &QMdiArea::subWindowActivated, this, &VentanaPadre::Activada);
+    PonerAtajos();
+    auto* reloj = new QTimer(this);
+    connect(reloj, &QTimer::timeout, this, &VentanaPadre::DecirHora);
+    reloj->start(kMiradaAlReloj);
+    DecirHora();
+    setMinimumSize(kMinimo);
+    AbrirEnSuLugar();
+}
+
+void VentanaPadre::PonerAtajos() {
+    const frmPadre& padre = *Padre();
+    const std::pair<const Menu*, QKeySequence::StandardKey> atajos[] = {{&padre.mnuFileNew, QKeySequence::New},
+                                                                        {&padre.mnuFileOpen, QKeySequence::Open},
+                                                                        {&padre.mnuFileSave, QKeySequence::Save},
+                                                                        {&padre.mnuFileSaveAs, QKeySequence::SaveAs},
+                                                                        {&padre.mnuFilePrint, QKeySequence::Print}};
+    for (const auto& [entrada, tecla] : atajos) {
+        AccionDe(*entrada)->setShortcuts(tecla);
+    }
+}
+
+void VentanaPadre::PonerDelante(Ventana& hija) {
+    auto* marco = qobject_cast<QMdiSubWindow*>(hija.Marco());
+    if (marco == nullptr) {
+        marco = area_->addSubWindow(&hija);
+        marco->show();
+    }
+    area_->setActiveSubWindow(marco);
+}
+
+void VentanaPadre::Activada(QMdiSubWindow* marco) {
+    const auto* hija = marco == nullptr ? nullptr : qobject_cast<Ventana*>(marco->widget());
+    if (Padre() == nullptr || hija == nullptr || hija->Forma() == nullptr) {
+        return;
+    }
+    Aplicacion& app = escritorio_.App();
+    if (app.HijaActiva(*Padre()) != hija->Forma()) {
+        app.Despachar([&] { app.Activar(*hija->Forma()); });
+    }
+}
+
+void VentanaPadre::AbrirEnSuLugar() {
+    const frmPadre& padre = *Padre();
+    const QRect lugar = LugarVisible(padre.Left, padre.Top, padre.Width, padre.Height, minimumSize());
+    resize(lugar.size());
+    move(lugar.topLeft());
+}
+
+void VentanaPadre::DecirLugar() {
+    if (Padre() == nullptr || !isVisible() || isMinimized() || isMaximized() || isFullScreen()) {
+        return;
+    }
+    frmPadre& padre = *Padre();
+    const std::pair<Propiedad<double>*, int> lugar[] = {
+        {&padre.Left, x()}, {&padre.Top, y()}, {&padre.Width, width()}, {&padre.Height, height()}};
+    escritorio_.App().Despachar([&] {
+        for (const auto& [propiedad, pixeles] : lugar) {
+            // A length that the screen shows already keeps its fraction of a pixel.
+            if (EnPixeles(*propiedad) != pixeles) {
+                *propiedad = pixeles * kTwipsPorPixel;
+            }
+        }
+    });
+}
+
+void VentanaPadre::DecirHora() {
+    if (Padre() == nullptr) {
+        return;
+    }
+    StatusBar& barra = Padre()->sbStatusBar;
+    const QDateTime ahora = QDateTime::currentDateTime();
+    const std::string fecha = Std(ahora.toString(QStringLiteral("dd/MM/yyyy")));
+    const std::string hora = Std(ahora.toString(QStringLiteral("HH:mm")));
+    if (barra.Panel(2) != fecha || barra.Panel(3) != hora) {
+        escritorio_.App().Despachar([&] {
+            barra.PonerPanel(2, fecha);
+            barra.PonerPanel(3, hora);
+        });
+    }
+}
+
+void VentanaPadre::moveEvent(QMoveEvent* evento) {
+    Ventana::moveEvent(evento);
+    DecirLugar();
+}
+
+void VentanaPadre::resizeEvent(QResizeEvent* evento) {
+    Ventana::resizeEvent(evento);
+    DecirLugar();
+}
+
+void VentanaPadre::changeEvent(QEvent* evento) {
+    Ventana::changeEvent(evento);
+    if (evento->type() == QEvent::WindowStateChange && Padre() != nullptr) {
+        escritorio_.App().Despachar([this] { Padre()->Minimizada = isMinimized(); });
+    }
+}
+
+}  // namespace cuencalia
