@@ -160,7 +160,7 @@ FormatoParrafo Leer(const QTextBlockFormat& qt) {
 
 /// Characters that a document of the toolkit keeps for its own structure.
 QString SinReservados(QString texto) {
-    for (const ushort reservado : {0x2029, 0xFDD0, 0xFDD1, 0xFFFC}) {
+    for (const char16_t reservado : {u'\x2029', u'\xFDD0', u'\xFDD1', u'\xFFFC'}) {
         texto.replace(QChar(reservado), QChar(QChar::ReplacementCharacter));
     }
     return texto;

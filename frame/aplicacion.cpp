@@ -1,6 +1,7 @@
 #include "frame/aplicacion.h"
 
 #include <algorithm>
+#include <exception>
 #include <new>
 
 namespace cuencalia {
@@ -56,14 +57,23 @@ void Aplicacion::DoEvents() {
 void Aplicacion::EntregarFoco(Control& control) {
     Control* anterior = foco_;
     foco_ = &control;
+    // The new control has the focus even when the old one's handler fails: what is typed next must reach it.
+    std::exception_ptr fallo;
     if (anterior != nullptr) {
-        anterior->LostFocus();
+        try {
+            anterior->LostFocus();
+        } catch (const ErrorEjecucion&) {
+            fallo = std::current_exception();
+        }
         anterior->Notificar();
     }
     // The lost-focus handler may have unloaded the form or sent the focus elsewhere.
     if (foco_ == &control) {
         control.GotFocus();
         control.Notificar();
+    }
+    if (fallo) {
+        std::rethrow_exception(fallo);
     }
 }
 
@@ -76,7 +86,7 @@ void Aplicacion::PulsarTecla(int codigo, int caracter) {
     Despachar([&] {
         const Formulario& forma = control->Forma();
         Despachar([&] { control->KeyDown(codigo); });
-        if (Cargada(forma.Nombre()) != &forma) {
+        if (!EstaAbierta(forma)) {
             return;
         }
         int tecla = caracter;
@@ -148,6 +158,11 @@ Formulario* Aplicacion::Cargada(const std::string& forma) const {
     return hallada == cargadas_.end() ? nullptr : hallada->second.get();
 }
 
+bool Aplicacion::EstaAbierta(const Formulario& forma) const {
+    return Cargada(forma.Nombre()) == &forma ||
+           std::any_of(hijas_.begin(), hijas_.end(), [&](const auto& hija) { return hija.get() == &forma; });
+}
+
 std::vector<Formulario*> Aplicacion::Cargadas() const {
     std::vector<Formulario*> formas;
     for (const auto& [nombre, forma] : cargadas_) {
@@ -163,8 +178,15 @@ Formulario& Aplicacion::ModuloAbrir(const std::string& nombre) {
         if (hacedor == formas_.end()) {
             throw ErrorEjecucion(kObjetoNoEstablecido);
         }
-        forma = (cargadas_[nombre] = hacedor->second(*this)).get();
-        forma->Cargar();
+        std::unique_ptr<Formulario> nueva = hacedor->second(*this);
+        forma = nueva.get();
+        try {
+            forma->Cargar();
+        } catch (const ErrorEjecucion&) {
+            Olvidar(*forma);
+            throw;
+        }
+        cargadas_[nombre] = std::move(nueva);
     }
     plataforma_.MostrarForma(*forma);
     Activar(*forma);

@@ -60,6 +60,8 @@ class Aplicacion {
     /// The loaded default instance, or null.
     Formulario* Cargada(const std::string& forma) const;
     std::vector<Formulario*> Cargadas() const;
+    /// Whether the form is loaded, as a default instance or inside another one's window.
+    bool EstaAbierta(const Formulario& forma) const;
 
     /// Creates the form if its reference is empty, then shows it modeless.
     Formulario& ModuloAbrir(const std::string& forma);

@@ -10,8 +10,6 @@ Control::Control(Formulario& forma, std::string nombre) : forma_(&forma), nombre
     forma_->Registrar(*this);
 }
 
-Control::Control(std::string nombre) : forma_(static_cast<Formulario*>(this)), nombre_(std::move(nombre)) {}
-
 Control::~Control() = default;
 
 Aplicacion& Control::App() const { return forma_->App(); }

@@ -120,7 +120,7 @@ class Control {
 
   protected:
     /// For the form, which stands in nothing.
-    explicit Control(std::string nombre);
+    Control(Formulario* propia, std::string nombre) : forma_(propia), nombre_(std::move(nombre)) {}
 
   private:
     Formulario* forma_;

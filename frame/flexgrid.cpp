@@ -132,8 +132,11 @@ void FlexGrid::PonerTopRow(int fila) {
 const std::string& FlexGrid::TextMatrix(int fila, int columna) const { return textos_[Celda(fila, columna)]; }
 
 void FlexGrid::PonerTextMatrix(int fila, int columna, const std::string& texto) {
-    textos_[Celda(fila, columna)] = texto;
-    Notificar();
+    std::string& celda = textos_[Celda(fila, columna)];
+    if (celda != texto) {
+        celda = texto;
+        Notificar();
+    }
 }
 
 int FlexGrid::ColWidth(int columna) const {

@@ -5,7 +5,7 @@
 namespace cuencalia {
 
 Formulario::Formulario(Aplicacion& app, std::string nombre, std::string caption)
-    : Control(std::move(nombre)), app_(app) {
+    : Control(this, std::move(nombre)), app_(app) {
     Caption = std::move(caption);
 }
 

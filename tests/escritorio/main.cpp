@@ -18,7 +18,8 @@ void Avisar(QtMsgType, const QMessageLogContext&, const QString& texto) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    const QString plataforma = qEnvironmentVariable("QT_QPA_PLATFORM", QStringLiteral("offscreen"));
+    if (plataforma == QLatin1String("offscreen")) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" CUENCALIA_PANTALLA);
     }
     testing::InitGoogleTest(&argc, argv);

@@ -57,8 +57,8 @@ class Shell : public QObject {
     void Abrir(const QUrl& url) { abiertos << url; }
 };
 
-/// A user at the desk: the program is open at its main menu; mouse and keys go to its windows as they would on a screen,
-/// to whatever widget stands under the pointer or has the focus.
+/// A user at the desk: the program is open at its main menu; mouse and keys go to its windows as they would on a
+/// screen, to whatever widget stands under the pointer or has the focus.
 class Mesa : public testing::Test {
   protected:
     void SetUp() override;
@@ -73,7 +73,8 @@ class Mesa : public testing::Test {
     Formulario& Forma(const char* forma = "frmParamEsta") { return *escritorio_->App().Cargada(forma); }
     template <typename W = QWidget>
     W& Widget(const char* control, const char* forma = "frmParamEsta") {
-        auto* widget = Ventana(forma)->findChild<W*>(QString::fromLatin1(control));
+        const QMainWindow* ventana = Ventana(forma);
+        auto* widget = ventana == nullptr ? nullptr : ventana->findChild<W*>(QString::fromLatin1(control));
         if (widget == nullptr) {
             throw std::runtime_error(std::string("no widget shows ") + control);
         }

@@ -32,6 +32,7 @@ class Aspecto : public Mesa {
 };
 
 void Aspecto::EsperarNadaCortado(const char* forma) {
+    ASSERT_NE(Ventana(forma), nullptr) << forma;
     const QWidget* dentro = Ventana(forma)->centralWidget();
     std::vector<const QWidget*> controles;
     for (const QWidget* w : dentro->findChildren<QWidget*>()) {

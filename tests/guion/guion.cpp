@@ -98,13 +98,12 @@ int CodigoDeTecla(int caracter) {
     const bool letraODigito = (caracter >= 'A' && caracter <= 'Z') || (caracter >= '0' && caracter <= '9');
     const bool control = caracter == kTeclaEnter || caracter == kTeclaEscape || caracter == kTeclaRetroceso ||
                          caracter == kTeclaEspacio;
-    constexpr int kPunto = 190;
-    constexpr int kGuion = 189;
-    if (caracter == '.') {
-        return kPunto;
-    }
-    if (caracter == '-') {
-        return kGuion;
+    // The signs of the number pad, and the point.
+    static constexpr std::pair<char, int> kSignos[] = {{'*', 106}, {'+', 107}, {'-', 109}, {'/', 111}, {'.', 190}};
+    for (const auto& [signo, codigo] : kSignos) {
+        if (caracter == signo) {
+            return codigo;
+        }
     }
     return letraODigito || control ? caracter : 0;
 }
