@@ -89,6 +89,10 @@ QLabel[papel="lema"] { color: white; font-size: 13pt; }
 QLabel[papel="pantalla"] { background: @base; border: 1px solid @linea; border-radius: 5px; padding: 8px 12px;
     font-family: monospace; font-size: 20pt; qproperty-alignment: 'AlignRight | AlignVCenter'; }
 QLabel[papel="estado"] { color: @tenue; padding: 3px 12px; border-top: 1px solid @linea; }
+QMdiArea QTabBar::tab { background: transparent; color: @tenue; border: none; border-bottom: 2px solid transparent;
+    padding: 6px 12px; max-width: 260px; }
+QMdiArea QTabBar::tab:selected { color: @texto; border-bottom-color: @acento; }
+QMdiArea QTabBar::tab:hover { background: @luz; }
 QMenuBar { background: @base; border-bottom: 1px solid @linea; padding: 2px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: @luz; }

@@ -63,8 +63,11 @@ VentanaPadre::VentanaPadre(Escritorio& escritorio, frmPadre& forma)
     area_->setDocumentMode(true);
     area_->setTabsClosable(true);
     area_->setBackground(palette().window());
+    auto* fichas = area_->findChild<QTabBar*>();
+    fichas->setExpanding(false);
+    fichas->setDrawBase(false);
     // Of the path of a file the end tells most.
-    area_->findChild<QTabBar*>()->setElideMode(Qt::ElideLeft);
+    fichas->setElideMode(Qt::ElideLeft);
     auto* caja = static_cast<QBoxLayout*>(centralWidget()->layout());
     caja->setContentsMargins(0, 0, 0, 0);
     caja->setSpacing(0);
@@ -95,7 +98,7 @@ void VentanaPadre::PonerDelante(Ventana& hija) {
     auto* marco = qobject_cast<QMdiSubWindow*>(hija.Marco());
     if (marco == nullptr) {
         marco = area_->addSubWindow(&hija);
-        marco->show();
+        marco->showMaximized();
     }
     area_->setActiveSubWindow(marco);
 }

@@ -5,9 +5,7 @@
 namespace cuencalia {
 
 Formulario::Formulario(Aplicacion& app, std::string nombre, std::string caption)
-    : Control(this, std::move(nombre)), app_(app) {
-    Caption = std::move(caption);
-}
+    : Control(this, std::move(nombre)), Caption(*this, std::move(caption)), app_(app) {}
 
 Formulario::~Formulario() = default;
 

@@ -16,7 +16,7 @@ class Formulario : public Control {
     Formulario(Aplicacion& app, std::string nombre, std::string caption);
     ~Formulario() override;
 
-    Propiedad<std::string> Caption{*this};
+    Propiedad<std::string> Caption;
 
     Aplicacion& App() const { return app_; }
 
