@@ -62,6 +62,13 @@ class VistaFormulario : public Vista {
     std::string titulo_;
 };
 
+/// A status bar at the foot of a window is its lower margin.
+bool TieneBarraDeEstado(const Formulario& forma) {
+    const auto controles = EnOrden(forma.Distribucion());
+    return std::any_of(controles.begin(), controles.end(),
+                       [](const Control* c) { return dynamic_cast<const StatusBar*>(c) != nullptr; });
+}
+
 /// A menu entry shows whether it is greyed.
 class VistaMenu : public QObject, public VistaControl {
   public:
@@ -132,6 +139,8 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     }
     if (!lienzo->fondo.isEmpty()) {
         caja->setContentsMargins(36, 30, 28, 28);
+    } else if (!TieneBarraDeEstado(forma)) {
+        caja->setContentsMargins(estilo::kMargen, estilo::kMargen, estilo::kMargen, estilo::kMargen);
     }
     if (forma.Padre() != nullptr) {
         const int margen = estilo::Pixeles(kMargenDocumento);
@@ -204,6 +213,10 @@ void Ventana::HacerMenus() {
     for (Menu* menu : forma_->Barra()) {
         QMenu* enBarra = menuBar()->addMenu(Q(menu->Caption));
         LlenarMenu(escritorio_, *enBarra, *menu);
+        if (menu->Click.Atendido()) {
+            connect(enBarra, &QMenu::aboutToShow, this,
+                    [this, menu] { escritorio_.App().Despachar([menu] { menu->Click(); }); });
+        }
     }
 }
 

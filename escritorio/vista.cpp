@@ -82,6 +82,29 @@ bool Vista::eventFilter(QObject* objeto, QEvent* evento) {
     }
 }
 
+namespace {
+
+/// Signs have the codes of the number pad wherever they are typed: a calculator is to work on a keyboard without one.
+int CodigoDeSigno(int tecla) {
+    switch (tecla) {
+        case Qt::Key_Asterisk:
+            return 106;
+        case Qt::Key_Plus:
+            return 107;
+        case Qt::Key_Minus:
+            return 109;
+        case Qt::Key_Period:
+        case Qt::Key_Comma:
+            return 190;
+        case Qt::Key_Slash:
+            return 111;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
 int CodigoDeTecla(const QKeyEvent& evento) {
     switch (evento.key()) {
         case Qt::Key_Backspace:
@@ -113,6 +136,9 @@ int CodigoDeTecla(const QKeyEvent& evento) {
             return kTeclaF2;
         default:
             break;
+    }
+    if (const int codigo = CodigoDeSigno(evento.key()); codigo != 0) {
+        return codigo;
     }
     const bool letraODigito = (evento.key() >= Qt::Key_A && evento.key() <= Qt::Key_Z) ||
                               (evento.key() >= Qt::Key_0 && evento.key() <= Qt::Key_9) ||

@@ -340,7 +340,12 @@ class Lamina : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter pintor(this);
         pintor.setRenderHint(QPainter::Antialiasing);
-        estilo::PintarFondo(pintor, rect(), imagen);
+        if (!imagen.isEmpty()) {
+            estilo::PintarFondo(pintor, rect(), imagen);
+        }
+        if (hasFocus()) {
+            pintor.fillRect(rect(), palette().highlight());
+        }
     }
 };
 
@@ -348,13 +353,28 @@ class VistaImagen : public Vista {
   public:
     VistaImagen(Escritorio& escritorio, PictureBox& imagen, Lamina* lamina)
         : Vista(escritorio, imagen, lamina), imagen_(imagen), lamina_(lamina) {
-        lamina_->setMinimumSize(400, 150);
+        if (imagen.AceptaFoco()) {
+            // It takes the keyboard for the label above it and shows by a line that it does.
+            lamina_->setFocusPolicy(Qt::StrongFocus);
+            lamina_->setFixedHeight(3);
+        } else {
+            lamina_->setMinimumSize(400, 150);
+        }
     }
 
   protected:
     void Mostrar() override {
         lamina_->imagen = Q(imagen_.Picture);
         lamina_->update();
+    }
+
+    bool Tecla(QKeyEvent& evento) override {
+        const int codigo = CodigoDeTecla(evento);
+        if (!imagen_.AceptaFoco() || EsOrden(evento) || codigo == 0) {
+            return false;
+        }
+        escritorio_.App().PulsarTecla(codigo, CaracterDe(evento));
+        return true;
     }
 
   private:

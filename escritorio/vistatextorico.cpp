@@ -205,6 +205,8 @@ void Reemplazar(QTextDocument& documento, int desde, int cuantas, const TextoRic
             cursor.insertText(SinReservados(Q(tramo.texto)), formato);
         }
     }
+    // Ending with a change of format keeps what the user types next out of this step of undo.
+    cursor.setBlockFormat(cursor.blockFormat());
     cursor.endEditBlock();
 }
 

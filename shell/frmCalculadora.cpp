@@ -112,7 +112,7 @@ Disposicion frmCalculadora::Disponer() {
         cmdValue,    cmdNum[0],   cmdDecimal,   cmdEquals,
     });
     // clang-format on
-    return Columna({BBCalc1.lblDisplay, Fila({OptDegree, OptRadian, Espacio(), Image1}),
+    return Columna({BBCalc1.lblDisplay, BBCalc1.PicDisplay, Fila({OptDegree, OptRadian, Espacio(), Image1}),
                     Fila({std::move(cientificas).Estira(3), std::move(basicas).Estira(4)}), Espacio()});
 }
 

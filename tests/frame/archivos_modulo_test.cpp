@@ -355,12 +355,10 @@ TEST_F(ArchivosModuloTest, HojaDeCalculo) {
                                                      {Double(1e10)},
                                                      {std::monostate(), Double(5)},
                                                      {Double(6)}}));
-    EXPECT_EQ(Datos(), (Tabla{{"N°", "X"},
-                              {" 1", "1.5"},
-                              {" 2", "-0.12345679"},
-                              {" 3", "texto"},
-                              {" 4", "10000000000.0"},
-                              {"[->]", ""}}))
+    EXPECT_EQ(
+        Datos(),
+        (Tabla{
+            {"N°", "X"}, {" 1", "1.5"}, {" 2", "-0.12345679"}, {" 3", "texto"}, {" 4", "10000000000.0"}, {"[->]", ""}}))
         << "the data end at the gap, and a text stands as it is";
     EXPECT_EQ(F().grdt.Row(), 5);
     EXPECT_EQ(F().grdt.Col(), 1);

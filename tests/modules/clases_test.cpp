@@ -97,9 +97,9 @@ TEST(ClasesTest, ConDatosNegativosNoSeRecalcula) {
     EsperarClases(Formar({-9, -7, -6, -5}), {-10, -8, -6}, {-9, -7, -5}, {-8, -6, -4}, {1, 2, 1});
 }
 
-// The recalculated classes end at the sum of the extremes, which is the greatest value itself when the least one is lost
-// in it: 1E-8 + 1E9. A sixth of 1E9 in binary is a shade too small: five times it and once it are 999999999.9999999
-// (recomputed with Python), so the greatest value is in no class.
+// The recalculated classes end at the sum of the extremes, which is the greatest value itself when the least one is
+// lost in it: 1E-8 + 1E9. A sixth of 1E9 in binary is a shade too small: five times it and once it are
+// 999999999.9999999 (recomputed with Python), so the greatest value is in no class.
 TEST(ClasesTest, ValorMasAllaDelUltimoLimite) {
     Valores valores(48, 1e8);
     valores.push_back(1e-8);

@@ -160,7 +160,8 @@ TEST_F(DistriFreTest, GraficarSinResultados) {
 
     CalcularCuatro();
     app.Pulsar(F().bLimpiar);
-    EsperarMensaje(F().bGraficar, "Ejecutar cálculos antes de graficar") << "the number of classes is still known";
+    // The number of classes is still known.
+    EsperarMensaje(F().bGraficar, "Ejecutar cálculos antes de graficar");
     EXPECT_FALSE(F().Graph1.EsVisible());
     // A stopped calculation is none.
     EsperarError(F().bCalcular, 5);

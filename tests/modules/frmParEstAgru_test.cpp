@@ -10,8 +10,7 @@ using pruebas::Tabla;
 using pruebas::Textos;
 
 const Tabla kClasesVacias{{"LCI", "MCL", "LCS", "Fab"}, Textos(4)};
-const Tabla kParametrosVacios{{"Parámetros", "Resultados"}, {"", ""}, {"", ""}, {"", ""},
-                              {"", ""},                     {"", ""}, {"", ""}};
+const Tabla kParametrosVacios{{"Parámetros", "Resultados"}, {"", ""}, {"", ""}, {"", ""}, {"", ""}, {"", ""}, {"", ""}};
 
 class ParEstAgruTest : public pruebas::FormaEnUso<frmParEstAgru> {
   protected:
@@ -71,15 +70,14 @@ TEST_F(ParEstAgruTest, LaMediaEsLaDeLasClases) {
     EXPECT_EQ(Resultados(), (Textos{"7.0000", "2.6667", "1.633", "0.2333", "0.0000", "12.0000"}));
 }
 
-// The marks of 1 to 7 are 1, 3, 5, 7 with 2, 2, 2, 1 values. Mean 25/7 = 3.571429; recomputed with exact fractions in
-// Python: s² = 5, wide as it looks: S2 = 117.714286 - ... see the sums below.
-// Σf·m² = 2·1 + 2·9 + 2·25 + 49 = 119; S2 = 119 - 7·(25/7)² = 208/7 = 29.714286; s² = 208/42 = 4.952381.
-TEST_F(ParEstAgruTest, VarianzaConCuatroDecimalesALoMas) {
+// The marks of 1 to 7 are 1, 3, 5, 7 with 2, 2, 2, 1 values. Mean 25/7 = 3.571429. The squares of the marks add up to
+// 119; S2 = 119 - 7·(25/7)² = 208/7, s² = 208/42 = 4.952381, s = 2.225394.
+TEST_F(ParEstAgruTest, VarianzaYDesviacionConCuatroDecimales) {
     Calcular({"7", "6", "5", "4", "3", "2", "1"});
     const Textos r = Resultados();
     EXPECT_EQ(r[0], "3.5714");
     EXPECT_EQ(r[1], "4.9524");
-    EXPECT_EQ(r[2], "2.2254") << "2.225394";
+    EXPECT_EQ(r[2], "2.2254");
 }
 
 // One of 50 values is in no class (see the test of the classes); the others have the mark 1E9/12. The mean divides by
@@ -100,10 +98,11 @@ TEST_F(ParEstAgruTest, SeriesQueDetienenElCalculo) {
         Textos valores;
         int numero;
     };
-    for (const Caso& caso : {Caso{"no spread for one value", {"7"}, 6}, Caso{"two values: n - 2 and m3 are 0", {"1", "3"}, 6},
-                             Caso{"three values: n - 3 is 0", {"1", "2", "4"}, 11},
-                             Caso{"all equal: s and m3 are 0", {"5", "5", "5", "5"}, 6},
-                             Caso{"the mean of the classes is 0", {"-3", "-1", "1", "3"}, 11}}) {
+    for (const Caso& caso :
+         {Caso{"no spread for one value", {"7"}, 6}, Caso{"two values: n - 2 and m3 are 0", {"1", "3"}, 6},
+          Caso{"three values: n - 3 is 0", {"1", "2", "4"}, 11},
+          Caso{"all equal: s and m3 are 0", {"5", "5", "5", "5"}, 6},
+          Caso{"the mean of the classes is 0", {"-3", "-1", "1", "3"}, 11}}) {
         SCOPED_TRACE(caso.porque);
         app.Pulsar(F().bLimpiar);
         TeclearDatos(caso.valores);
@@ -117,7 +116,8 @@ TEST_F(ParEstAgruTest, OrdenarYLimpiar) {
     TeclearDatos({"9", "5", "7", "6"});
     app.Pulsar(F().orden.bOrdenar);
     EXPECT_TRUE(F().orden.grdorden.EsVisible());
-    EXPECT_EQ(Filas(F().orden.grdorden), (Tabla{{"N°", "X"}, {" 1", "5.0"}, {" 2", "6.0"}, {" 3", "7.0"}, {" 4", "9.0"}}));
+    EXPECT_EQ(Filas(F().orden.grdorden),
+              (Tabla{{"N°", "X"}, {" 1", "5.0"}, {" 2", "6.0"}, {" 3", "7.0"}, {" 4", "9.0"}}));
     EXPECT_EQ(Filas(F().grdParam), kParametrosVacios);
     app.Pulsar(F().bCalcular);
     ASSERT_EQ(Resultados()[0], "6.5000");
