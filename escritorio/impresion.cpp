@@ -1,6 +1,7 @@
 #include "escritorio/impresion.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QMarginsF>
 #include <QPageLayout>
 #include <QPainter>
@@ -98,7 +99,7 @@ void ImprimirAjustado(QTextDocument& documento, QPagedPaintDevice& hoja) {
 
 void ImprimirTexto(const EditorTextoRico& texto, bool soloSeleccion, const QString& titulo, const QString& nombre) {
     QPrinter impresora(QPrinter::HighResolution);
-    impresora.setDocName(nombre);
+    impresora.setDocName(QFileInfo(nombre).fileName());
     impresora.setPageMargins(QMarginsF(kMargenHoja, kMargenHoja, kMargenHoja, kMargenHoja), QPageLayout::Millimeter);
     std::unique_ptr<QTextDocument> documento = DocumentoParaPapel(texto.Documento());
     if (PideApaisado(*documento, impresora)) {

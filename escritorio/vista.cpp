@@ -23,8 +23,8 @@ void Vista::Soltar() {
     if (control_ != nullptr) {
         control_->PonerVista(nullptr);
         control_ = nullptr;
+        escritorio_.Olvidar(this);
     }
-    escritorio_.Olvidar(this);
 }
 
 void Vista::ModeloCambio() { escritorio_.Ensuciar(this); }

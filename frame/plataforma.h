@@ -34,8 +34,7 @@ class Plataforma {
     virtual void DescargarForma(Formulario& forma) = 0;
     /// Opens a menu at the pointer; the entry that the user picks fires its Click before this returns.
     virtual void MenuEmergente(Menu& menu) = 0;
-    /// Sends the form's image to the default printer, with no dialog. Raises an error with a clear text where there is
-    /// no printer.
+    /// Sends the form's image to the default printer, with no dialog; tells the user where there is no printer.
     virtual void ImprimirForma(Formulario& forma) = 0;
     /// Asks for a printer under that title and prints the document, or what is selected in it. Cancel prints nothing.
     virtual void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) = 0;
