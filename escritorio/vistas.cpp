@@ -16,6 +16,7 @@
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
+#include "escritorio/vistagrafico.h"
 #include "escritorio/vistagrid.h"
 #include "escritorio/vistatextorico.h"
 #include "frame/controles.h"
@@ -419,6 +420,9 @@ Vista* HacerVista(Escritorio& escritorio, Control& control, QWidget* padre) {
     }
     if (auto* c = dynamic_cast<FlexGrid*>(&control)) {
         return new VistaGrid(escritorio, *c, padre);
+    }
+    if (auto* c = dynamic_cast<GraficoModulo*>(&control)) {
+        return new VistaGrafico(escritorio, *c, padre);
     }
     if (auto* c = dynamic_cast<Frame*>(&control)) {
         return new VistaMarco(escritorio, *c, new QGroupBox(padre));

@@ -56,6 +56,10 @@ class ArchivoSerieTest : public testing::Test {
     static int ErrorAlCrear(const std::string& ruta) {
         return NumeroDeError([&] { return EscritorSerie(ruta, 1), 0; });
     }
+    static auto Abiertos() {
+        const std::filesystem::directory_iterator descriptores("/proc/self/fd");
+        return std::distance(begin(descriptores), end(descriptores));
+    }
     /// A file of zeros of any length that takes no room on the disk.
     static std::string Hueco(const std::string& ruta, std::int64_t bytes) {
         Guardar(ruta, "");
@@ -135,12 +139,14 @@ TEST_F(ArchivoSerieTest, NoQuedaNingunRegistroAnterior) {
 
 TEST_F(ArchivoSerieTest, RegistrosQueCabenEnUnEntero) {
     const std::int64_t ancho = 16;
+    const auto abiertos = Abiertos();
     EXPECT_EQ(LectorSerie(Hueco(ruta, 32767 * ancho), 4).Registros(), 32767);
     EXPECT_EQ(LectorSerie(Hueco(ruta, 32768 * ancho - 1), 4).Registros(), 32767);
     EXPECT_EQ(ErrorAlLeer(Hueco(ruta, 32768 * ancho), 4), 6);
     EXPECT_EQ(ErrorAlLeer(Hueco(ruta, 65537 * ancho), 4), 6) << "its 16 low bits are a small number";
     EXPECT_EQ(ErrorAlLeer(Hueco(ruta, std::int64_t{2} << 30)), 6) << "2 GB of zeros";
     EXPECT_EQ(ErrorAlLeer(Hueco(ruta, ((std::int64_t{1} << 32) + 1) * 4)), 6) << "its 32 low bits are 1";
+    EXPECT_EQ(Abiertos(), abiertos) << "a file that is refused is closed";
 }
 
 TEST_F(ArchivoSerieTest, LoQueNoSePuedeAbrir) {

@@ -78,6 +78,10 @@ TEST_F(ParEstAgruTest, VarianzaYDesviacionConCuatroDecimales) {
     EXPECT_EQ(r[0], "3.5714");
     EXPECT_EQ(r[1], "4.9524");
     EXPECT_EQ(r[2], "2.2254");
+    // 1, 3, 3, 3, 5 are their own marks: S2 = 8, s² = 2, s = 1.414214, Cv = s/3, Ck = 125·6.4/(24·4).
+    app.Pulsar(F().bLimpiar);
+    Calcular({"1", "3", "3", "3", "5"});
+    EXPECT_EQ(Resultados(), (Textos{"3.0000", "2.0", "1.4142", "0.4714", "0.0000", "8.3333"}));
 }
 
 // One of 50 values is in no class (see the test of the classes); the others have the mark 1E9/12. The mean divides by
