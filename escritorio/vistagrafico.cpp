@@ -37,6 +37,7 @@ constexpr int kSimbolosPorLinea = 24;   ///< More would hide the dashes that tel
 constexpr double kGrosor = 1.8, kLadoSimbolo = 7;
 constexpr int kPuntosDensos = 300;                  ///< More are drawn finer: legible, and some fifty times as fast.
 constexpr int kMuestra = 36, kMuestraSimbolo = 14;  ///< Width of a line and of a lone symbol in the legend.
+constexpr int kMargenEjes = 9;                      ///< Left of the numbers and below the title.
 constexpr int kMargenDerecho = 26;                  ///< Holds half of the last number of the axis.
 constexpr int kAlfaRelleno = 90;
 constexpr int kFondoGris = 7;  ///< Background of some modules; all others have the colour of paper.
@@ -225,6 +226,7 @@ LienzoGrafico::LienzoGrafico(QWidget* padre) : QCustomPlot(padre) {
         eje->setTickLabelFont(letra);
         eje->setLabelFont(letra);
         eje->setLabelPadding(6);
+        eje->setPadding(kMargenEjes);
     }
     connect(xAxis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
             [this](const QCPRange& nuevo, const QCPRange& anterior) { Limitar(*xAxis, todoX_, nuevo, anterior); });

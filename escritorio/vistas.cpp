@@ -162,8 +162,10 @@ class VistaBoton : public Vista {
     void Mostrar() override {
         if (widget_->text() != Q(boton_.Caption)) {
             widget_->setText(Q(boton_.Caption));
+            widget_->ensurePolished();
             const int texto = widget_->fontMetrics().size(Qt::TextShowMnemonic, widget_->text()).width();
-            widget_->setMinimumWidth(std::max(estilo::kAnchoBoton, texto + 2 * estilo::kAireBoton));
+            widget_->setMinimumWidth(
+                std::max({estilo::kAnchoBoton, texto + 2 * estilo::kAireBoton, widget_->sizeHint().width()}));
         }
         const QString imagen = Q(boton_.Picture);
         if (imagen != imagen_) {

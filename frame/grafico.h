@@ -56,7 +56,7 @@ class GraficoModulo : public Control {
 
     const std::vector<Conjunto>& Conjuntos() const { return conjuntos_; }
 
-    /// Hides the chart and empties it for the next drawing.
+    /// Hides the chart; what it showed is not shown again, as the next drawing begins by emptying it.
     void LimpiarGrafico();
 
   private:

@@ -415,8 +415,13 @@ void ModuloCalculo::grdt_MouseDown(int boton) {
 }
 
 void ModuloCalculo::OcultarEdicion() {
-    if (txtt.Visible) {
-        txtt.Visible = false;
+    if (!txtt.Visible) {
+        return;
+    }
+    txtt.Visible = false;
+    if (txtt.TieneFoco()) {
+        // The keys must not go on to a box that is gone.
+        grdt.SetFocus();
     }
 }
 
