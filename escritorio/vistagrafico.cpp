@@ -43,7 +43,7 @@ constexpr int kAlfaRelleno = 90;
 constexpr int kFondoGris = 7;  ///< Background of some modules; all others have the colour of paper.
 
 /// Colours that eyes without red or green keep apart, dark ones for paper and light ones for a dark screen.
-/// Source: Okabe, M. and Ito, K. (2008), "Color Universal Design", University of Tokyo.
+/// Source: Okabe, M. and Ito, K. (2008), "Color Universal Design", University of Tokyo; the green on dark is lighter.
 constexpr std::array<QRgb, 6> kSobreClaro{0xff0072b2, 0xffd55e00, 0xff009e73, 0xff000000, 0xffcc79a7, 0xffe69f00};
 constexpr std::array<QRgb, 6> kSobreOscuro{0xff56b4e9, 0xffe69f00, 0xff2fb98f, 0xfff2f2f2, 0xffcc79a7, 0xfff0e442};
 

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QMimeData>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QTest>
@@ -22,7 +21,9 @@ namespace {
 
 class FormaConGrafico : public Formulario {
   public:
-    explicit FormaConGrafico(Aplicacion& app) : Formulario(app, "frmGrafico", "Gráfico de prueba") {}
+    explicit FormaConGrafico(Aplicacion& app) : Formulario(app, "frmGrafico", "Gráfico de prueba") {
+        Text1.Enabled = false;
+    }
 
     TextBox Text1{*this, "Text1"};
     GraficoModulo Graph1{*this, "Graph1", "Gráfico de la serie"};
@@ -167,12 +168,12 @@ TEST_F(Grafico, PointsWithoutAValueAreLeftOut) {
 }
 
 TEST_F(Grafico, AnAreaIsFilledDownToZero) {
-    Dibujar({{"", {0, 0, 15, 15}, {0, 6, 6, 0}}, {"", {15, 30}, {9, 10}}}, {.tipo = kGraficoAreas});
+    Dibujar({{"", {0, 0, 15, 15}, {0, 6, 6, 0}}, {"", {15, 20, 25, 30}, {9, 10, 8, 10}}}, {.tipo = kGraficoAreas});
     EXPECT_EQ(Lienzo().yAxis->range().lower, 0);
     EXPECT_GT(Lienzo().yAxis->range().upper, 10);
     // The filling of the second set stands on zero at both ends.
     ASSERT_EQ(Lienzo().plottableCount(), 4);
-    EXPECT_EQ(Puntos(Curva(2)), (Pares{{15, 0}, {15, 9}, {30, 10}, {30, 0}}));
+    EXPECT_EQ(Puntos(Curva(2)), (Pares{{15, 0}, {15, 9}, {20, 10}, {25, 8}, {30, 10}, {30, 0}}));
     const QImage imagen = Lienzo().grab().toImage();
     EXPECT_NE(imagen.pixelColor(Pixel(22, 3)), imagen.pixelColor(Pixel(22, 10.3)));
 
@@ -195,6 +196,7 @@ TEST_F(Grafico, ALonePointAndAFlatLineHaveARangeAroundThem) {
 TEST_F(Grafico, AxesHaveADecimalPointAndAsManyDecimalsAsTheyNeed) {
     const QLocale antes;
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    SetUp();
     Dibujar({{"", {0, 10000}, {-0.25, 1}}});
     Lienzo().replot();
     QLocale::setDefault(antes);
@@ -272,6 +274,24 @@ TEST_F(Grafico, ArrowKeysGoFromPointToPoint) {
     EXPECT_TRUE(Lienzo().xAxis->range().contains(0));
 }
 
+TEST_F(Grafico, TabLeadsFromABoxToTheChart) {
+    if (!Modelo().AceptaFoco()) {
+        GTEST_SKIP() << "the chart's model takes no focus, so the desktop gives it back to the box";
+    }
+    DibujarTres();
+    auto& caja = static_cast<FormaConGrafico&>(Forma("frmGrafico")).Text1;
+    escritorio_->App().Despachar([&] {
+        caja.Enabled = true;
+        caja.SetFocus();
+    });
+    Escribir("12");
+    Tecla(Qt::Key_Tab);
+    ASSERT_TRUE(Lienzo().hasFocus());
+    Tecla(Qt::Key_Right);
+    EXPECT_EQ(Senalado(), "Exp\nx = 0, y = 0.1");
+    EXPECT_TRUE(Lienzo().hasFocus());
+}
+
 TEST_F(Grafico, TheUserZoomsAndMovesAndComesBack) {
     DibujarTres();
     const QCPRange todoX = Lienzo().xAxis->range(), todoY = Lienzo().yAxis->range();
@@ -307,11 +327,15 @@ TEST_F(Grafico, TheUserZoomsAndMovesAndComesBack) {
     QTest::mouseDClick(&Lienzo(), Qt::LeftButton, Qt::NoModifier, desde);
     EXPECT_TRUE(esTodo());
 
-    for (int i = 0; i < 1000; ++i) {
-        Tecla(i < 500 ? Qt::Key_Plus : Qt::Key_Minus);
+    // Neither end of the zoom leads where the axes have no numbers: a step is a fifth.
+    for (int i = 0; i < 150; ++i) {
+        Tecla(Qt::Key_Plus);
     }
-    EXPECT_GT(Lienzo().xAxis->range().size(), 0);
-    EXPECT_LT(Lienzo().xAxis->range().size(), 1e6);
+    EXPECT_GT(Lienzo().xAxis->range().size(), 1e-6 * todoX.size());
+    for (int i = 0; i < 200; ++i) {
+        Tecla(Qt::Key_Minus);
+    }
+    EXPECT_LT(Lienzo().xAxis->range().size(), 1e4 * todoX.size());
 }
 
 TEST_F(Grafico, FilesAreWholeAndDrawnOnWhite) {
@@ -377,8 +401,11 @@ TEST_F(Grafico, TheContextMenuOffersWhatCanBeDone) {
     EXPECT_EQ(entradas,
               QStringList({"Ver todo", "Copiar", "Guardar como PNG…", "Guardar como PDF…", "Guardar como SVG…"}));
 
-    // The menu key opens it; Escape closes it before the dialogs' watchman looks.
     Clic(Lienzo(), Pixel(25, 0.8));
+    QGuiApplication::clipboard()->clear();
+    Tecla(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_FALSE(QGuiApplication::clipboard()->image().isNull());
+
     QStringList abiertas;
     QTimer::singleShot(50, qApp, [&] {
         if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
@@ -388,16 +415,14 @@ TEST_F(Grafico, TheContextMenuOffersWhatCanBeDone) {
             menu->close();
         }
     });
-    QContextMenuEvent tecla(QContextMenuEvent::Keyboard, Lienzo().rect().center());
+    const QPoint centro = Lienzo().rect().center();
+    QContextMenuEvent tecla(QContextMenuEvent::Keyboard, centro, Lienzo().mapToGlobal(centro));
     QCoreApplication::sendEvent(&Lienzo(), &tecla);
     EXPECT_EQ(abiertas, entradas);
 
     Lienzo().actions()[2]->trigger();
     EXPECT_EQ(vigia_->otrosDialogos, QStringList("Guardar el gráfico"));
     EXPECT_TRUE(vigia_->mensajes.empty());
-    QGuiApplication::clipboard()->clear();
-    Tecla(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasImage());
 }
 
 }  // namespace
