@@ -56,6 +56,9 @@ class GraficoModulo : public Control {
 
     const std::vector<Conjunto>& Conjuntos() const { return conjuntos_; }
 
+    /// The keyboard reads the points one by one.
+    bool AceptaFoco() const override { return true; }
+
     /// Hides the chart; what it showed is not shown again, as the next drawing begins by emptying it.
     void LimpiarGrafico();
 
