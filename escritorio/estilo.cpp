@@ -56,11 +56,11 @@ QString Nombre(QRgb color) { return QColor(color).name(); }
 QString Hoja() {
     QString hoja = QStringLiteral(R"(
 QToolButton, QPushButton {
-    background: @boton; color: @texto; border: 1px solid @linea; border-radius: 5px; padding: 5px 8px;
+    background: @boton; color: @texto; border: 1px solid @linea; border-radius: 5px; padding: 5px 6px;
 }
 QToolButton:hover, QPushButton:hover { background: @luz; border-color: @acento; }
 QToolButton:pressed, QPushButton:pressed { background: @encabezado; }
-QToolButton:focus, QPushButton:focus { border: 2px solid @acento; padding: 4px 7px; }
+QToolButton:focus, QPushButton:focus { border: 2px solid @acento; padding: 4px 5px; }
 QToolButton:disabled, QPushButton:disabled { color: @tenue; background: transparent; }
 QGroupBox { border: 1px solid @linea; border-radius: 6px; margin-top: 9px; padding: 6px 4px 2px 4px; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: @tenue; }

@@ -12,11 +12,11 @@ class QRectF;
 namespace cuencalia::estilo {
 
 inline constexpr int kMargen = 12;        ///< Around the contents of a window, pixels at 100 %.
-inline constexpr int kSeparacion = 8;     ///< Between controls.
+inline constexpr int kSeparacion = 7;     ///< Between controls.
 inline constexpr int kSeparacionMin = 4;  ///< Between a heading and what it heads.
 inline constexpr int kIcono = 26;         ///< Side of a button's picture.
-inline constexpr int kAnchoBoton = 76;    ///< Least width of a button.
-inline constexpr int kAireBoton = 14;     ///< Left and right of a button's text.
+inline constexpr int kAnchoBoton = 64;    ///< Least width of a button.
+inline constexpr int kAireBoton = 9;      ///< Left and right of a button's text.
 
 enum class Esquema { Claro, Oscuro };
 

@@ -281,7 +281,7 @@ void Ventana::PonerGrupo(const Disposicion& d, QBoxLayout& caja, QWidget* padre)
     Vista* vista = Hacer(*d.control, padre);
     auto* dentro = new QVBoxLayout(vista->Widget());
     dentro->setSpacing(estilo::kSeparacion);
-    dentro->setContentsMargins(8, 6, 8, 8);
+    dentro->setContentsMargins(6, 6, 6, 6);
     PonerHijos(d, *dentro, vista->Widget());
     caja.addWidget(vista->Widget(), d.estira);
 }

@@ -276,7 +276,7 @@ void VistaGrid::Mostrar() {
     const int renglon = tabla_->fontMetrics().height();
     tabla_->horizontalHeader()->setVisible(grid_.FixedRows() > 0);
     tabla_->horizontalHeader()->setFixedHeight(std::max(alto, grid_.FixedRows() * renglon + 6));
-    const int filas = std::min(kFilasNaturales, std::max(kFilasMinimas, grid_.Rows() - grid_.FixedRows()));
+    const int filas = std::clamp(grid_.Rows() - grid_.FixedRows(), 1, kFilasNaturales);
     const int natural = tabla_->horizontalHeader()->height() +
                         filas * tabla_->verticalHeader()->defaultSectionSize() + 2 * tabla_->frameWidth() + 2;
     if (natural != tabla_->altoNatural) {
