@@ -127,7 +127,8 @@ void Aplicacion::PedirFoco(Control& control) {
 }
 
 void Aplicacion::Activar(Formulario& forma) {
-    const auto hija = std::find_if(hijas_.begin(), hijas_.end(), [&](const auto& otra) { return otra.get() == &forma; });
+    const auto hija =
+        std::find_if(hijas_.begin(), hijas_.end(), [&](const auto& otra) { return otra.get() == &forma; });
     if (hija != hijas_.end()) {
         std::rotate(hija, hija + 1, hijas_.end());
     }
@@ -235,9 +236,8 @@ Formulario& Aplicacion::AbrirHija(Formulario& padre, std::unique_ptr<Formulario>
 }
 
 Formulario* Aplicacion::HijaActiva(const Formulario& padre) const {
-    const auto ultima = std::find_if(hijas_.rbegin(), hijas_.rend(), [&](const std::unique_ptr<Formulario>& hija) {
-        return hija->Padre() == &padre;
-    });
+    const auto ultima = std::find_if(hijas_.rbegin(), hijas_.rend(),
+                                     [&](const std::unique_ptr<Formulario>& hija) { return hija->Padre() == &padre; });
     return ultima == hijas_.rend() ? nullptr : ultima->get();
 }
 

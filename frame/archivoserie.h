@@ -30,7 +30,8 @@ inline constexpr TipoArchivo kArchivoVE{1, "Valores mensuales de X", "Valores me
 inline constexpr TipoArchivo kArchivoTM{1, "Temperaturas mensuales TM", "Temperaturas mensuales TM", "*.TM"};
 inline constexpr TipoArchivo kArchivoTB{1, "Temperaturas mensuales TB", "Temperaturas mensuales TB", "*.TB"};
 inline constexpr TipoArchivo kArchivoP{1, "Valores de precipitación P", "Valores de precipitación P", "*.P"};
-inline constexpr TipoArchivo kArchivoTP{2, "Temperaturas y precipitación TP", "Temperaturas y precipitación TP", "*.TP"};
+inline constexpr TipoArchivo kArchivoTP{2, "Temperaturas y precipitación TP", "Temperaturas y precipitación TP",
+                                        "*.TP"};
 inline constexpr TipoArchivo kArchivoXY{2, "Pares valores X,Y", "Pares valores X,Y", "*.XY"};
 inline constexpr TipoArchivo kArchivoTH{2, "Pares valores T,H", "Pares valores T,H", "*.TH"};
 inline constexpr TipoArchivo kArchivoPA{2, "Pares valores P, A", "Pares valores P, A", "*.PA"};

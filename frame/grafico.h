@@ -31,7 +31,8 @@ class GraficoModulo : public Control {
     Propiedad<int> Background{*this, 11};
     Propiedad<int> BorderStyle{*this};
     Propiedad<int> PatternData{*this};
-    Propiedad<int> AutoInc{*this, 1};  ///< 1: each value written moves on to the next point; 0: ThisPoint and ThisSet address it.
+    Propiedad<int> AutoInc{
+        *this, 1};  ///< 1: each value written moves on to the next point; 0: ThisPoint and ThisSet address it.
     Propiedad<std::string> BottomTitle{*this};
     Propiedad<int> DrawMode{*this, kBorrarGrafico};
 
@@ -49,8 +50,8 @@ class GraficoModulo : public Control {
 
     /// Legend of the current set.
     void PonerLegendText(const std::string& texto);
-    /// y and x of the current point of the current set. With AutoInc each of the two has its own next point, so that all
-    /// the y may be written first, set after set, and then all the x.
+    /// y and x of the current point of the current set. With AutoInc each of the two has its own next point, so that
+    /// all the y may be written first, set after set, and then all the x.
     void PonerGraphData(Double y);
     void PonerXPosData(Double x);
 

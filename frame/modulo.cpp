@@ -110,9 +110,8 @@ ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionMod
     grdt.Scroll.Conectar([this] { OcultarEdicion(); });
     grdt.RowColChange.Conectar([this] { CambioFilaGrid(); });
     grdt.MouseDown.Conectar([this](int boton) { grdt_MouseDown(boton); });
-    txtt.GotFocus.Conectar([this] {
-        StatusBar1.PonerPanel(1, "Para introducir o modificar datos, digitarlos y luego presionar ENTER");
-    });
+    txtt.GotFocus.Conectar(
+        [this] { StatusBar1.PonerPanel(1, "Para introducir o modificar datos, digitarlos y luego presionar ENTER"); });
     txtt.LostFocus.Conectar([this] { StatusBar1.PonerPanel(1, ""); });
     txtt.KeyDown.Conectar([this](int codigo) { txtt_KeyDown(codigo); });
     txtt.KeyPress.Conectar([](int& keyAscii) { keyAscii = keyAscii == kTeclaEnter ? 0 : keyAscii; });
@@ -128,6 +127,21 @@ ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionMod
     }
     mnuEditInsertar.Click.Conectar([this] { InsertarFila(); });
     mnuEditEliminar.Click.Conectar([this] { EliminarFila(); });
+}
+
+void ModuloCalculo::AgregarBotones(const std::vector<std::pair<CommandButton*, const char*>>& propios) {
+    AgregarBoton(bCalcular, "calcular");
+    for (const auto& [boton, imagen] : propios) {
+        AgregarBoton(*boton, imagen);
+    }
+    AgregarBoton(bLimpiar, "limpiar");
+    AgregarBoton(bImprimir, "imprimir");
+    AgregarBoton(bMenu, "menu");
+    AgregarBoton(bCrear, "crear");
+    AgregarBoton(bAccesar, "accesar");
+    AgregarBoton(bReporte, "reporte");
+    AgregarBoton(bCalculadora, "calculadora");
+    AgregarBoton(bCargarExcel, "excel");
 }
 
 void ModuloCalculo::Form_Load() {

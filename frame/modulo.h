@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/aplicacion.h"
@@ -149,6 +150,8 @@ class ModuloCalculo : public MarcoModulo {
     std::string Etiqueta(int i) const;
 
   protected:
+    /// Gives all buttons of the frame their pictures, with the module's own ones after Calcular.
+    void AgregarBotones(const std::vector<std::pair<CommandButton*, const char*>>& propios);
     /// The arrays that CargarMatrices fills, one for each data column.
     void LeerEn(std::vector<ArregloBase<Double>*> columnas) { columnas_ = std::move(columnas); }
     /// Records that a module's files hold besides those of the data rows, written after them.

@@ -70,8 +70,6 @@ void Reporte::CeldaCentrada(std::string_view texto, int ancho, int extra) {
     ReporteTexto(Space(extra) + relleno + std::string(texto) + relleno);
 }
 
-std::string Relleno(std::string_view texto, int ancho) {
-    return Space(CInt(Double(ancho - Len(texto)) / 2).valor());
-}
+std::string Relleno(std::string_view texto, int ancho) { return Space(CInt(Double(ancho - Len(texto)) / 2).valor()); }
 
 }  // namespace cuencalia

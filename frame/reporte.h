@@ -42,8 +42,8 @@ class Reporte {
     EditorTextoRico& documento_;
 };
 
-/// Blanks on each side that centre a text in so many characters: (width - length) / 2, a half going to the even number; none for a
-/// text that is too long.
+/// Blanks on each side that centre a text in so many characters: (width - length) / 2, a half going to the even number;
+/// none for a text that is too long.
 std::string Relleno(std::string_view texto, int ancho);
 
 }  // namespace cuencalia

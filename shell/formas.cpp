@@ -22,14 +22,10 @@ std::unique_ptr<Formulario> Hacer(Aplicacion& app) {
 
 TablaFormas FormasDelPrograma() {
     return {
-        {"frmCuencalia", Hacer<frmCuencalia>},
-        {"frmPadre", Hacer<frmPadre>},
-        {"frmacerc", Hacer<frmacerc>},
-        {"frmCalculadora", Hacer<frmCalculadora>},
-        {"frmDistriFre", Hacer<frmDistriFre>},
-        {"frmParEstAgru", Hacer<frmParEstAgru>},
-        {"frmParamEsta", Hacer<frmParamEsta>},
-        {"frmRegreLineal", Hacer<frmRegreLineal>},
+        {"frmCuencalia", Hacer<frmCuencalia>}, {"frmPadre", Hacer<frmPadre>},
+        {"frmacerc", Hacer<frmacerc>},         {"frmCalculadora", Hacer<frmCalculadora>},
+        {"frmDistriFre", Hacer<frmDistriFre>}, {"frmParEstAgru", Hacer<frmParEstAgru>},
+        {"frmParamEsta", Hacer<frmParamEsta>}, {"frmRegreLineal", Hacer<frmRegreLineal>},
     };
 }
 

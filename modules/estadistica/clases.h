@@ -8,8 +8,8 @@ namespace cuencalia {
 struct Clases {
     using Columna = Arreglo<Double, 1, 50>;
 
-    Integer NC;            ///< Number of classes.
-    Double ancho;          ///< Width of a class; its sign is that of the range.
+    Integer NC;             ///< Number of classes.
+    Double ancho;           ///< Width of a class; its sign is that of the range.
     Columna LCI, MCL, LCS;  ///< Lower limit, class mark, upper limit, in the units of the series.
     Columna FA;             ///< Absolute frequency.
 };

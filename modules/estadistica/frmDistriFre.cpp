@@ -1,30 +1,14 @@
 #include "modules/estadistica/frmDistriFre.h"
 
 #include "frame/textos.h"
-#include "modules/estadistica/orden.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
 frmDistriFre::frmDistriFre(Aplicacion& app)
-    : ModuloCalculo(app, "frmDistriFre",
-                    {.titulo = "Cálculo de la distribución de frecuencia de una muestra",
-                     .encabezados = {"N°", "X"},
-                     .archivo = &kArchivoX}) {
-    LeerEn({&x});
-    AgregarBoton(bCalcular, "calcular");
-    AgregarBoton(orden.bOrdenar, "ordenar");
-    AgregarBoton(bGraficar, "graficar");
-    AgregarBoton(bLimpiar, "limpiar");
-    AgregarBoton(bImprimir, "imprimir");
-    AgregarBoton(bMenu, "menu");
-    AgregarBoton(bCrear, "crear");
-    AgregarBoton(bAccesar, "accesar");
-    AgregarBoton(bReporte, "reporte");
-    AgregarBoton(bCalculadora, "calculadora");
-    AgregarBoton(bCargarExcel, "excel");
-    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+    : ModuloSerie(app, "frmDistriFre", "Cálculo de la distribución de frecuencia de una muestra") {
+    AgregarBotones({{&orden.bOrdenar, "ordenar"}, {&bGraficar, "graficar"}});
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     optDensidad.Click.Conectar([this] { optDensidad_Click(); });
     optAcumulada.Click.Conectar([this] { optAcumulada_Click(); });
@@ -45,15 +29,10 @@ void frmDistriFre::MostrarRotulos(bool visibles) {
 }
 
 void frmDistriFre::LimpiarOtros() {
-    orden.OcultarGrid();
+    ModuloSerie::LimpiarOtros();
     Graph1.LimpiarGrafico();
     MostrarRotulos(false);
     calculado = false;
-}
-
-void frmDistriFre::OrdenarCopia() {
-    xo = x;
-    OrdenarSerie(xo, n);
 }
 
 void frmDistriFre::bCalcular_Click() {
@@ -79,13 +58,6 @@ void frmDistriFre::bCalcular_Click() {
         grddis.PonerTextMatrix(i, 6, Format(FAc(i), "0.#0"));
     }
     calculado = true;
-}
-
-void frmDistriFre::bOrdenar_Click() {
-    orden.MostrarGrid();
-    CargarMatrices();
-    OrdenarCopia();
-    orden.Llenar(xo, n);
 }
 
 void frmDistriFre::bGraficar_Click() {

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "frame/grafico.h"
-#include "frame/modulo.h"
 #include "modules/estadistica/clases.h"
-#include "modules/estadistica/listaordenada.h"
+#include "modules/estadistica/moduloserie.h"
 
 namespace cuencalia {
 
 /// Frequency distribution of a series: classes, frequencies, and the polygon or the cumulative curve.
-class frmDistriFre : public ModuloCalculo {
+class frmDistriFre : public ModuloSerie {
   public:
     explicit frmDistriFre(Aplicacion& app);
 
@@ -21,9 +20,7 @@ class frmDistriFre : public ModuloCalculo {
     Label lblPorcentaje{*this, "lblPorcentaje", "(%)"};
     Label lblFuncion{*this, "lblFuncion", "Fx"};
     Label lblMarcaClase{*this, "lblMarcaClase", "Marca de clase"};
-    ListaOrdenada orden{*this};
 
-    Serie x, xo;
     Clases clases;
     Clases::Columna FR;   ///< Relative frequency, percent.
     Clases::Columna FD;   ///< Density, percent by unit of the series.
@@ -33,7 +30,6 @@ class frmDistriFre : public ModuloCalculo {
     void InicializarResultados() override { InicializarDistri(); }
     void InicializarDistri();
     void bCalcular_Click() override;
-    void bOrdenar_Click();
     void bGraficar_Click();
     void optDensidad_Click();
     void optAcumulada_Click();
@@ -46,7 +42,6 @@ class frmDistriFre : public ModuloCalculo {
     std::vector<Disposicion> BotonesAccion() override;
 
   private:
-    void OrdenarCopia();
     void MostrarRotulos(bool visibles);
     void Dibujar(const char* funcion, const Clases::Columna& ordenadas);
 };

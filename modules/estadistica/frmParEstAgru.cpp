@@ -2,29 +2,14 @@
 
 #include "frame/textos.h"
 #include "modules/estadistica/momentos.h"
-#include "modules/estadistica/orden.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
 frmParEstAgru::frmParEstAgru(Aplicacion& app)
-    : ModuloCalculo(app, "frmParEstAgru",
-                    {.titulo = "Cálculo de parámetros estadísticos agrupando datos",
-                     .encabezados = {"N°", "X"},
-                     .archivo = &kArchivoX}) {
-    LeerEn({&x});
-    AgregarBoton(bCalcular, "calcular");
-    AgregarBoton(orden.bOrdenar, "ordenar");
-    AgregarBoton(bLimpiar, "limpiar");
-    AgregarBoton(bImprimir, "imprimir");
-    AgregarBoton(bMenu, "menu");
-    AgregarBoton(bCrear, "crear");
-    AgregarBoton(bAccesar, "accesar");
-    AgregarBoton(bReporte, "reporte");
-    AgregarBoton(bCalculadora, "calculadora");
-    AgregarBoton(bCargarExcel, "excel");
-    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+    : ModuloSerie(app, "frmParEstAgru", "Cálculo de parámetros estadísticos agrupando datos") {
+    AgregarBotones({{&orden.bOrdenar, "ordenar"}});
 }
 
 void frmParEstAgru::InicializarResultados() {
@@ -39,11 +24,6 @@ void frmParEstAgru::InicializarDistri() {
 }
 
 void frmParEstAgru::InicializarParam() { IniciarTablaParametros(grdParam, {"Parámetros", "Resultados"}); }
-
-void frmParEstAgru::OrdenarCopia() {
-    xo = x;
-    OrdenarSerie(xo, n);
-}
 
 void frmParEstAgru::bCalcular_Click() {
     CargarMatrices();
@@ -62,13 +42,6 @@ void frmParEstAgru::bCalcular_Click() {
         grddis.PonerTextMatrix(i, 2, Format(clases.LCS(i), "0.0#"));
         grddis.PonerTextMatrix(i, 3, Format(clases.FA(i), "##0"));
     }
-}
-
-void frmParEstAgru::bOrdenar_Click() {
-    orden.MostrarGrid();
-    CargarMatrices();
-    OrdenarCopia();
-    orden.Llenar(xo, n);
 }
 
 void frmParEstAgru::ReporteParamEsta(Reporte& reporte) {
@@ -93,10 +66,6 @@ void frmParEstAgru::ReporteParamEsta(Reporte& reporte) {
     reporte.LineaDeGuiones(kRegla);
     reporte.ReporteBlanco();
     ReportarOrdenados(reporte, orden.grdorden);
-}
-
-std::vector<Disposicion> frmParEstAgru::BotonesAccion() {
-    return {bCalcular, orden.bOrdenar, bLimpiar, bImprimir, bMenu};
 }
 
 Disposicion frmParEstAgru::Contenido() {

@@ -2,7 +2,6 @@
 
 #include "frame/textos.h"
 #include "modules/estadistica/momentos.h"
-#include "modules/estadistica/orden.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"
 
@@ -25,22 +24,8 @@ ColumnaParametros Textos(const MomentosLineales& l) {
 }  // namespace
 
 frmParamEsta::frmParamEsta(Aplicacion& app)
-    : ModuloCalculo(app, "frmParamEsta",
-                    {.titulo = "Cálculo de parámetros estadísticos, comunes y con momentos lineales",
-                     .encabezados = {"N°", "X"},
-                     .archivo = &kArchivoX}) {
-    LeerEn({&x});
-    AgregarBoton(bCalcular, "calcular");
-    AgregarBoton(orden.bOrdenar, "ordenar");
-    AgregarBoton(bLimpiar, "limpiar");
-    AgregarBoton(bImprimir, "imprimir");
-    AgregarBoton(bMenu, "menu");
-    AgregarBoton(bCrear, "crear");
-    AgregarBoton(bAccesar, "accesar");
-    AgregarBoton(bReporte, "reporte");
-    AgregarBoton(bCalculadora, "calculadora");
-    AgregarBoton(bCargarExcel, "excel");
-    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+    : ModuloSerie(app, "frmParamEsta", "Cálculo de parámetros estadísticos, comunes y con momentos lineales") {
+    AgregarBotones({{&orden.bOrdenar, "ordenar"}});
     for (TextBox* caja : {&txtL1, &txtL2, &txtL3, &txtL4}) {
         caja->Locked = true;
     }
@@ -58,12 +43,7 @@ void frmParamEsta::LimpiarOtros() {
     for (TextBox* caja : {&txtL1, &txtL2, &txtL3, &txtL4}) {
         caja->Text = "";
     }
-    orden.OcultarGrid();
-}
-
-void frmParamEsta::OrdenarCopia() {
-    xo = x;
-    OrdenarSerie(xo, n);
+    ModuloSerie::LimpiarOtros();
 }
 
 void frmParamEsta::bCalcular_Click() {
@@ -90,13 +70,6 @@ void frmParamEsta::bCalcular_Click() {
     MostrarParametros(grdParam, 3, pl);
 }
 
-void frmParamEsta::bOrdenar_Click() {
-    orden.MostrarGrid();
-    CargarMatrices();
-    OrdenarCopia();
-    orden.Llenar(xo, n);
-}
-
 void frmParamEsta::ReporteParamEsta(Reporte& reporte) {
     constexpr int kRegla = 145;
     ReportarSerie(reporte, grdt);
@@ -119,13 +92,10 @@ void frmParamEsta::ReporteParamEsta(Reporte& reporte) {
     ReportarOrdenados(reporte, orden.grdorden);
 }
 
-std::vector<Disposicion> frmParamEsta::BotonesAccion() {
-    return {bCalcular, orden.bOrdenar, bLimpiar, bImprimir, bMenu};
-}
-
 Disposicion frmParamEsta::Contenido() {
     Disposicion coeficientes = Grupo(Frame8, {Pares(2, {lblL1, txtL1, lblL2, txtL2, lblL3, txtL3, lblL4, txtL4})});
-    return Columna({grdParam, Fila({Columna({std::move(coeficientes), Espacio()}), orden.Zona(), Espacio()}).Estira(1)});
+    return Columna(
+        {grdParam, Fila({Columna({std::move(coeficientes), Espacio()}), orden.Zona(), Espacio()}).Estira(1)});
 }
 
 }  // namespace cuencalia

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "frame/modulo.h"
-#include "modules/estadistica/listaordenada.h"
+#include "modules/estadistica/moduloserie.h"
 
 namespace cuencalia {
 
 /// Statistical parameters of a series: sample, population and linear moments side by side, and the series in order.
-class frmParamEsta : public ModuloCalculo {
+class frmParamEsta : public ModuloSerie {
   public:
     explicit frmParamEsta(Aplicacion& app);
 
@@ -15,25 +14,16 @@ class frmParamEsta : public ModuloCalculo {
     Label lblL1{*this, "lblL1", "L1:"}, lblL2{*this, "lblL2", "L2:"};
     Label lblL3{*this, "lblL3", "L3:"}, lblL4{*this, "lblL4", "L4:"};
     TextBox txtL1{*this, "txtL1"}, txtL2{*this, "txtL2"}, txtL3{*this, "txtL3"}, txtL4{*this, "txtL4"};
-    ListaOrdenada orden{*this};
-
-    Serie x;
-    Serie xo;  ///< x in ascending order.
 
     void InicializarResultados() override { InicializarParam(); }
     void InicializarParam();
     void bCalcular_Click() override;
-    void bOrdenar_Click();
     void GenerarReporte(Reporte& reporte) override { ReporteParamEsta(reporte); }
     void ReporteParamEsta(Reporte& reporte);
 
   protected:
     void LimpiarOtros() override;
     Disposicion Contenido() override;
-    std::vector<Disposicion> BotonesAccion() override;
-
-  private:
-    void OrdenarCopia();
 };
 
 }  // namespace cuencalia

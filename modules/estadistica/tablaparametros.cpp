@@ -6,9 +6,9 @@ namespace {
 
 constexpr int kAltoEncabezado = 340;
 
-constexpr std::array<const char*, 6> kRotulos{"Media:                      ", "Varianza:                   ",
-                                              "Desviación Estándar:        ", "Coeficiente Variación:      ",
-                                              "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "};
+constexpr std::array<const char*, 6> kRotulos{
+    "Media:                      ", "Varianza:                   ", "Desviación Estándar:        ",
+    "Coeficiente Variación:      ", "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "};
 
 }  // namespace
 

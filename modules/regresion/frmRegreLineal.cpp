@@ -6,24 +6,14 @@
 namespace cuencalia {
 
 frmRegreLineal::frmRegreLineal(Aplicacion& app)
-    : ModuloCalculo(
-          app, "frmRegreLineal",
-          {.titulo = "Cálculos con ecuaciones de regresión lineal simple, admite valores negativos o 0",
-           .encabezados = {"Par", "X", "Y"},
-           .patronEdicion = kPatronEdicionB,
-           .tituloDatos = "Ingreso de los pares de datos:",
-           .archivo = &kArchivoXY}) {
+    : ModuloCalculo(app, "frmRegreLineal",
+                    {.titulo = "Cálculos con ecuaciones de regresión lineal simple, admite valores negativos o 0",
+                     .encabezados = {"Par", "X", "Y"},
+                     .patronEdicion = kPatronEdicionB,
+                     .tituloDatos = "Ingreso de los pares de datos:",
+                     .archivo = &kArchivoXY}) {
     LeerEn({&x, &y});
-    AgregarBoton(bCalcular, "calcular");
-    AgregarBoton(bGraficar, "graficar");
-    AgregarBoton(bLimpiar, "limpiar");
-    AgregarBoton(bImprimir, "imprimir");
-    AgregarBoton(bMenu, "menu");
-    AgregarBoton(bCrear, "crear");
-    AgregarBoton(bAccesar, "accesar");
-    AgregarBoton(bReporte, "reporte");
-    AgregarBoton(bCalculadora, "calculadora");
-    AgregarBoton(bCargarExcel, "excel");
+    AgregarBotones({{&bGraficar, "graficar"}});
     AgregarBoton(bCalY, "evaluar");
     AgregarBoton(bCalX, "evaluar");
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });

@@ -96,8 +96,8 @@ int CodigoDeTecla(int caracter) {
         return caracter - 'a' + 'A';
     }
     const bool letraODigito = (caracter >= 'A' && caracter <= 'Z') || (caracter >= '0' && caracter <= '9');
-    const bool control = caracter == kTeclaEnter || caracter == kTeclaEscape || caracter == kTeclaRetroceso ||
-                         caracter == kTeclaEspacio;
+    const bool control =
+        caracter == kTeclaEnter || caracter == kTeclaEscape || caracter == kTeclaRetroceso || caracter == kTeclaEspacio;
     // The signs of the number pad, and the point.
     static constexpr std::pair<char, int> kSignos[] = {{'*', 106}, {'+', 107}, {'-', 109}, {'/', 111}, {'.', 190}};
     for (const auto& [signo, codigo] : kSignos) {
@@ -185,8 +185,8 @@ std::string DatosDe(const GraficoModulo& grafico) {
 
 std::string DatosDe(RichTextBox& documento) {
     const EditorTextoRico& editor = documento.Leer();
-    std::string datos = ",\"titulo\":" + Json(documento.Forma().Caption()) + ",\"texto\":" + Json(editor.Text()) +
-                        ",\"alineacion\":[";
+    std::string datos =
+        ",\"titulo\":" + Json(documento.Forma().Caption()) + ",\"texto\":" + Json(editor.Text()) + ",\"alineacion\":[";
     const char* coma = "";
     for (const int alineacion : editor.Alineaciones()) {
         datos += coma + std::to_string(alineacion);
@@ -217,14 +217,14 @@ void Guion::Nuevo() {
 
 void Guion::Ejecutar(const std::string& linea) {
     static constexpr Orden kOrdenes[] = {
-        {"nuevo", 1, &Guion::OrdenNuevo},       {"menu", 2, &Guion::OrdenMenu},
-        {"forma", 2, &Guion::OrdenForma},       {"fila", 1, &Guion::OrdenFila},
-        {"celda", 4, &Guion::OrdenCelda},       {"menufila", 3, &Guion::OrdenMenuFila},
-        {"teclas", 2, &Guion::OrdenTeclas},     {"click", 2, &Guion::OrdenClick},
-        {"opcion", 2, &Guion::OrdenOpcion},     {"poner", 3, &Guion::OrdenPoner},
-        {"elegir", 3, &Guion::OrdenElegir},     {"ficha", 3, &Guion::OrdenFicha},
-        {"cerrar", 2, &Guion::OrdenCerrar},     {"ver", 2, &Guion::OrdenVer},
-        {"estado", 2, &Guion::OrdenEstado},     {"mensajes", 1, &Guion::OrdenMensajes},
+        {"nuevo", 1, &Guion::OrdenNuevo},     {"menu", 2, &Guion::OrdenMenu},
+        {"forma", 2, &Guion::OrdenForma},     {"fila", 1, &Guion::OrdenFila},
+        {"celda", 4, &Guion::OrdenCelda},     {"menufila", 3, &Guion::OrdenMenuFila},
+        {"teclas", 2, &Guion::OrdenTeclas},   {"click", 2, &Guion::OrdenClick},
+        {"opcion", 2, &Guion::OrdenOpcion},   {"poner", 3, &Guion::OrdenPoner},
+        {"elegir", 3, &Guion::OrdenElegir},   {"ficha", 3, &Guion::OrdenFicha},
+        {"cerrar", 2, &Guion::OrdenCerrar},   {"ver", 2, &Guion::OrdenVer},
+        {"estado", 2, &Guion::OrdenEstado},   {"mensajes", 1, &Guion::OrdenMensajes},
         {"archivo", 2, &Guion::OrdenArchivo},
     };
     ++linea_;
@@ -497,9 +497,7 @@ void Guion::OrdenCerrar(const Palabras& p) {
     }
 }
 
-void Guion::OrdenArchivo(const Palabras& p) {
-    plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]);
-}
+void Guion::OrdenArchivo(const Palabras& p) { plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]); }
 
 void Guion::OrdenVer(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {

@@ -1,0 +1,30 @@
+#include "modules/estadistica/moduloserie.h"
+
+#include "modules/estadistica/orden.h"
+
+namespace cuencalia {
+
+ModuloSerie::ModuloSerie(Aplicacion& app, std::string nombre, std::string titulo)
+    : ModuloCalculo(app, std::move(nombre),
+                    {.titulo = std::move(titulo), .encabezados = {"N°", "X"}, .archivo = &kArchivoX}) {
+    LeerEn({&x});
+    orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
+}
+
+void ModuloSerie::OrdenarCopia() {
+    xo = x;
+    OrdenarSerie(xo, n);
+}
+
+void ModuloSerie::bOrdenar_Click() {
+    orden.MostrarGrid();
+    CargarMatrices();
+    OrdenarCopia();
+    orden.Llenar(xo, n);
+}
+
+std::vector<Disposicion> ModuloSerie::BotonesAccion() {
+    return {bCalcular, orden.bOrdenar, bLimpiar, bImprimir, bMenu};
+}
+
+}  // namespace cuencalia
