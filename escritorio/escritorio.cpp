@@ -192,6 +192,8 @@ void Escritorio::AbrirConShell(const std::string& ruta) {
     }
 }
 
+void Escritorio::IrACarpetaDelPrograma() { QDir::setCurrent(Q(CarpetaInstalacion())); }
+
 void Escritorio::ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                                std::string& nombre) {
     Pintar();

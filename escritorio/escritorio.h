@@ -44,6 +44,7 @@ class Escritorio : public Plataforma {
     void DespuesDeDespachar() override { Pintar(); }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override;
+    void IrACarpetaDelPrograma() override;
     void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                        std::string& nombre) override;
     std::string TextoDelPortapapeles() const override;

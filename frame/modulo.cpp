@@ -308,6 +308,7 @@ void ModuloCalculo::ConTrampa(const char* mensaje, const std::function<void()>& 
 
 void ModuloCalculo::bCrear_Click() {
     ConTrampa("Error desconocido al salvar el archivo ", [this] {
+        App().Sistema().IrACarpetaDelPrograma();
         cdCrear.ShowSave();
         App().Globales().NombreArchivo = cdCrear.FileName;
         CargarMatrices();

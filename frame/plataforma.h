@@ -50,6 +50,8 @@ class Plataforma {
     /// Folder of the installed program: help and correction tables stand below it.
     virtual std::string CarpetaInstalacion() const = 0;
 
+    /// Makes the program's folder the current one, where file dialogs without an earlier choice begin.
+    virtual void IrACarpetaDelPrograma() {}
     /// Asks for a file to open or to save. `nombre` comes in as the name of the last use and goes out as the choice;
     /// on Cancel it stays as it was. The filter joins labels and patterns by bars: "Valores X|*.X".
     virtual void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
