@@ -147,16 +147,9 @@ int CodigoDeTecla(const QKeyEvent& evento) {
 }
 
 int CaracterDe(const QKeyEvent& evento) {
-    switch (evento.key()) {
-        case Qt::Key_Backspace:
-            return kTeclaRetroceso;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return kTeclaEnter;
-        case Qt::Key_Escape:
-            return kTeclaEscape;
-        default:
-            break;
+    const int codigo = CodigoDeTecla(evento);
+    if (codigo == kTeclaRetroceso || codigo == kTeclaEnter || codigo == kTeclaEscape) {
+        return codigo;
     }
     const QList<uint> codigos = evento.text().toUcs4();
     const bool imprimible = codigos.size() == 1 && codigos[0] >= kTeclaEspacio && codigos[0] != 127;
