@@ -159,8 +159,16 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     for (Vista* vista : vistas_) {
         vista->Actualizar();
     }
+    // Measured before the first showing: every widget must have the letters of the style and what it shows by now.
+    for (QWidget* widget : lienzo->findChildren<QWidget*>()) {
+        widget->ensurePolished();
+        widget->updateGeometry();
+    }
+    for (QLayout* interior : lienzo->findChildren<QLayout*>()) {
+        interior->invalidate();
+    }
     const QSize pantalla = screen()->availableSize();
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 620) : QSize(0, 0)) : QSize(960, 580);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 680) : QSize(0, 0)) : QSize(960, 580);
     resize(propio.boundedTo(pantalla));
 }
 

@@ -193,6 +193,7 @@ QModelIndex VistaGrid::Indice(int fila, int columna) const {
 QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Row(), grid_.Col())); }
 
 void VistaGrid::MedirColumnas() {
+    tabla_->ensurePolished();  // the letters of the style, also before the window is first shown
     const QFontMetrics letra = tabla_->fontMetrics();
     std::vector<int> anchos;
     for (int c = 0; c < grid_.Cols(); ++c) {

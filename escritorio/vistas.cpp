@@ -125,11 +125,13 @@ class VistaEtiqueta : public Vista {
   public:
     VistaEtiqueta(Escritorio& escritorio, Label& etiqueta, QLabel* texto)
         : Vista(escritorio, etiqueta, texto), etiqueta_(etiqueta), texto_(texto) {
-        static constexpr const char* kPapeles[] = {"texto", "encabezado", "nota", "titulo", "lema", "pantalla"};
+        static constexpr const char* kPapeles[] = {"texto", "encabezado", "nota",     "titulo",
+                                                   "lema",  "pantalla",   "resultado"};
         texto_->setProperty("papel", QLatin1String(kPapeles[static_cast<int>(etiqueta.SuPapel())]));
-        texto_->setWordWrap(etiqueta.SuPapel() == Papel::Nota);
+        const bool variasLineas = etiqueta.SuPapel() == Papel::Nota || etiqueta.SuPapel() == Papel::Resultado;
+        texto_->setWordWrap(variasLineas);
         texto_->setTextFormat(Qt::PlainText);
-        if (etiqueta.SuPapel() == Papel::Nota) {
+        if (variasLineas) {
             texto_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         }
     }

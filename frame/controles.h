@@ -67,6 +67,7 @@ enum class Papel {
     Titulo,      ///< The program's name over its picture.
     Lema,        ///< What stands below it.
     Pantalla,    ///< The number on a calculator's display, at its right edge.
+    Resultado,   ///< A result told in words; may take several lines.
 };
 
 /// A text that names or tells something.

@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstdint>
 #include <limits>
+#include <numbers>
 #include <type_traits>
 #include <vector>
 
@@ -61,6 +62,8 @@ class Real {
 
 using Single = Real<float>;   ///< 32-bit real: what series files store.
 using Double = Real<double>;  ///< 64-bit real: what every calculation uses.
+
+inline constexpr Double kPi = std::numbers::pi;  ///< 4 * Atn(1), to the last bit.
 
 /// A signed whole number of I's width whose arithmetic raises error 6 instead of wrapping around. The quotient of two
 /// whole numbers is a Double.

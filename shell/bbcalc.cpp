@@ -9,7 +9,7 @@ namespace cuencalia {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979;
+constexpr double kPi15Cifras = 3.14159265358979;
 constexpr int kDigitosMaximos = 15;  // what a Double holds and Str writes
 constexpr const char* kDigitos = "0123456789";
 
@@ -243,8 +243,8 @@ void BBCalc::KeyboardInput(int tecla) {
 
 Double BBCalc::Trigonometrica(int codigo, Double x) const {
     const bool grados = AngleMode == ModoAngulo::Grados;
-    const auto angulo = [&] { return grados ? GradosEnteros(x) * kPi / 180 : x; };
-    const auto enSuUnidad = [&](Double radianes) { return grados ? radianes * 180 / kPi : radianes; };
+    const auto angulo = [&] { return grados ? GradosEnteros(x) * kPi15Cifras / 180 : x; };
+    const auto enSuUnidad = [&](Double radianes) { return grados ? radianes * 180 / kPi15Cifras : radianes; };
     switch (codigo) {
         case 0:
             return Sin(angulo());
@@ -259,7 +259,7 @@ Double BBCalc::Trigonometrica(int codigo, Double x) const {
         case 5:
             return enSuUnidad(Atn(x));
         case 6:
-            return kPi;
+            return kPi15Cifras;
         case 7:
             Randomize(Timer());
             return Double(1000) * Rnd() + 1;

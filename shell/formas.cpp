@@ -1,6 +1,14 @@
 #include "shell/formas.h"
 
 #include "frame/frmPadre.h"
+#include "modules/distribuciones/frmDisGamma2par.h"
+#include "modules/distribuciones/frmDisGamma3par.h"
+#include "modules/distribuciones/frmDisGumbel.h"
+#include "modules/distribuciones/frmDisLogGumbel.h"
+#include "modules/distribuciones/frmDisLogNormal2.h"
+#include "modules/distribuciones/frmDisLogNormal3.h"
+#include "modules/distribuciones/frmDisLogPearson3.h"
+#include "modules/distribuciones/frmDisNormal.h"
 #include "modules/estadistica/frmDistriFre.h"
 #include "modules/estadistica/frmParEstAgru.h"
 #include "modules/estadistica/frmParamEsta.h"
@@ -22,10 +30,22 @@ std::unique_ptr<Formulario> Hacer(Aplicacion& app) {
 
 TablaFormas FormasDelPrograma() {
     return {
-        {"frmCuencalia", Hacer<frmCuencalia>}, {"frmPadre", Hacer<frmPadre>},
-        {"frmacerc", Hacer<frmacerc>},         {"frmCalculadora", Hacer<frmCalculadora>},
-        {"frmDistriFre", Hacer<frmDistriFre>}, {"frmParEstAgru", Hacer<frmParEstAgru>},
-        {"frmParamEsta", Hacer<frmParamEsta>}, {"frmRegreLineal", Hacer<frmRegreLineal>},
+        {"frmCuencalia", Hacer<frmCuencalia>},
+        {"frmPadre", Hacer<frmPadre>},
+        {"frmacerc", Hacer<frmacerc>},
+        {"frmCalculadora", Hacer<frmCalculadora>},
+        {"frmDistriFre", Hacer<frmDistriFre>},
+        {"frmParEstAgru", Hacer<frmParEstAgru>},
+        {"frmParamEsta", Hacer<frmParamEsta>},
+        {"frmRegreLineal", Hacer<frmRegreLineal>},
+        {"frmDisGamma2par", Hacer<frmDisGamma2par>},
+        {"frmDisGamma3par", Hacer<frmDisGamma3par>},
+        {"frmDisGumbel", Hacer<frmDisGumbel>},
+        {"frmDisLogGumbel", Hacer<frmDisLogGumbel>},
+        {"frmDisLogNormal2", Hacer<frmDisLogNormal2>},
+        {"frmDisLogNormal3", Hacer<frmDisLogNormal3>},
+        {"frmDisLogPearson3", Hacer<frmDisLogPearson3>},
+        {"frmDisNormal", Hacer<frmDisNormal>},
     };
 }
 

@@ -26,4 +26,16 @@ void OrdenarSerie(ArregloBase<Double>& x, int n) {
     }
 }
 
+void OrdenarPorSeleccion(ArregloBase<Double>& x, int n) {
+    for (int i = 1; i <= n - 1; ++i) {
+        int j = i + 1;
+        for (int k = i; k <= n; ++k) {
+            if (x(k) < x(j)) {
+                j = k;
+            }
+        }
+        std::swap(x(i), x(j));
+    }
+}
+
 }  // namespace cuencalia

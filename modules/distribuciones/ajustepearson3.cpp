@@ -1,0 +1,112 @@
+#include "modules/distribuciones/ajustepearson3.h"
+
+#include "modules/distribuciones/gamma.h"
+#include "modules/estadistica/momentos.h"
+
+namespace cuencalia {
+
+namespace {
+
+/// Reduced variables of v by the distribution; says whether one of them is negative.
+bool Reducir(const Pearson3& d, const Serie& v, Serie& Y, int n) {
+    bool negativa = false;
+    for (int i = 1; i <= n; ++i) {
+        Y(i) = (v(i) - d.x0) / d.beta;
+        negativa = negativa || Y(i) < 0;
+    }
+    return negativa;
+}
+
+}  // namespace
+
+AjustePearson3::AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion, bool deLogaritmos,
+                               const char* enVeredicto)
+    : MarcoAjuste(app, std::move(nombre), std::move(descripcion)),
+      deLogaritmos_(deLogaritmos),
+      enVeredicto_(enVeredicto) {
+    DeclararParametros({{&txtgamma, &gammao}, {&txtbeta, &betao}, {&txtxo, &xoo}},
+                       {{&txtgammal, &gammal}, {&txtbetal, &betal}, {&txtxol, &xol}});
+}
+
+void AjustePearson3::Ajustar() {
+    Serie v;
+    for (int i = 1; i <= n; ++i) {
+        v(i) = Variable(xo(i));
+    }
+    const ParametrosEstadisticos m = ParametrosMuestrales(v, n);
+    const MomentosLineales l = CalcularMomentosLineales(v, n);
+    const Pearson3 ord = Pearson3PorMomentos(m.media, m.desviacion, m.Cs);
+    // Without a distribution of these L-moments the scale of 0 ends the fit below.
+    const Pearson3 lin = Pearson3PorMomentosLineales(l.L1, l.L2, l.L3 / l.L2).value_or(Pearson3{});
+    const bool negativaOrd = Reducir(ord, v, Yord, n);
+    const bool malOrd = m.Cs < 0 || negativaOrd;
+    const bool malLin = Reducir(lin, v, Ylin, n);
+    const auto llenar = [this](bool mal, Double gamma, const Serie& Y, Probabilidades& G) {
+        if (!mal) {
+            ProbabilidadesGamma(gamma, Y, G, n);
+            return;
+        }
+        for (int i = 1; i <= n; ++i) {
+            G(i) = 0;
+        }
+    };
+    llenar(malOrd, ord.gamma, Yord, Gord);
+    llenar(malLin, lin.gamma, Ylin, Glin);
+    ordinarios = ord;
+    lineales = lin;
+    paramMalOrd = malOrd;
+    paramMalLin = malLin;
+}
+
+void AjustePearson3::EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel) {
+    if (!Incorrectos()) {
+        MarcoAjuste::EscribirVeredicto(deltaTeorico, deltaTabular, nivel);
+        return;
+    }
+    lblmensaje.Caption = "Los parámetros: Xo, gamma y ß calculada por " + Momentos() +
+                         ", son incorrectos, por lo que los datos no se ajustan a la distribución " + enVeredicto_;
+}
+
+bool AjustePearson3::PuedeEvaluar() {
+    if (Incorrectos()) {
+        App().MsgBox("Los datos no se ajustan a la distribución Gamma de 3 parámetros, con " + Momentos(), kIconoError,
+                     "Mensaje de Error");
+        return false;
+    }
+    return true;
+}
+
+Double AjustePearson3::Cuantil(Double p) {
+    Pearson3 d = Elegidos();
+    Double r, y;
+    Gammainversa(d.gamma, p, r, y, n);
+    const Double v = d.beta * y + d.x0;
+    return deLogaritmos_ ? Exp(v) : v;
+}
+
+std::optional<Double> AjustePearson3::Probabilidad(Double Q, Evaluacion evaluacion) {
+    Pearson3 d = Elegidos();
+    Double g, G;
+    gammacompleta(d.gamma, g);
+    const Double y = (Variable(Q) - d.x0) / d.beta;
+    if (evaluacion != Evaluacion::PeriodoRetorno && y < 0) {
+        App().MsgBox("Para los parámetros: Xo y ß la variable reducida y, por " + Momentos() +
+                         ", es negativa, por lo que por lo que no se puede calcular su probabilidad",
+                     kIconoInformacion, "Mensaje de Error");
+        return std::nullopt;
+    }
+    gammaacumulada(d.gamma, y, G, g);
+    return G;
+}
+
+void AjustePearson3::ReportarPearson3(Reporte& reporte, const char* tituloParametros) {
+    ReportarAjuste(reporte, {"           P(X)  ", "G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "}, tituloParametros,
+                   {{"Parámetro de localización (Xo)= ", &txtxo},
+                    {"Parámetro de forma (gamma)= ", &txtgamma},
+                    {"Parámetro de escala (beta)= ", &txtbeta}},
+                   {{"Parámetro de localización (Xol)= ", &txtxol},
+                    {"Parámetro de forma (gammal)= ", &txtgammal},
+                    {"Parámetro de escala (betal)= ", &txtbetal}});
+}
+
+}  // namespace cuencalia

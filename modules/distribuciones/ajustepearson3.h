@@ -1,0 +1,46 @@
+#pragma once
+
+#include "modules/distribuciones/marcoajuste.h"
+#include "modules/distribuciones/pearson3.h"
+
+namespace cuencalia {
+
+/// Fit to the Pearson type III distribution, of the values or of their logarithms. A kind of moments whose parameters
+/// leave values below x0 has no probabilities: its flag is set, the verdict says so and its evaluation is refused.
+class AjustePearson3 : public MarcoAjuste {
+  public:
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):"};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):"};
+    CampoParametro txtxo{*this, "txtxo", "De posición (x0):"};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):"};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):"};
+    CampoParametro txtxol{*this, "txtxol", "De posición (x0l):"};
+
+    Pearson3 ordinarios, lineales;
+    Double &gammao = ordinarios.gamma, &betao = ordinarios.beta, &xoo = ordinarios.x0;
+    Double &gammal = lineales.gamma, &betal = lineales.beta, &xol = lineales.x0;
+    bool paramMalOrd = false, paramMalLin = false;
+
+  protected:
+    /// `enVeredicto` names the distribution where the verdict says that the parameters are incorrect.
+    AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion, bool deLogaritmos,
+                   const char* enVeredicto);
+
+    void Ajustar() override;
+    void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel) override;
+    bool PuedeEvaluar() override;
+    Double Cuantil(Double p) override;
+    std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
+    void ReportarPearson3(Reporte& reporte, const char* tituloParametros);
+
+  private:
+    Double Variable(Double valor) const { return deLogaritmos_ ? Log(valor) : valor; }
+    const Pearson3& Elegidos() const { return Ordinario() ? ordinarios : lineales; }
+    bool Incorrectos() const { return Ordinario() ? paramMalOrd : paramMalLin; }
+    std::string Momentos() const { return Ordinario() ? "momentos ordinarios" : "momentos lineales"; }
+
+    bool deLogaritmos_;
+    const char* enVeredicto_;
+};
+
+}  // namespace cuencalia

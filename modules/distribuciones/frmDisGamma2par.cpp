@@ -1,0 +1,84 @@
+#include "modules/distribuciones/frmDisGamma2par.h"
+
+#include "modules/distribuciones/gamma.h"
+
+namespace cuencalia {
+
+namespace {
+
+Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n) {
+    Double suma;
+    for (int i = 1; i <= n; ++i) {
+        suma += Log(x(i));
+    }
+    return suma / n;
+}
+
+}  // namespace
+
+frmDisGamma2par::frmDisGamma2par(Aplicacion& app)
+    : MarcoAjuste(app, "frmDisGamma2par",
+                  {.titulo = "Ajuste de una serie de datos a la distribución Gamma de 2 parámetros",
+                   .nombre = "Gamma de 2 parámetros",
+                   .marcoParametros = "Parámetros distribución Gamma 2 par:",
+                   .encabezadoOrdinarios = "Con momentos ordinarios:",
+                   .encabezadoLineales = "Con momentos lineales:",
+                   .encabezadosTeoricos = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
+                   .leyendas = {"Exp", "Ord", "ML"}}) {
+    DeclararParametros({{&txtgamma, &gammao}, {&txtbeta, &betao}}, {{&txtgammal, &gammal}, {&txtbetal, &betal}});
+}
+
+void frmDisGamma2par::Ajustar() {
+    const ParametrosEstadisticos m = ParametrosMuestrales(xo, n);
+    const MomentosLineales l = CalcularMomentosLineales(xo, n);
+    const Gamma2 ord = Gamma2PorVerosimilitud(m.media, MediaDeLogaritmos(x, n));
+    const Gamma2 lin = Gamma2PorMomentosLineales(l.L1, l.L2);
+    for (int i = 1; i <= n; ++i) {
+        Yord(i) = xo(i) / ord.beta;
+        Ylin(i) = xo(i) / lin.beta;
+    }
+    ProbabilidadesGamma(ord.gamma, Yord, Gord, n);
+    ProbabilidadesGamma(lin.gamma, Ylin, Glin, n);
+    ordinarios = ord;
+    lineales = lin;
+}
+
+bool frmDisGamma2par::AdmiteParametros() {
+    if (!(gammao > 0 && betao > 0)) {
+        lblmensaje.Caption =
+            "Los datos de la serie no son recomendables utilizarlos con distribución gamma de 3 parámetros, "
+            "puesto que esta distribución, no puede tener parametros gamma o beta negativos";
+        return false;
+    }
+    if (gammal == 0 || betal == 0) {
+        lblmensaje.Caption =
+            "Los parámetros de la distribución gamma, calculados por el método de los momentos lineales, son "
+            "incorrectos";
+        return false;
+    }
+    return true;
+}
+
+Double frmDisGamma2par::Cuantil(Double p) {
+    Gamma2 d = Elegidos();
+    Double r, y;
+    Gammainversa(d.gamma, p, r, y, n);
+    return d.beta * y;
+}
+
+std::optional<Double> frmDisGamma2par::Probabilidad(Double Q, Evaluacion) {
+    Gamma2 d = Elegidos();
+    Double g, G;
+    gammacompleta(d.gamma, g);
+    gammaacumulada(d.gamma, Q / d.beta, G, g);
+    return G;
+}
+
+void frmDisGamma2par::ReporteDistriGamma2(Reporte& reporte) {
+    ReportarAjuste(reporte, {"           P(X)  ", "G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "},
+                   "Los 2 parámetros de la distribución Gamma:",
+                   {{"Parámetro de forma (gamma)= ", &txtgamma}, {"Parámetro de escala (beta)= ", &txtbeta}},
+                   {{"Parámetro de forma (gammal)= ", &txtgammal}, {"Parámetro de escala (betal)= ", &txtbetal}});
+}
+
+}  // namespace cuencalia

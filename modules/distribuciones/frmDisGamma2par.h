@@ -1,0 +1,35 @@
+#pragma once
+
+#include "modules/distribuciones/gamma2.h"
+#include "modules/distribuciones/marcoajuste.h"
+
+namespace cuencalia {
+
+/// Fit of a series of values above 0 to the gamma distribution of two parameters.
+class frmDisGamma2par : public MarcoAjuste {
+  public:
+    explicit frmDisGamma2par(Aplicacion& app);
+
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):"};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):"};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):"};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):"};
+
+    Gamma2 ordinarios, lineales;
+    Double &gammao = ordinarios.gamma, &betao = ordinarios.beta;
+    Double &gammal = lineales.gamma, &betal = lineales.beta;
+
+    void GenerarReporte(Reporte& reporte) override { ReporteDistriGamma2(reporte); }
+    void ReporteDistriGamma2(Reporte& reporte);
+
+  protected:
+    void Ajustar() override;
+    bool AdmiteParametros() override;
+    Double Cuantil(Double p) override;
+    std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
+
+  private:
+    const Gamma2& Elegidos() const { return Ordinario() ? ordinarios : lineales; }
+};
+
+}  // namespace cuencalia

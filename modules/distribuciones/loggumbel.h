@@ -1,0 +1,12 @@
+#pragma once
+
+#include "modules/distribuciones/posicionescala.h"
+
+namespace cuencalia {
+
+/// Log-Gumbel distribution (Fréchet, extreme value type II): the logarithms of the values, all above 0, have a Gumbel
+/// distribution. Position and scale are of ln x.
+/// Source: Kite, G. W. (1977), Frequency and Risk Analyses in Hydrology, Water Resources Publications, Fort Collins.
+extern const DistribucionPosicionEscala kLogGumbel;
+
+}  // namespace cuencalia

@@ -1,0 +1,342 @@
+#include "modules/distribuciones/marcoajuste.h"
+
+#include "frame/textos.h"
+#include "modules/estadistica/orden.h"
+#include "modules/estadistica/tablaparametros.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr int kFilasTabla = 500;
+constexpr const char* kPatronParametro = "#####0.0###";
+constexpr const char* kPatronProbabilidad = "#####0.0##0";
+constexpr const char* kAjusteEnReposo = "Ajuste:";
+constexpr const char* kTituloAviso = "Mensaje de Error";
+
+}  // namespace
+
+CampoParametro::CampoParametro(Formulario& forma, const char* nombre, const char* texto)
+    : etiqueta(forma, std::string("lbl") + nombre, texto), caja(forma, nombre) {
+    caja.Locked = true;
+    etiqueta.Nombra(caja);
+}
+
+TipoDeAjuste::TipoDeAjuste(Formulario& forma, const DescripcionAjuste& descripcion)
+    : marco(forma, "fraTipo", "Tipo de ajuste:"),
+      optOrdinario(forma, "optOrdinario", "Parámetros ordinarios", true),
+      optMomentoLi(forma, "optMomentoLi", "Momentos lineales"),
+      lblOrdinarios(forma, "lblOrdinarios", descripcion.encabezadoOrdinarios, Papel::Encabezado),
+      lblLineales(forma, "lblLineales", descripcion.encabezadoLineales, Papel::Encabezado) {}
+
+MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion)
+    : ModuloCalculo(app, std::move(nombre),
+                    {.titulo = descripcion.titulo, .encabezados = {"N°", "X"}, .archivo = &kArchivoX}),
+      fraParametros(*this, "fraParametros", descripcion.marcoParametros),
+      ajuste_(std::move(descripcion)) {
+    if (ajuste_.encabezadoLineales != nullptr) {
+        tipo.emplace(*this, ajuste_);
+    }
+    LeerEn({&x});
+    AgregarBotones({{&bGraficar, "graficar"}});
+    for (CommandButton* boton : {&bQ, &bT, &bPmayor, &bPmenor}) {
+        AgregarBoton(*boton, "evaluar");
+    }
+    lblT.Nombra(txtxt);
+    lblQ.Nombra(txtxq);
+    lblP.Nombra(txtxp);
+    txtxp.Locked = true;
+    bGraficar.Click.Conectar([this] { bGraficar_Click(); });
+    bQ.Click.Conectar([this] { bQ_Click(); });
+    bT.Click.Conectar([this] { bT_Click(); });
+    bPmayor.Click.Conectar([this] { bPmayor_Click(); });
+    bPmenor.Click.Conectar([this] { bPmenor_Click(); });
+}
+
+void MarcoAjuste::DeclararParametros(std::vector<Parametro> ordinarios, std::vector<Parametro> lineales) {
+    ordinarios_ = std::move(ordinarios);
+    lineales_ = std::move(lineales);
+}
+
+void MarcoAjuste::InicializarDistri() {
+    IniciarTabla(grddis, kFilasTabla,
+                 {"m", "X", "P(X)", ajuste_.encabezadosTeoricos.at(0), ajuste_.encabezadosTeoricos.at(1), "Delta"},
+                 1000);
+    grddis.PonerFixedRows(1);
+    grddis.PonerFixedCols(0);
+    grddis.PonerColWidth(0, 700);
+    grddis.PonerColWidth(3, 1200);
+    grddis.PonerColWidth(4, 1300);
+}
+
+void MarcoAjuste::LimpiarDatos() {
+    for (TextBox* caja : {&txtxq, &txtxt, &txtxp}) {
+        caja->Text = "";
+    }
+    for (const auto* parametros : {&ordinarios_, &lineales_}) {
+        for (const Parametro& p : *parametros) {
+            p.campo->caja.Text = "";
+        }
+    }
+    calculado = false;
+    lblmensaje.Caption = "";
+    lblAjuste.Caption = kAjusteEnReposo;
+}
+
+void MarcoAjuste::LimpiarOtros() {
+    LimpiarDatos();
+    LimpiarGrafico();
+}
+
+void MarcoAjuste::bCalcular_Click() {
+    try {
+        Calcular();
+    } catch (const ErrorEjecucion&) {
+        AlFallar();
+    }
+}
+
+void MarcoAjuste::AlFallar() { App().MsgBox("Ingresar datos adecuadamente ", kIconoInformacion, "Mensaje de error"); }
+
+void MarcoAjuste::Calcular() {
+    CargarMatrices();
+    for (int i = 1; i <= n; ++i) {
+        xo(i) = x(i);
+    }
+    OrdenarPorSeleccion(xo, n);
+    if (!AdmiteSerie()) {
+        return;
+    }
+    for (int i = 1; i <= n; ++i) {
+        PX(i) = PosicionWeibull(i, n);
+    }
+    Ajustar();
+    if (!ajuste_.parametrosTrasTabla) {
+        MostrarParametros();
+    }
+    if (!AdmiteParametros()) {
+        return;
+    }
+    lblAjuste.Caption = Ordinario() ? "Ajuste con momentos ordinarios:" : "Ajuste con momentos lineales:";
+    const Probabilidades& teorica = Ordinario() ? Gord : Glin;
+    for (int i = 1; i <= n; ++i) {
+        Delta(i) = Abs(PX(i) - teorica(i));
+    }
+    const Double deltaTeorico = MayorDelta(Delta, n);
+    LlenarTabla();
+    if (ajuste_.parametrosTrasTabla) {
+        MostrarParametros();
+    }
+    EscribirVeredicto(deltaTeorico, DeltaTabular(Nivel(), n), Nivel().texto);
+    calculado = true;
+}
+
+void MarcoAjuste::MostrarParametros() {
+    for (const auto* parametros : {&ordinarios_, &lineales_}) {
+        for (const Parametro& p : *parametros) {
+            p.campo->caja.Text = Format(*p.valor, kPatronParametro);
+        }
+    }
+}
+
+void MarcoAjuste::LlenarTabla() {
+    const auto [tercera, cuarta] = Teoricas();
+    for (int i = 1; i <= n; ++i) {
+        grddis.PonerTextMatrix(i, 0, CStr(i));
+        grddis.PonerTextMatrix(i, 1, Format(xo(i), kPatronParametro));
+        grddis.PonerTextMatrix(i, 2, Format(PX(i), kPatronProbabilidad));
+        grddis.PonerTextMatrix(i, 3, Format(tercera(i), kPatronProbabilidad));
+        grddis.PonerTextMatrix(i, 4, Format(cuarta(i), kPatronProbabilidad));
+        grddis.PonerTextMatrix(i, 5, Format(Delta(i), kPatronProbabilidad));
+    }
+    // A longer series may have been fitted before: its last rows belong to no value of this one.
+    for (int i = n + 1; i < grddis.Rows() && !grddis.TextMatrix(i, 0).empty(); ++i) {
+        for (int c = 0; c < grddis.Cols(); ++c) {
+            grddis.PonerTextMatrix(i, c, "");
+        }
+    }
+}
+
+const NivelSignificacion& MarcoAjuste::Nivel() const {
+    if (opt020.Value) {
+        return kNivel20;
+    }
+    if (opt010.Value) {
+        return kNivel10;
+    }
+    return opt001.Value ? kNivel1 : kNivel5;
+}
+
+void MarcoAjuste::EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel) {
+    const bool seAjusta = deltaTeorico < deltaTabular;
+    const std::string teorico = Format(deltaTeorico, ajuste_.patronDeltaTeorico);
+    const std::string tabular = Format(deltaTabular, ajuste_.patronDeltaTabular);
+    lblmensaje.Caption = "Como el delta teórico " + teorico + ", es " + (seAjusta ? "menor" : "mayor") +
+                         " que el delta tabular " + tabular + ". Los datos " + (seAjusta ? "" : "no ") +
+                         "se ajustan a la distribución " + ajuste_.nombre + ", con un nivel de significación del" +
+                         nivel;
+}
+
+bool MarcoAjuste::Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta) {
+    if (!calculado) {
+        App().MsgBox("Efectuar cálculos antes de evaluar " + magnitud, kIconoError, kTituloAviso);
+        return false;
+    }
+    if (entrada.Text().empty()) {
+        App().MsgBox(std::string("Ingresar un valor ") + falta + ", antes de evaluar", kIconoError, kTituloAviso);
+        return false;
+    }
+    return true;
+}
+
+void MarcoAjuste::bQ_Click() {
+    if (!Preparado("caudal de diseño", txtxt, "de T") || !PuedeEvaluar()) {
+        return;
+    }
+    const Double T = Val(txtxt.Text());
+    txtxq.Text = Format(Cuantil(1 - 1 / T), "#####0.#0");
+}
+
+void MarcoAjuste::bT_Click() {
+    if (!Preparado("el período de retorno", txtxq, "para Q") || !PuedeEvaluar()) {
+        return;
+    }
+    if (const auto G = Probabilidad(Val(txtxq.Text()), Evaluacion::PeriodoRetorno)) {
+        txtxt.Text = Format(1 / (1 - *G), ajuste_.patronT);
+    }
+}
+
+void MarcoAjuste::bPmayor_Click() { EvaluarProbabilidad(Evaluacion::Excedencia, ajuste_.avisoPmayor); }
+
+void MarcoAjuste::bPmenor_Click() { EvaluarProbabilidad(Evaluacion::NoExcedencia, "la probabilidad de no excedencia"); }
+
+void MarcoAjuste::EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud) {
+    if (!Preparado(magnitud, txtxq, "para Q") || !PuedeEvaluar()) {
+        return;
+    }
+    if (const auto G = Probabilidad(Val(txtxq.Text()), evaluacion)) {
+        const Double P = evaluacion == Evaluacion::Excedencia ? 1 - *G : *G;
+        txtxp.Text = Format(P * 100, ajuste_.patronP);
+    }
+}
+
+void MarcoAjuste::bGraficar_Click() {
+    if (!calculado) {
+        App().MsgBox("Efectuar cálculos antes de graficar", kIconoError, kTituloAviso);
+        return;
+    }
+    if (n <= 1) {
+        App().MsgBox("Para graficar se requiere por lo menos dos puntos", kIconoError, "Error");
+        return;
+    }
+    PX(0) = Gord(0) = Glin(0) = 0;
+    const std::vector<const Probabilidades*> curvas{&PX, &Gord, &Glin};
+    std::vector<SerieGrafico> series;
+    for (std::size_t s = 0; s < ajuste_.leyendas.size(); ++s) {
+        SerieGrafico& serie = series.emplace_back(SerieGrafico{.leyenda = ajuste_.leyendas[s], .x = {}, .y = {}});
+        for (int k = 0; k <= n; ++k) {
+            serie.x.push_back(k == 0 ? Double(0) : xo(k));
+            serie.y.push_back((*curvas[s])(k));
+        }
+    }
+    GraficoDibujar(Graph1, {}, series);
+}
+
+void MarcoAjuste::ReportarTabla(Reporte& reporte, const std::vector<std::string>& encabezados) const {
+    constexpr int kRegla = 130;
+    constexpr int kAnchoCelda = 18;
+    reporte.Titulo("Cálculos del ajuste Smirnov Kolmogorov:");
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteTexto("        m  \t");
+    reporte.ReporteTexto("        X  \t");
+    for (std::size_t i = 0; i < encabezados.size(); ++i) {
+        reporte.ReporteTexto((i == 0 ? "      " : "   ") + encabezados[i]);
+    }
+    reporte.ReporteBlanco();
+    reporte.LineaDeGuiones(kRegla);
+    // The table ends with the rows that the last fit has filled.
+    for (int fila = 1; fila < grddis.Rows() && !grddis.TextMatrix(fila, 0).empty(); ++fila) {
+        for (int c = 0; c < grddis.Cols(); ++c) {
+            reporte.CeldaCentrada(grddis.TextMatrix(fila, c), kAnchoCelda, fila == 1 ? 1 : 0);
+        }
+        reporte.ReporteBlanco();
+    }
+    reporte.LineaDeGuiones(kRegla);
+    reporte.ReporteBlanco();
+}
+
+void MarcoAjuste::ReportarAjuste(Reporte& reporte, const std::vector<std::string>& encabezados,
+                                 const char* tituloParametros, const std::vector<LineaParametro>& ordinarios,
+                                 const std::vector<LineaParametro>& lineales) {
+    constexpr int kReglaSerie = 40;
+    constexpr int kReglaVeredicto = 55;
+    constexpr int kReglaDiseno = 30;
+    const auto parametros = [&reporte](const std::vector<LineaParametro>& lineas) {
+        for (const LineaParametro& linea : lineas) {
+            reporte.ReporteLinea(linea.rotulo + linea.campo->caja.Text());
+        }
+    };
+    reporte.TablaDeSerie("Serie de datos X:", {" N°", " X"}, grdt, grdt.Rows() - 2, kReglaSerie);
+    reporte.ReporteBlanco();
+    reporte.ReporteBlanco();
+    ReportarTabla(reporte, encabezados);
+    reporte.LineaDeGuiones(kReglaVeredicto);
+    reporte.ReporteLinea(lblAjuste.Caption());
+    reporte.LineaDeGuiones(kReglaVeredicto);
+    reporte.ReporteLinea(lblmensaje.Caption());
+    reporte.ReporteBlanco();
+    reporte.LineaDeGuiones(kReglaVeredicto);
+    reporte.ReporteLinea(tituloParametros);
+    reporte.LineaDeGuiones(kReglaVeredicto);
+    if (lineales.empty()) {
+        parametros(ordinarios);
+    } else {
+        reporte.ReporteLinea("Con momentos ordinarios:");
+        parametros(ordinarios);
+        reporte.ReporteBlanco();
+        reporte.ReporteLinea("Con momentos lineales:");
+        parametros(lineales);
+    }
+    reporte.LineaDeGuiones(kReglaDiseno);
+    reporte.ReporteLinea("Caudal de diseño:");
+    reporte.LineaDeGuiones(kReglaDiseno);
+    reporte.ReporteLinea("El caudal de diseño para un periodo de retorno de " + txtxt.Text() + " años, es " +
+                         txtxq.Text());
+}
+
+std::vector<Disposicion> MarcoAjuste::BotonesAccion() { return {bCalcular, bGraficar, bLimpiar, bImprimir, bMenu}; }
+
+Disposicion MarcoAjuste::ZonaParametros() {
+    const auto tabla = [](const std::vector<Parametro>& parametros) {
+        std::vector<Disposicion> celdas;
+        for (const Parametro& p : parametros) {
+            celdas.emplace_back(p.campo->etiqueta);
+            celdas.emplace_back(p.campo->caja);
+        }
+        return Pares(2, std::move(celdas));
+    };
+    if (!tipo) {
+        return Grupo(fraParametros, {tabla(ordinarios_), Espacio()});
+    }
+    return Grupo(fraParametros, {Fila({Columna({tipo->lblOrdinarios, tabla(ordinarios_), Espacio()}),
+                                       Columna({tipo->lblLineales, tabla(lineales_), Espacio()})})});
+}
+
+Disposicion MarcoAjuste::ZonaDiseno() {
+    return Grupo(fraDiseno,
+                 {Fila({Pares(3, {lblT, txtxt, lblUnidadT, lblQ, txtxq, lblUnidadQ, lblP, txtxp, lblUnidadP}),
+                        Pares(2, {bQ, bT, bPmayor, bPmenor}), Espacio()})});
+}
+
+Disposicion MarcoAjuste::Contenido() {
+    std::vector<Disposicion> opciones;
+    if (tipo) {
+        opciones.push_back(Grupo(tipo->marco, {tipo->optOrdinario, tipo->optMomentoLi}));
+    }
+    opciones.push_back(Grupo(fraNivel, {Fila({opt020, opt010, opt005, opt001, Espacio()})}));
+    Disposicion prueba = Columna({Fila(std::move(opciones)), Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
+    Disposicion evaluacion = Columna({ZonaParametros(), ZonaDiseno(), Disposicion(Graph1).Estira(1), Espacio(0)});
+    return Fila({std::move(prueba), std::move(evaluacion).Estira(1)});
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,163 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/grafico.h"
+#include "frame/modulo.h"
+#include "modules/distribuciones/smirnovkolmogorov.h"
+
+namespace cuencalia {
+
+/// What tells one distribution's window from another in the frame that they share.
+struct DescripcionAjuste {
+    std::string titulo;                            ///< Of the window.
+    const char* nombre;                            ///< Of the distribution, in the verdict.
+    const char* marcoParametros;                   ///< Title of the frame of the parameters.
+    const char* encabezadoOrdinarios;              ///< Above the parameters of each kind …
+    const char* encabezadoLineales;                ///< … null when there is one kind alone.
+    std::vector<std::string> encabezadosTeoricos;  ///< Of columns 3 and 4 of the test table.
+    std::vector<std::string> leyendas;             ///< Of the chart's curves.
+    const char* patronDeltaTeorico = "#####0.###0";
+    const char* patronDeltaTabular = "###0.###0";
+    const char* patronT = "###0.0";
+    const char* patronP = "###.#0";
+    /// What bPmayor says is to be evaluated when there is no fit yet.
+    const char* avisoPmayor = "la probabilidad de no excedencia";
+    bool parametrosTrasTabla = false;      ///< Whether the parameters are shown after the table, not before it.
+    Icono iconoNoPositivos = kIconoError;  ///< Of the refusal of values without a logarithm.
+};
+
+/// A parameter on the window: its label and the box that shows it.
+struct CampoParametro {
+    CampoParametro(Formulario& forma, const char* nombre, const char* etiqueta);
+
+    Label etiqueta;
+    TextBox caja;
+};
+
+/// A line of the report's parameter block.
+struct LineaParametro {
+    const char* rotulo;
+    const CampoParametro* campo;
+};
+
+/// What a distribution that is fitted by both kinds of moments has on its window to choose between them.
+struct TipoDeAjuste {
+    TipoDeAjuste(Formulario& forma, const DescripcionAjuste& descripcion);
+
+    Frame marco;
+    OptionButton optOrdinario, optMomentoLi;
+    Label lblOrdinarios, lblLineales;
+};
+
+/// Fit of a series of annual values to a probability distribution: parameters by ordinary and by linear moments, test
+/// of Smirnov-Kolmogorov, chart, report, and evaluation of the fitted distribution at a return period (years) or at a
+/// discharge (m3/s). A distribution adds its parameters, its probabilities and its quantile.
+class MarcoAjuste : public ModuloCalculo {
+  public:
+    MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion);
+
+    std::optional<TipoDeAjuste> tipo;  ///< Missing where there is one kind of fit alone.
+    Frame fraNivel{*this, "fraNivel", "Nivel significación:"};
+    OptionButton opt020{*this, "opt020", "0.20"}, opt010{*this, "opt010", "0.10"};
+    OptionButton opt005{*this, "opt005", "0.05", true}, opt001{*this, "opt001", "0.01"};
+    Frame fraParametros;
+    Frame fraDiseno{*this, "fraDiseno", "Caudal de diseño:"};
+    Label lblT{*this, "lblT", "Período de retorno (T):"}, lblUnidadT{*this, "lblUnidadT", "años"};
+    Label lblQ{*this, "lblQ", "Caudal (Q):"}, lblUnidadQ{*this, "lblUnidadQ", "m3/s"};
+    Label lblP{*this, "lblP", "Probabilidad (P):"}, lblUnidadP{*this, "lblUnidadP", "%"};
+    TextBox txtxt{*this, "txtxt"}, txtxq{*this, "txtxq"}, txtxp{*this, "txtxp"};
+    CommandButton bQ{*this, "bQ", "Q=f(T)", "Caudal de diseño"};
+    CommandButton bT{*this, "bT", "T=f(Q)", "Periodo de retorno"};
+    CommandButton bPmayor{*this, "bPmayor", "P(Q>q)", "Probabilidad de excedencia"};
+    CommandButton bPmenor{*this, "bPmenor", "P(Q<q)", "Probabilidad de no excedencia"};
+    FlexGrid grddis{*this, "grddis", "Prueba de Smirnov-Kolmogorov"};
+    Label lblAjuste{*this, "lblAjuste", "Ajuste:", Papel::Encabezado};
+    Label lblmensaje{*this, "lblmensaje", {}, Papel::Resultado};
+    CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+    GraficoModulo Graph1{*this, "Graph1", "Probabilidades empíricas y teóricas"};
+
+    using Probabilidades = Arreglo<Double, 0, 1500>;  ///< Element 0 is the chart's first point.
+
+    Serie x;
+    Serie xo;                   ///< x in ascending order.
+    Probabilidades PX;          ///< Empirical probability of xo.
+    Probabilidades Gord, Glin;  ///< Theoretical probability of xo by ordinary and by linear moments.
+    Serie Yord, Ylin;           ///< Reduced variable of xo by each.
+    Serie Delta;
+    bool calculado = false;
+
+    void InicializarResultados() override { InicializarDistri(); }
+    void InicializarDistri();
+    void LimpiarGrafico() { Graph1.LimpiarGrafico(); }
+    void LimpiarDatos();
+    void bCalcular_Click() override;
+    void bGraficar_Click();
+    void bQ_Click();
+    void bT_Click();
+    void bPmayor_Click();
+    void bPmenor_Click();
+
+  protected:
+    enum class Evaluacion { PeriodoRetorno, Excedencia, NoExcedencia };
+
+    struct Parametro {
+        CampoParametro* campo;
+        const Double* valor;
+    };
+
+    /// Which parameters stand on the window, in reading order; the second list stays empty where there is one kind
+    /// alone.
+    void DeclararParametros(std::vector<Parametro> ordinarios, std::vector<Parametro> lineales = {});
+
+    const DescripcionAjuste& Ajuste() const { return ajuste_; }
+    /// Whether the ordinary moments are chosen.
+    bool Ordinario() const { return !tipo || tipo->optOrdinario.Value; }
+
+    /// Whether the series can be fitted at all; says why not. x and xo hold it.
+    virtual bool AdmiteSerie() { return true; }
+    /// Parameters, reduced variables and theoretical probabilities of xo(1) to xo(n); errors end the calculation.
+    virtual void Ajustar() = 0;
+    /// Whether the parameters let the test go on; says why not.
+    virtual bool AdmiteParametros() { return true; }
+    /// What is told when the calculation fails.
+    virtual void AlFallar();
+    /// Whether the chosen parameters can be evaluated; says why not.
+    virtual bool PuedeEvaluar() { return true; }
+    /// The discharge of a non-exceedance probability, by the chosen parameters.
+    virtual Double Cuantil(Double p) = 0;
+    /// Non-exceedance probability of a discharge by the chosen parameters; nothing after a message of its own.
+    virtual std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) = 0;
+    /// The two theoretical columns of the test table.
+    virtual std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const { return {Gord, Glin}; }
+    virtual void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel);
+
+    /// The series and the test table with these headings of its columns 2 to 5, the verdict, the parameters below their
+    /// title, and the design discharge.
+    void ReportarAjuste(Reporte& reporte, const std::vector<std::string>& encabezados, const char* tituloParametros,
+                        const std::vector<LineaParametro>& ordinarios,
+                        const std::vector<LineaParametro>& lineales = {});
+
+    void LimpiarOtros() override;
+    Disposicion Contenido() override;
+    std::vector<Disposicion> BotonesAccion() override;
+
+  private:
+    void Calcular();
+    void MostrarParametros();
+    void LlenarTabla();
+    const NivelSignificacion& Nivel() const;
+    /// Whether there is a fit to evaluate and a value to evaluate it at; says what is missing.
+    bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
+    void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
+    void ReportarTabla(Reporte& reporte, const std::vector<std::string>& encabezados) const;
+    Disposicion ZonaParametros();
+    Disposicion ZonaDiseno();
+
+    DescripcionAjuste ajuste_;
+    std::vector<Parametro> ordinarios_, lineales_;
+};
+
+}  // namespace cuencalia

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// Pearson type III distribution, a gamma distribution of three parameters: (v - x0) / beta has the incomplete gamma
+/// function of the shape gamma. x0 and beta have the unit of v, gamma none.
+struct Pearson3 {
+    Double gamma, beta, x0;
+};
+
+/// Parameters by mean m, standard deviation s and coefficient of skewness Cs; error 11 for Cs = 0. A negative skew
+/// makes beta negative: the values then lie below x0, and the gamma function serves no longer. Source: Kite, G. W.
+/// (1977), Frequency and Risk Analyses in Hydrology, Water Resources Publications, Fort Collins.
+Pearson3 Pearson3PorMomentos(Double m, Double s, Double Cs);
+
+/// Parameters by the first three L-moments; nothing when no distribution has them (l2 <= 0 or |tau| >= 1, with
+/// tau = l3/l2). The sign of tau is not used: a negative skew gives the distribution of the positive one. Relative
+/// error of the shape below 5e-5. Error 11 for l3 = 0. Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1),
+/// 105-124, table 2 (in a reparametrised form).
+std::optional<Pearson3> Pearson3PorMomentosLineales(Double l1, Double l2, Double tau);
+
+}  // namespace cuencalia

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// Position and scale of a distribution, in the unit of its variable.
+struct PosicionEscala {
+    Double posicion, escala;
+};
+
+/// A distribution of two parameters that is a standard one moved and stretched: with v = x, or v = ln x in the forms of
+/// logarithms, the reduced variable y = (v - posicion) / escala has the standard cumulative function whatever the
+/// sample.
+struct DistribucionPosicionEscala {
+    bool deLogaritmos;
+    /// Parameters by the mean and the deviation (divisor n - 1) of v.
+    PosicionEscala (*porMomentos)(Double media, Double desviacion);
+    /// Parameters by the first two L-moments of v.
+    PosicionEscala (*porMomentosLineales)(Double L1, Double L2);
+    /// P(Y < y).
+    Double (*acumulada)(Double y);
+    /// The y of a non-exceedance probability, 0 < p < 1.
+    Double (*cuantil)(Double p);
+
+    /// Non-exceedance probability of x. Errors: 11 or 6 for a scale of 0; of logarithms, 5 for x <= 0.
+    Double Probabilidad(PosicionEscala parametros, Double x) const {
+        const Double v = deLogaritmos ? Log(x) : x;
+        return acumulada((v - parametros.posicion) / parametros.escala);
+    }
+    /// The x of a non-exceedance probability, 0 < p < 1; the errors of `cuantil` outside it.
+    Double Cuantil(PosicionEscala parametros, Double p) const {
+        const Double v = parametros.posicion + parametros.escala * cuantil(p);
+        return deLogaritmos ? Exp(v) : v;
+    }
+};
+
+/// The distribution of values whose natural logarithms have the distribution `base`; the parameters are of ln x.
+constexpr DistribucionPosicionEscala DeLogaritmos(DistribucionPosicionEscala base) {
+    base.deLogaritmos = true;
+    return base;
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "frame/numeros.h"
+
+namespace cuencalia {
+
+/// A significance level of the Smirnov-Kolmogorov test.
+struct NivelSignificacion {
+    Double c;           ///< Of the critical value c / sqrt(n).
+    const char* texto;  ///< As the verdict says it, with the blank before it.
+};
+
+inline constexpr NivelSignificacion kNivel20{1.07, " 20%"};
+inline constexpr NivelSignificacion kNivel10{1.22, " 10%"};
+inline constexpr NivelSignificacion kNivel5{1.36, " 5%"};
+inline constexpr NivelSignificacion kNivel1{1.63, " 1%"};
+
+/// Weibull's plotting position, the non-exceedance probability i / (n + 1) of the i-th of n values in ascending order.
+/// Source: Weibull, W. (1939), A statistical theory of the strength of materials, Ingeniörsvetenskapsakademiens
+/// Handlingar 151, Stockholm.
+inline Double PosicionWeibull(int i, int n) { return Double(i) / (n + 1); }
+
+/// The greatest of delta(1) to delta(n), n >= 1.
+Double MayorDelta(const ArregloBase<Double>& delta, int n);
+
+/// The difference that is not exceeded by chance at that level in n values, by the formula for large samples whatever
+/// the n: below 35 values it is some percent greater than the exact one, so the test accepts a little more.
+/// Source: Massey, F. J. (1951), The Kolmogorov-Smirnov test for goodness of fit, J. Am. Stat. Assoc. 46(253), 68-78.
+inline Double DeltaTabular(const NivelSignificacion& nivel, int n) { return nivel.c / Sqr(n); }
+
+}  // namespace cuencalia
