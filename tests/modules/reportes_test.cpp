@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "frame/frmPadre.h"
 #include "tests/forma_en_uso.h"
 
@@ -146,6 +148,145 @@ TEST_F(ReportesTest, RegreLineal) {
                                       TT(" 3") + TT("3.0") + TT("5.5") + "\n",
                                   "Lineal  \tY = 0.83333 + 1.5 * X  \t0.98198  \t0.96429  \t\n",
                                   "Para X = 4, el valor de Y es: Y = 6.8333\n"));
+}
+
+/// The report of a fit of three or four values; its series table has rules of 40 dashes.
+struct ReporteAjuste {
+    std::string titulo;
+    pruebas::Textos serie;
+    std::string encabezados;
+    pruebas::Tabla filas;
+    std::string ajuste, veredicto, tituloParametros, parametros, diseno;
+
+    std::string Texto() const {
+        std::string texto =
+            Cabecera(titulo) + "Serie de datos X:\n\n" + R(40) + "\n" + TT(" N°") + TT(" X") + "\n" + R(40) + "\n";
+        for (std::size_t i = 0; i < serie.size(); ++i) {
+            texto += TT(" " + std::to_string(i + 1)) + TT(serie[i]) + "\n";
+        }
+        texto += R(40) + "\n\n\n\nCálculos del ajuste Smirnov Kolmogorov:\n\n" + R(130) + "\n" + encabezados + "\n" +
+                 R(130) + "\n";
+        for (const auto& fila : filas) {
+            for (const std::string& celda : fila) {
+                // (18 - length)/2, a half going to the even number: 8 for one and two characters, 8 for three, 6 for
+                // six and seven.
+                static constexpr std::size_t kBlancos[] = {9, 8, 8, 8, 7, 6, 6, 6};
+                const std::size_t blancos = kBlancos[celda.size()];
+                texto += std::string(&fila == &filas[0] ? 1 : 0, ' ') + P(blancos, celda);
+            }
+            texto += "\n";
+        }
+        return texto + R(130) + "\n\n" + R(55) + "\n" + ajuste + "\n" + R(55) + "\n" + veredicto + "\n\n" + R(55) +
+               "\n" + tituloParametros + "\n" + R(55) + "\n" + parametros + R(30) + "\nCaudal de diseño:\n" + R(30) +
+               "\n" + diseno + "\n";
+    }
+};
+
+// 1, 2, 3, 4: mean 2.5, s = 1.290994, L2 = 5/6; alfa = sqrt(6)·s/pi = 1.006584, mu = 2.5 - 0.577216·alfa = 1.918984,
+// alfal = L2/ln 2 = 1.202246, mul = 1.806045. T = 2: y = 0.366513, Q = 1.918984 + 0.366513·1.006584 = 2.2879.
+TEST_F(ReportesTest, Gumbel) {
+    Abrir("frmDisGumbel");
+    TeclearDatos({"3", "1", "4", "2"});
+    ReporteAjuste esperado{
+        .titulo = "Ajuste de una serie de datos a la distribución Gumbel",
+        .serie = {"3.0", "1.0", "4.0", "2.0"},
+        .encabezados =
+            "        m  \t        X  \t                 P(X)     G(Y) Ordinario    G(Y) Mom Lineal    Delta ",
+        .filas = {},
+        .ajuste = "Ajuste:",
+        .veredicto = "",
+        .tituloParametros = "Parámetros de la distribución Gumbel:",
+        .parametros =
+            "Con momentos ordinarios:\nParámetro de posición (µ)= \nParámetro de escala (alfa)= \n\n"
+            "Con momentos lineales:\nParámetro de posición (µl)= \nParámetro de escala (alfal)= \n",
+        .diseno = "El caudal de diseño para un periodo de retorno de  años, es "};
+    EXPECT_EQ(Reporte(), esperado.Texto()) << "before any calculation";
+    Pulsar("bCalcular");
+    Escribir(dynamic_cast<TextBox&>(*F().Controls("txtxt")), "2");
+    Pulsar("bQ");
+    esperado.filas = {{"1", "1.0", "0.2000", "0.0828", "0.1415", "0.1172"},
+                      {"2", "2.0", "0.4000", "0.3975", "0.4270", "0.0025"},
+                      {"3", "3.0", "0.6000", "0.7106", "0.6904", "0.1106"},
+                      {"4", "4.0", "0.8000", "0.8812", "0.8511", "0.0812"}};
+    esperado.ajuste = "Ajuste con momentos ordinarios:";
+    esperado.veredicto =
+        "Como el delta teórico 0.1172, es menor que el delta tabular 0.6800. Los datos se ajustan a la distribución "
+        "Gumbel, con un nivel de significación del 5%";
+    esperado.parametros =
+        "Con momentos ordinarios:\nParámetro de posición (µ)= 1.919\nParámetro de escala (alfa)= 1.0066\n\n"
+        "Con momentos lineales:\nParámetro de posición (µl)= 1.806\nParámetro de escala (alfal)= 1.2022\n";
+    esperado.diseno = "El caudal de diseño para un periodo de retorno de 2 años, es 2.29";
+    EXPECT_EQ(Reporte(), esperado.Texto());
+}
+
+// 1, 2, 5: the figures are worked out in the test of the form. T = 2: z = 0 but for the approximation's 4.5e-4, so
+// Q = 0.5 + exp(ln 1.5) = 2.00.
+TEST_F(ReportesTest, LogNormal3) {
+    Abrir("frmDisLogNormal3");
+    TeclearDatos({"1", "2", "5"});
+    Pulsar("bCalcular");
+    Escribir(dynamic_cast<TextBox&>(*F().Controls("txtxt")), "2");
+    Pulsar("bQ");
+    const ReporteAjuste esperado{
+        .titulo = "Ajuste de una serie de datos a la distribución log-Normal de 3 parámetros",
+        .serie = {"1.0", "2.0", "5.0"},
+        .encabezados =
+            "        m  \t        X  \t                 P(X)                Z                  F(Z)  "
+            "               Delta ",
+        .filas = {{"1", "1.0", "0.2500", "-1.2247", "0.1103", "0.1397"},
+                  {"2", "2.0", "0.5000", "0.0000", "0.5000", "0.0000"},
+                  {"3", "5.0", "0.7500", "1.2247", "0.8897", "0.1397"}},
+        .ajuste = "Ajuste con momentos ordinarios:",
+        .veredicto =
+            "Como el delta teórico 0.1397, es menor que el delta tabular 0.7852. Los datos se ajustan a la "
+            "distribución logNormal 3 parámetros, con un nivel de significación del 5%",
+        .tituloParametros = "Parámetros de la distribución lognormal:",
+        .parametros =
+            "Parámetro de posición (xo)= 0.5\nParámetro de escala (µy)= 0.4055\nParámetro de forma (Sy)= "
+            "0.897\n",
+        .diseno = "El caudal de diseño para un periodo de retorno de 2 años, es 2.00"};
+    EXPECT_EQ(Reporte(), esperado.Texto());
+}
+
+// The titles and the parameter lines of the other fits; the boxes are empty before a calculation.
+TEST_F(ReportesTest, ParametrosDeLosAjustes) {
+    const auto dos = [](const std::string& titulo, const std::string& a, const std::string& b, const std::string& c,
+                        const std::string& d) {
+        const std::string dosPuntos = ":\n";
+        return titulo + dosPuntos + R(55) + "\nCon momentos ordinarios:\n" + a + "= \n" + b +
+               "= \n\nCon momentos lineales:\n" + c + "= \n" + d + "= \n" + R(30) + "\n";
+    };
+    const std::string tres =
+        ":\n" + R(55) +
+        "\nCon momentos ordinarios:\nParámetro de localización (Xo)= \nParámetro de forma (gamma)= "
+        "\nParámetro de escala (beta)= \n\nCon momentos lineales:\nParámetro de localización (Xol)= "
+        "\nParámetro de forma (gammal)= \nParámetro de escala (betal)= \n" +
+        R(30) + "\n";
+    const std::string F = "     F(Z) Ordinario    F(Z) Mom Lineal    Delta \n";
+    const std::string G = "     G(Y) Ordinario    G(Y) Mom Lineal    Delta \n";
+    const std::vector<std::tuple<std::string, std::string, std::string>> casos{
+        {"frmDisNormal", F,
+         dos("Parámetros de la distribución normal", "Parámetro de localización (Xm)", "Parámetro de escala (S)",
+             "Media lineal (Xl)", "Desviación estándar lineal (Sl)")},
+        {"frmDisLogNormal2", F,
+         dos("Parámetros de la distribución logNormal", "Parámetro de escala (µy)", "Parámetro de forma (Sy)",
+             "Parámetro de escala (µyl)", "Parámetro de forma (Syl)")},
+        {"frmDisLogGumbel", G,
+         dos("Parámetros de la distribución logGumbel", "Parámetro de posición (µ)", "Parámetro de escala (alfa)",
+             "Parámetro de posición (µl)", "Parámetro de escala (alfal)")},
+        {"frmDisGamma2par", G,
+         dos("Los 2 parámetros de la distribución Gamma", "Parámetro de forma (gamma)", "Parámetro de escala (beta)",
+             "Parámetro de forma (gammal)", "Parámetro de escala (betal)")},
+        {"frmDisGamma3par", G, "Los 3 parámetros de la distribución Gamma" + tres},
+        {"frmDisLogPearson3", G, "Los 3 parámetros de la distribución Log-Pearson tipo 3" + tres}};
+    for (const auto& [forma, encabezados, parametros] : casos) {
+        SCOPED_TRACE(forma);
+        Abrir(forma);
+        const std::string texto = Reporte();
+        EXPECT_NE(texto.find("        m  \t        X  \t                 P(X)  " + encabezados.substr(2)),
+                  std::string::npos);
+        EXPECT_NE(texto.find("\n" + parametros), std::string::npos);
+    }
 }
 
 }  // namespace
