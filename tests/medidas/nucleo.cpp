@@ -2,11 +2,14 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
+#include <random>
 #include <string>
+#include <vector>
 
 #include "frame/archivoserie.h"
 #include "frame/flexgrid.h"
@@ -56,6 +59,110 @@ class Modulo {
     Aplicacion app_{plataforma_, FormasDelPrograma()};
     FlexGrid* grid_ = nullptr;
 };
+
+/// The windows of distribution fits, all eight by default, each with the same series.
+class Ajustes {
+  public:
+    explicit Ajustes(std::vector<std::string> formas = {"frmDisNormal", "frmDisLogNormal2", "frmDisLogNormal3",
+                                                        "frmDisGamma2par", "frmDisGamma3par", "frmDisLogPearson3",
+                                                        "frmDisGumbel", "frmDisLogGumbel"})
+        : formas_(std::move(formas)) {
+        for (const std::string& forma : formas_) {
+            app_.Despachar([&] { app_.ModuloAbrir(forma); });
+        }
+    }
+    void Escribir(const std::vector<double>& serie) {
+        const int valores = static_cast<int>(serie.size());
+        std::vector<std::string> textos;
+        for (const double valor : serie) {
+            textos.push_back(Format(valor, "0.0###"));
+        }
+        for (const std::string& forma : formas_) {
+            auto& grid = dynamic_cast<FlexGrid&>(*app_.Cargada(forma)->Controls("grdt"));
+            app_.Despachar([&] {
+                grid.PonerRows(valores + 2);
+                for (int i = 1; i <= valores; ++i) {
+                    grid.PonerTextMatrix(i, 1, textos[static_cast<std::size_t>(i - 1)]);
+                }
+            });
+        }
+    }
+    void Calcular() {
+        for (const std::string& forma : formas_) {
+            app_.Pulsar(*app_.Cargada(forma)->Controls("bCalcular"));
+        }
+    }
+    /// In the first window.
+    void CaudalDeDiseno(const char* T) {
+        Formulario& f = *app_.Cargada(formas_[0]);
+        app_.Despachar([&] { dynamic_cast<TextBox&>(*f.Controls("txtxt")).Text = T; });
+        app_.Pulsar(*f.Controls("bQ"));
+    }
+    bool Bien() const { return plataforma_.errores.empty() && plataforma_.mensajes.empty(); }
+
+  private:
+    std::vector<std::string> formas_;
+    PlataformaGuion plataforma_;
+    Aplicacion app_{plataforma_, FormasDelPrograma()};
+};
+
+/// Random values skewed also in their logarithms, so that every fit runs to its end. The greatest of them would be
+/// beyond the series of the gamma function.
+std::vector<double> SerieAlAzar(int valores, std::mt19937& azar) {
+    std::exponential_distribution<double> exponencial;
+    std::vector<double> serie;
+    for (int i = 0; i < valores; ++i) {
+        serie.push_back(100 * std::exp(0.3 * std::min(exponencial(azar), 6.0)));
+    }
+    return serie;
+}
+
+/// Calcular in the eight windows: parameters, table, verdict.
+void AjustarOcho(benchmark::State& estado, int valores) {
+    std::mt19937 azar(1);
+    Ajustes ajustes;
+    ajustes.Escribir(SerieAlAzar(valores, azar));
+    for (auto _ : estado) {
+        ajustes.Calcular();
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("a fit failed");
+    }
+}
+
+/// A thousand series, one after the other, each written into the eight windows and fitted there.
+void AjustarMilSeries(benchmark::State& estado, int valores) {
+    std::mt19937 azar(1);
+    Ajustes ajustes;
+    for (auto _ : estado) {
+        for (int serie = 0; serie < 1000; ++serie) {
+            estado.PauseTiming();
+            ajustes.Escribir(SerieAlAzar(valores, azar));
+            estado.ResumeTiming();
+            ajustes.Calcular();
+        }
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("a fit failed");
+    }
+}
+
+/// The quantile of a fit to the 60 values that a Gumbel distribution has at the plotting positions.
+void CaudalDeDiseno(benchmark::State& estado, const char* forma, const char* T) {
+    std::vector<double> serie;
+    for (int i = 1; i <= 60; ++i) {
+        serie.push_back(100 - 30 * std::log(-std::log(i / 61.0)));
+    }
+    Ajustes ajustes({forma});
+    ajustes.Escribir(serie);
+    ajustes.Calcular();
+    for (auto _ : estado) {
+        ajustes.CaudalDeDiseno(T);
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("the quantile failed");
+    }
+}
 
 void Pulsar(benchmark::State& estado, const char* boton) {
     Modulo modulo;
@@ -168,6 +275,13 @@ BENCHMARK_CAPTURE(Pulsar, Calcular_1500, "bCalcular")->Unit(benchmark::kMillisec
 BENCHMARK_CAPTURE(Pulsar, Ordenar_1500, "bOrdenar")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("Tecla_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK(AgregarUnaFila)->Name("FilaNueva_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_60, 60)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_499, 499)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarMilSeries, MilSeries_60, 60)->Repetitions(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarMilSeries, MilSeries_499, 499)->Repetitions(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma2_100, "frmDisGamma2par", "100")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma3_100, "frmDisGamma3par", "100")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma3_1000, "frmDisGamma3par", "1000")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
