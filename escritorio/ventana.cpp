@@ -168,7 +168,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
         interior->invalidate();
     }
     const QSize pantalla = screen()->availableSize();
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 680) : QSize(0, 0)) : QSize(960, 580);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 720) : QSize(0, 0)) : QSize(960, 580);
     resize(propio.boundedTo(pantalla));
 }
 

@@ -46,6 +46,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
     lblQ.Nombra(txtxq);
     lblP.Nombra(txtxp);
     txtxp.Locked = true;
+    MostrarEjes(false);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     bQ.Click.Conectar([this] { bQ_Click(); });
     bT.Click.Conectar([this] { bT_Click(); });
@@ -81,6 +82,16 @@ void MarcoAjuste::LimpiarDatos() {
     calculado = false;
     lblmensaje.Caption = "";
     lblAjuste.Caption = kAjusteEnReposo;
+}
+
+void MarcoAjuste::MostrarEjes(bool visibles) {
+    lblEjeY.Visible = visibles;
+    lblEjeX.Visible = visibles;
+}
+
+void MarcoAjuste::LimpiarGrafico() {
+    Graph1.LimpiarGrafico();
+    MostrarEjes(false);
 }
 
 void MarcoAjuste::LimpiarOtros() {
@@ -240,6 +251,7 @@ void MarcoAjuste::bGraficar_Click() {
         }
     }
     GraficoDibujar(Graph1, {}, series);
+    MostrarEjes(true);
 }
 
 void MarcoAjuste::ReportarTabla(Reporte& reporte, const std::vector<std::string>& encabezados) const {
@@ -316,10 +328,11 @@ Disposicion MarcoAjuste::ZonaParametros() {
         return Pares(2, std::move(celdas));
     };
     if (!tipo) {
-        return Grupo(fraParametros, {tabla(ordinarios_), Espacio()});
+        return Grupo(fraParametros, {tabla(ordinarios_)});
     }
-    return Grupo(fraParametros, {Fila({Columna({tipo->lblOrdinarios, tabla(ordinarios_), Espacio()}),
-                                       Columna({tipo->lblLineales, tabla(lineales_), Espacio()})})});
+    return Grupo(
+        fraParametros,
+        {Fila({Columna({tipo->lblOrdinarios, tabla(ordinarios_)}), Columna({tipo->lblLineales, tabla(lineales_)})})});
 }
 
 Disposicion MarcoAjuste::ZonaDiseno() {
@@ -335,7 +348,8 @@ Disposicion MarcoAjuste::Contenido() {
     }
     opciones.push_back(Grupo(fraNivel, {Fila({opt020, opt010, opt005, opt001, Espacio()})}));
     Disposicion prueba = Columna({Fila(std::move(opciones)), Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
-    Disposicion evaluacion = Columna({ZonaParametros(), ZonaDiseno(), Disposicion(Graph1).Estira(1), Espacio(0)});
+    Disposicion evaluacion = Columna({ZonaParametros(), ZonaDiseno(), Fila({lblEjeY, Espacio()}),
+                                      Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}), Espacio(0)});
     return Fila({std::move(prueba), std::move(evaluacion).Estira(1)});
 }
 

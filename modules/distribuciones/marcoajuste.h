@@ -77,6 +77,7 @@ class MarcoAjuste : public ModuloCalculo {
     Label lblAjuste{*this, "lblAjuste", "Ajuste:", Papel::Encabezado};
     Label lblmensaje{*this, "lblmensaje", {}, Papel::Resultado};
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+    Label lblEjeY{*this, "lblEjeY", "Probabilidad de no excedencia"}, lblEjeX{*this, "lblEjeX", "X"};
     GraficoModulo Graph1{*this, "Graph1", "Probabilidades empíricas y teóricas"};
 
     using Probabilidades = Arreglo<Double, 0, 1500>;  ///< Element 0 is the chart's first point.
@@ -91,7 +92,7 @@ class MarcoAjuste : public ModuloCalculo {
 
     void InicializarResultados() override { InicializarDistri(); }
     void InicializarDistri();
-    void LimpiarGrafico() { Graph1.LimpiarGrafico(); }
+    void LimpiarGrafico();
     void LimpiarDatos();
     void bCalcular_Click() override;
     void bGraficar_Click();
@@ -147,6 +148,7 @@ class MarcoAjuste : public ModuloCalculo {
   private:
     void Calcular();
     void MostrarParametros();
+    void MostrarEjes(bool visibles);
     void LlenarTabla();
     const NivelSignificacion& Nivel() const;
     /// Whether there is a fit to evaluate and a value to evaluate it at; says what is missing.

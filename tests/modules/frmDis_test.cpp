@@ -199,7 +199,7 @@ class CadaAjuste : public AjusteTest, public testing::WithParamInterface<Caso> {
         EXPECT_EQ(F().txtxt.Text() + F().txtxq.Text() + F().txtxp.Text(), "");
         EXPECT_EQ(F().lblAjuste.Caption(), "Ajuste:");
         EXPECT_EQ(F().lblmensaje.Caption(), "");
-        EXPECT_FALSE(F().Graph1.EsVisible());
+        EXPECT_FALSE(F().Graph1.EsVisible() || F().lblEjeX.EsVisible() || F().lblEjeY.EsVisible());
         EsperarMensaje(F().bGraficar, "Efectuar cálculos antes de graficar", kIconoError, kAviso);
     }
 };
@@ -331,7 +331,7 @@ TEST_P(CadaAjuste, Grafico) {
     EsperarSilencio();
     const GraficoModulo& g = F().Graph1;
     const std::size_t curvas = ConLineales() ? 3 : 2;
-    ASSERT_TRUE(g.EsVisible());
+    ASSERT_TRUE(g.EsVisible() && F().lblEjeX.EsVisible() && F().lblEjeY.EsVisible());
     EXPECT_EQ(g.NumPoints(), 12);
     ASSERT_EQ(g.Conjuntos().size(), curvas);
     // The table's columns, of which F(Z) is the second theoretical one where there is one kind of moments alone.
