@@ -11,6 +11,7 @@
 
 #include "escritorio/estilo.h"
 #include "frame/controles.h"
+#include "frame/flexgrid.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {
@@ -126,6 +127,35 @@ TEST_F(Aspecto, NothingIsCutAtTheSmallestScreen) {
     EXPECT_EQ(Tabla("grdParam").horizontalScrollBar()->maximum(), 0);
     EXPECT_EQ(Tabla("grdParam").verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(Tabla().horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Aspecto, AFitShowsAllOfItselfAtOnce) {
+    for (const auto& [entrada, forma] :
+         {std::pair{"&Normal", "frmDisNormal"}, std::pair{"LogNormal 3 parámetros", "frmDisLogNormal3"},
+          std::pair{"LogPearson tipo III", "frmDisLogPearson3"}}) {
+        SCOPED_TRACE(forma);
+        ElegirEnBarra("frmCuencalia", "&Distribuciones", entrada);
+        escritorio_->App().Despachar([&] {
+            auto& grid = dynamic_cast<FlexGrid&>(*Forma(forma).Controls("grdt"));
+            grid.PonerRows(13);
+            int i = 0;
+            for (const char* valor : {"2.0", "3.0", "4.0", "2.4", "5.5", "1.2", "5.4", "2.2", "7.1", "1.3", "1.5"}) {
+                grid.PonerTextMatrix(++i, 1, valor);
+            }
+        });
+        Clic(Widget("bCalcular", forma));
+        Clic(Widget("bGraficar", forma));
+        QMainWindow* ventana = Ventana(forma);
+        ventana->resize(1280, 740);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(ventana->size(), QSize(1280, 740));
+        EXPECT_EQ(Widget<QTableView>("grddis", forma).horizontalScrollBar()->maximum(), 0);
+        EXPECT_TRUE(Widget("Graph1", forma).isVisible());
+        EXPECT_GE(Widget("Graph1", forma).height(), 200);
+        EXPECT_FALSE(Widget<QLabel>("lblmensaje", forma).text().isEmpty());
+        EsperarNadaCortado(forma);
+    }
+    EXPECT_TRUE(vigia_->mensajes.empty());
 }
 
 TEST_F(Aspecto, NothingIsCutWithLargeLetters) {
