@@ -24,8 +24,7 @@ AjustePearson3::AjustePearson3(Aplicacion& app, std::string nombre, DescripcionA
     : MarcoAjuste(app, std::move(nombre), std::move(descripcion)),
       deLogaritmos_(deLogaritmos),
       enVeredicto_(enVeredicto) {
-    DeclararParametros({{&txtgamma, &gammao}, {&txtbeta, &betao}, {&txtxo, &xoo}},
-                       {{&txtgammal, &gammal}, {&txtbetal, &betal}, {&txtxol, &xol}});
+    DeclararParametros({&txtxo, &txtgamma, &txtbeta}, {&txtxol, &txtgammal, &txtbetal});
 }
 
 void AjustePearson3::Ajustar() {
@@ -97,16 +96,6 @@ std::optional<Double> AjustePearson3::Probabilidad(Double Q, Evaluacion evaluaci
     }
     gammaacumulada(d.gamma, y, G, g);
     return G;
-}
-
-void AjustePearson3::ReportarPearson3(Reporte& reporte, const char* tituloParametros) {
-    ReportarAjuste(reporte, {"           P(X)  ", "G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "}, tituloParametros,
-                   {{"Parámetro de localización (Xo)= ", &txtxo},
-                    {"Parámetro de forma (gamma)= ", &txtgamma},
-                    {"Parámetro de escala (beta)= ", &txtbeta}},
-                   {{"Parámetro de localización (Xol)= ", &txtxol},
-                    {"Parámetro de forma (gammal)= ", &txtgammal},
-                    {"Parámetro de escala (betal)= ", &txtbetal}});
 }
 
 }  // namespace cuencalia

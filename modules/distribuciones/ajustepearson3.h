@@ -9,16 +9,15 @@ namespace cuencalia {
 /// leave values below x0 has no probabilities: its flag is set, the verdict says so and its evaluation is refused.
 class AjustePearson3 : public MarcoAjuste {
   public:
-    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):"};
-    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):"};
-    CampoParametro txtxo{*this, "txtxo", "De posición (x0):"};
-    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):"};
-    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):"};
-    CampoParametro txtxol{*this, "txtxol", "De posición (x0l):"};
-
     Pearson3 ordinarios, lineales;
     Double &gammao = ordinarios.gamma, &betao = ordinarios.beta, &xoo = ordinarios.x0;
     Double &gammal = lineales.gamma, &betal = lineales.beta, &xol = lineales.x0;
+    CampoParametro txtxo{*this, "txtxo", "De posición (x0):", "Parámetro de localización (Xo)= ", xoo};
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", gammao};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", betao};
+    CampoParametro txtxol{*this, "txtxol", "De posición (x0l):", "Parámetro de localización (Xol)= ", xol};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", gammal};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", betal};
     bool paramMalOrd = false, paramMalLin = false;
 
   protected:
@@ -31,7 +30,6 @@ class AjustePearson3 : public MarcoAjuste {
     bool PuedeEvaluar() override;
     Double Cuantil(Double p) override;
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
-    void ReportarPearson3(Reporte& reporte, const char* tituloParametros);
 
   private:
     Double Variable(Double valor) const { return deLogaritmos_ ? Log(valor) : valor; }

@@ -21,11 +21,8 @@ frmDisGamma2par::frmDisGamma2par(Aplicacion& app)
                   {.titulo = "Ajuste de una serie de datos a la distribución Gamma de 2 parámetros",
                    .nombre = "Gamma de 2 parámetros",
                    .marcoParametros = "Parámetros distribución Gamma 2 par:",
-                   .encabezadoOrdinarios = "Con momentos ordinarios:",
-                   .encabezadoLineales = "Con momentos lineales:",
-                   .encabezadosTeoricos = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
-                   .leyendas = {"Exp", "Ord", "ML"}}) {
-    DeclararParametros({{&txtgamma, &gammao}, {&txtbeta, &betao}}, {{&txtgammal, &gammal}, {&txtbetal, &betal}});
+                   .tituloReporte = "Los 2 parámetros de la distribución Gamma:"}) {
+    DeclararParametros({&txtgamma, &txtbeta}, {&txtgammal, &txtbetal});
 }
 
 void frmDisGamma2par::Ajustar() {
@@ -72,13 +69,6 @@ std::optional<Double> frmDisGamma2par::Probabilidad(Double Q, Evaluacion) {
     gammacompleta(d.gamma, g);
     gammaacumulada(d.gamma, Q / d.beta, G, g);
     return G;
-}
-
-void frmDisGamma2par::ReporteDistriGamma2(Reporte& reporte) {
-    ReportarAjuste(reporte, {"           P(X)  ", "G(Y) Ordinario ", "G(Y) Mom Lineal ", "Delta "},
-                   "Los 2 parámetros de la distribución Gamma:",
-                   {{"Parámetro de forma (gamma)= ", &txtgamma}, {"Parámetro de escala (beta)= ", &txtbeta}},
-                   {{"Parámetro de forma (gammal)= ", &txtgammal}, {"Parámetro de escala (betal)= ", &txtbetal}});
 }
 
 }  // namespace cuencalia

@@ -10,17 +10,16 @@ class frmDisGamma2par : public MarcoAjuste {
   public:
     explicit frmDisGamma2par(Aplicacion& app);
 
-    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):"};
-    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):"};
-    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):"};
-    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):"};
-
     Gamma2 ordinarios, lineales;
     Double &gammao = ordinarios.gamma, &betao = ordinarios.beta;
     Double &gammal = lineales.gamma, &betal = lineales.beta;
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", gammao};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", betao};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", gammal};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", betal};
 
     void GenerarReporte(Reporte& reporte) override { ReporteDistriGamma2(reporte); }
-    void ReporteDistriGamma2(Reporte& reporte);
+    void ReporteDistriGamma2(Reporte& reporte) { ReportarAjuste(reporte); }
 
   protected:
     void Ajustar() override;

@@ -10,7 +10,7 @@ class frmDisGamma3par : public AjustePearson3 {
     explicit frmDisGamma3par(Aplicacion& app);
 
     void GenerarReporte(Reporte& reporte) override { ReporteDistriGamma3(reporte); }
-    void ReporteDistriGamma3(Reporte& reporte);
+    void ReporteDistriGamma3(Reporte& reporte) { ReportarAjuste(reporte); }
 };
 
 }  // namespace cuencalia

@@ -9,14 +9,15 @@ frmDisLogNormal3::frmDisLogNormal3(Aplicacion& app)
                   {.titulo = "Ajuste de una serie de datos a la distribución log-Normal de 3 parámetros",
                    .nombre = "logNormal 3 parámetros",
                    .marcoParametros = "Parámetros distribución log-normal:",
-                   .encabezadoOrdinarios = nullptr,
-                   .encabezadoLineales = nullptr,
+                   .tituloReporte = "Parámetros de la distribución lognormal:",
+                   .porAmbosMomentos = false,
                    .encabezadosTeoricos = {"Z", "F(Z)"},
+                   .encabezadosReporte = {"           Z  ", "             F(Z)  ", "            Delta "},
                    .leyendas = {"Exp", "Teo"},
                    .patronT = "###.0",
                    .avisoPmayor = "la probabilidad de excedencia",
                    .parametrosTrasTabla = true}) {
-    DeclararParametros({{&txtxo, &x0}, {&txtux, &uy}, {&txtsx, &sy}});
+    DeclararParametros({&txtxo, &txtux, &txtsx});
 }
 
 bool frmDisLogNormal3::AdmiteSerie() {
@@ -55,14 +56,6 @@ std::optional<Double> frmDisLogNormal3::Probabilidad(Double Q, Evaluacion evalua
     }
     App().MsgBox(mensaje, kIconoError, "Error");
     return std::nullopt;
-}
-
-void frmDisLogNormal3::ReporteDistriLogNormal3(Reporte& reporte) {
-    ReportarAjuste(reporte, {"           P(X)  ", "           Z  ", "             F(Z)  ", "            Delta "},
-                   "Parámetros de la distribución lognormal:",
-                   {{"Parámetro de posición (xo)= ", &txtxo},
-                    {"Parámetro de escala (µy)= ", &txtux},
-                    {"Parámetro de forma (Sy)= ", &txtsx}});
 }
 
 }  // namespace cuencalia

@@ -11,15 +11,14 @@ class frmDisLogNormal3 : public MarcoAjuste {
   public:
     explicit frmDisLogNormal3(Aplicacion& app);
 
-    CampoParametro txtxo{*this, "txtxo", "De posición (xo):"};
-    CampoParametro txtux{*this, "txtux", "De escala (µy):"};
-    CampoParametro txtsx{*this, "txtsx", "De forma (Sy):"};
-
     LogNormal3 distribucion;
     Double &x0 = distribucion.x0, &uy = distribucion.uy, &sy = distribucion.sy;
+    CampoParametro txtxo{*this, "txtxo", "De posición (xo):", "Parámetro de posición (xo)= ", x0};
+    CampoParametro txtux{*this, "txtux", "De escala (µy):", "Parámetro de escala (µy)= ", uy};
+    CampoParametro txtsx{*this, "txtsx", "De forma (Sy):", "Parámetro de forma (Sy)= ", sy};
 
     void GenerarReporte(Reporte& reporte) override { ReporteDistriLogNormal3(reporte); }
-    void ReporteDistriLogNormal3(Reporte& reporte);
+    void ReporteDistriLogNormal3(Reporte& reporte) { ReportarAjuste(reporte); }
 
   protected:
     bool AdmiteSerie() override;

@@ -7,18 +7,14 @@ frmDisLogPearson3::frmDisLogPearson3(Aplicacion& app)
                      {.titulo = "Ajuste de una serie de datos a la distribución log-Pearson tipo III",
                       .nombre = "Log-Pearson tipo 3",
                       .marcoParametros = "Parámetros distribución LogPearson3:",
+                      .tituloReporte = "Los 3 parámetros de la distribución Log-Pearson tipo 3:",
                       .encabezadoOrdinarios = "Momentos ordinarios:",
                       .encabezadoLineales = "Momentos lineales:",
-                      .encabezadosTeoricos = {"G(Y) Ordinario", "G(Y) Mom Lineal"},
                       .leyendas = {"Teo", "Ord", "ML"},
                       .patronDeltaTeorico = "#####0.0####",
                       .patronDeltaTabular = "###0.0###",
                       .patronP = "###.0#"},
                      true, "Log-Pearson tipo 3") {}
-
-void frmDisLogPearson3::ReporteDistriLogPearson3(Reporte& reporte) {
-    ReportarPearson3(reporte, "Los 3 parámetros de la distribución Log-Pearson tipo 3:");
-}
 
 void frmDisLogPearson3::AlFallar() {
     App().MsgBox(

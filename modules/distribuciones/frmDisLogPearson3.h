@@ -10,7 +10,7 @@ class frmDisLogPearson3 : public AjustePearson3 {
     explicit frmDisLogPearson3(Aplicacion& app);
 
     void GenerarReporte(Reporte& reporte) override { ReporteDistriLogPearson3(reporte); }
-    void ReporteDistriLogPearson3(Reporte& reporte);
+    void ReporteDistriLogPearson3(Reporte& reporte) { ReportarAjuste(reporte); }
 
   protected:
     void AlFallar() override;

@@ -9,22 +9,13 @@ frmDisNormal::frmDisNormal(Aplicacion& app)
                            {.titulo = "Ajuste de una serie de datos a la distribución Normal",
                             .nombre = "Normal",
                             .marcoParametros = "Parámetros distribución normal:",
-                            .encabezadoOrdinarios = "Con momentos ordinarios:",
-                            .encabezadoLineales = "Con momentos lineales:",
+                            .tituloReporte = "Parámetros de la distribución normal:",
                             .encabezadosTeoricos = {"F(Z) Ordinario", "F(Z) Mom Lineal"},
-                            .leyendas = {"Exp", "Ord", "ML"},
                             .patronT = "###.0",
                             .avisoPmayor = "la probabilidad de excedencia",
                             .parametrosTrasTabla = true},
                            kNormal) {
-    DeclararParametros({{&txtux, &xm}, {&txtsx, &sx}}, {{&txtmedial, &xml}, {&txtsl, &sxl}});
-}
-
-void frmDisNormal::ReporteDistriNormal(Reporte& reporte) {
-    ReportarAjuste(reporte, {"           P(X)  ", "F(Z) Ordinario ", "F(Z) Mom Lineal ", "Delta "},
-                   "Parámetros de la distribución normal:",
-                   {{"Parámetro de localización (Xm)= ", &txtux}, {"Parámetro de escala (S)= ", &txtsx}},
-                   {{"Media lineal (Xl)= ", &txtmedial}, {"Desviación estándar lineal (Sl)= ", &txtsl}});
+    DeclararParametros({&txtux, &txtsx}, {&txtmedial, &txtsl});
 }
 
 }  // namespace cuencalia

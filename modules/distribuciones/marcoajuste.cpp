@@ -16,8 +16,12 @@ constexpr const char* kTituloAviso = "Mensaje de Error";
 
 }  // namespace
 
-CampoParametro::CampoParametro(Formulario& forma, const char* nombre, const char* texto)
-    : etiqueta(forma, std::string("lbl") + nombre, texto), caja(forma, nombre) {
+CampoParametro::CampoParametro(Formulario& forma, const char* nombre, const char* rotulo, const char* enElReporte,
+                               const Double& suValor)
+    : etiqueta(forma, std::string("lbl") + nombre, rotulo),
+      caja(forma, nombre),
+      enReporte(enElReporte),
+      valor(suValor) {
     caja.Locked = true;
     etiqueta.Nombra(caja);
 }
@@ -34,7 +38,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
                     {.titulo = descripcion.titulo, .encabezados = {"N°", "X"}, .archivo = &kArchivoX}),
       fraParametros(*this, "fraParametros", descripcion.marcoParametros),
       ajuste_(std::move(descripcion)) {
-    if (ajuste_.encabezadoLineales != nullptr) {
+    if (ajuste_.porAmbosMomentos) {
         tipo.emplace(*this, ajuste_);
     }
     LeerEn({&x});
@@ -54,7 +58,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
     bPmenor.Click.Conectar([this] { bPmenor_Click(); });
 }
 
-void MarcoAjuste::DeclararParametros(std::vector<Parametro> ordinarios, std::vector<Parametro> lineales) {
+void MarcoAjuste::DeclararParametros(Campos ordinarios, Campos lineales) {
     ordinarios_ = std::move(ordinarios);
     lineales_ = std::move(lineales);
 }
@@ -75,8 +79,8 @@ void MarcoAjuste::LimpiarDatos() {
         caja->Text = "";
     }
     for (const auto* parametros : {&ordinarios_, &lineales_}) {
-        for (const Parametro& p : *parametros) {
-            p.campo->caja.Text = "";
+        for (CampoParametro* p : *parametros) {
+            p->caja.Text = "";
         }
     }
     calculado = false;
@@ -144,8 +148,8 @@ void MarcoAjuste::Calcular() {
 
 void MarcoAjuste::MostrarParametros() {
     for (const auto* parametros : {&ordinarios_, &lineales_}) {
-        for (const Parametro& p : *parametros) {
-            p.campo->caja.Text = Format(*p.valor, kPatronParametro);
+        for (CampoParametro* p : *parametros) {
+            p->caja.Text = Format(p->valor, kPatronParametro);
         }
     }
 }
@@ -254,15 +258,20 @@ void MarcoAjuste::bGraficar_Click() {
     MostrarEjes(true);
 }
 
-void MarcoAjuste::ReportarTabla(Reporte& reporte, const std::vector<std::string>& encabezados) const {
+void MarcoAjuste::ReportarTabla(Reporte& reporte) const {
     constexpr int kRegla = 130;
     constexpr int kAnchoCelda = 18;
     reporte.Titulo("Cálculos del ajuste Smirnov Kolmogorov:");
     reporte.LineaDeGuiones(kRegla);
     reporte.ReporteTexto("        m  \t");
     reporte.ReporteTexto("        X  \t");
-    for (std::size_t i = 0; i < encabezados.size(); ++i) {
-        reporte.ReporteTexto((i == 0 ? "      " : "   ") + encabezados[i]);
+    reporte.ReporteTexto("                 P(X)  ");
+    std::vector<std::string> encabezados = ajuste_.encabezadosReporte;
+    if (encabezados.empty()) {
+        encabezados = {ajuste_.encabezadosTeoricos[0] + " ", ajuste_.encabezadosTeoricos[1] + " ", "Delta "};
+    }
+    for (const std::string& encabezado : encabezados) {
+        reporte.ReporteTexto("   " + encabezado);
     }
     reporte.ReporteBlanco();
     reporte.LineaDeGuiones(kRegla);
@@ -277,38 +286,40 @@ void MarcoAjuste::ReportarTabla(Reporte& reporte, const std::vector<std::string>
     reporte.ReporteBlanco();
 }
 
-void MarcoAjuste::ReportarAjuste(Reporte& reporte, const std::vector<std::string>& encabezados,
-                                 const char* tituloParametros, const std::vector<LineaParametro>& ordinarios,
-                                 const std::vector<LineaParametro>& lineales) {
+void MarcoAjuste::ReportarParametros(Reporte& reporte) const {
+    const auto lineas = [&reporte](const Campos& campos) {
+        for (const CampoParametro* campo : campos) {
+            reporte.ReporteLinea(campo->enReporte + campo->caja.Text());
+        }
+    };
+    if (!ajuste_.porAmbosMomentos) {
+        lineas(ordinarios_);
+        return;
+    }
+    reporte.ReporteLinea("Con momentos ordinarios:");
+    lineas(ordinarios_);
+    reporte.ReporteBlanco();
+    reporte.ReporteLinea("Con momentos lineales:");
+    lineas(lineales_);
+}
+
+void MarcoAjuste::ReportarAjuste(Reporte& reporte) {
     constexpr int kReglaSerie = 40;
     constexpr int kReglaVeredicto = 55;
     constexpr int kReglaDiseno = 30;
-    const auto parametros = [&reporte](const std::vector<LineaParametro>& lineas) {
-        for (const LineaParametro& linea : lineas) {
-            reporte.ReporteLinea(linea.rotulo + linea.campo->caja.Text());
-        }
-    };
     reporte.TablaDeSerie("Serie de datos X:", {" N°", " X"}, grdt, grdt.Rows() - 2, kReglaSerie);
     reporte.ReporteBlanco();
     reporte.ReporteBlanco();
-    ReportarTabla(reporte, encabezados);
+    ReportarTabla(reporte);
     reporte.LineaDeGuiones(kReglaVeredicto);
     reporte.ReporteLinea(lblAjuste.Caption());
     reporte.LineaDeGuiones(kReglaVeredicto);
     reporte.ReporteLinea(lblmensaje.Caption());
     reporte.ReporteBlanco();
     reporte.LineaDeGuiones(kReglaVeredicto);
-    reporte.ReporteLinea(tituloParametros);
+    reporte.ReporteLinea(ajuste_.tituloReporte);
     reporte.LineaDeGuiones(kReglaVeredicto);
-    if (lineales.empty()) {
-        parametros(ordinarios);
-    } else {
-        reporte.ReporteLinea("Con momentos ordinarios:");
-        parametros(ordinarios);
-        reporte.ReporteBlanco();
-        reporte.ReporteLinea("Con momentos lineales:");
-        parametros(lineales);
-    }
+    ReportarParametros(reporte);
     reporte.LineaDeGuiones(kReglaDiseno);
     reporte.ReporteLinea("Caudal de diseño:");
     reporte.LineaDeGuiones(kReglaDiseno);
@@ -319,11 +330,11 @@ void MarcoAjuste::ReportarAjuste(Reporte& reporte, const std::vector<std::string
 std::vector<Disposicion> MarcoAjuste::BotonesAccion() { return {bCalcular, bGraficar, bLimpiar, bImprimir, bMenu}; }
 
 Disposicion MarcoAjuste::ZonaParametros() {
-    const auto tabla = [](const std::vector<Parametro>& parametros) {
+    const auto tabla = [](const Campos& campos) {
         std::vector<Disposicion> celdas;
-        for (const Parametro& p : parametros) {
-            celdas.emplace_back(p.campo->etiqueta);
-            celdas.emplace_back(p.campo->caja);
+        for (CampoParametro* campo : campos) {
+            celdas.emplace_back(campo->etiqueta);
+            celdas.emplace_back(campo->caja);
         }
         return Pares(2, std::move(celdas));
     };

@@ -12,13 +12,18 @@ namespace cuencalia {
 
 /// What tells one distribution's window from another in the frame that they share.
 struct DescripcionAjuste {
-    std::string titulo;                            ///< Of the window.
-    const char* nombre;                            ///< Of the distribution, in the verdict.
-    const char* marcoParametros;                   ///< Title of the frame of the parameters.
-    const char* encabezadoOrdinarios;              ///< Above the parameters of each kind …
-    const char* encabezadoLineales;                ///< … null when there is one kind alone.
-    std::vector<std::string> encabezadosTeoricos;  ///< Of columns 3 and 4 of the test table.
-    std::vector<std::string> leyendas;             ///< Of the chart's curves.
+    std::string titulo;           ///< Of the window.
+    const char* nombre;           ///< Of the distribution, in the verdict.
+    const char* marcoParametros;  ///< Title of the frame of the parameters.
+    const char* tituloReporte;    ///< Of the parameters in the report.
+    bool porAmbosMomentos = true;
+    const char* encabezadoOrdinarios = "Con momentos ordinarios:";  ///< Above the parameters on the window.
+    const char* encabezadoLineales = "Con momentos lineales:";
+    std::vector<std::string> encabezadosTeoricos{"G(Y) Ordinario",
+                                                 "G(Y) Mom Lineal"};  ///< Columns 3 and 4 of the table.
+    /// Of columns 3 to 5 in the report; without any they are the table's, with a blank behind.
+    std::vector<std::string> encabezadosReporte{};
+    std::vector<std::string> leyendas{"Exp", "Ord", "ML"};  ///< Of the chart's curves.
     const char* patronDeltaTeorico = "#####0.###0";
     const char* patronDeltaTabular = "###0.###0";
     const char* patronT = "###0.0";
@@ -29,18 +34,15 @@ struct DescripcionAjuste {
     Icono iconoNoPositivos = kIconoError;  ///< Of the refusal of values without a logarithm.
 };
 
-/// A parameter on the window: its label and the box that shows it.
+/// A parameter on the window and in the report.
 struct CampoParametro {
-    CampoParametro(Formulario& forma, const char* nombre, const char* etiqueta);
+    CampoParametro(Formulario& forma, const char* nombre, const char* rotulo, const char* enReporte,
+                   const Double& valor);
 
     Label etiqueta;
     TextBox caja;
-};
-
-/// A line of the report's parameter block.
-struct LineaParametro {
-    const char* rotulo;
-    const CampoParametro* campo;
+    const char* enReporte;
+    const Double& valor;  ///< As the last fit left it.
 };
 
 /// What a distribution that is fitted by both kinds of moments has on its window to choose between them.
@@ -104,14 +106,11 @@ class MarcoAjuste : public ModuloCalculo {
   protected:
     enum class Evaluacion { PeriodoRetorno, Excedencia, NoExcedencia };
 
-    struct Parametro {
-        CampoParametro* campo;
-        const Double* valor;
-    };
+    using Campos = std::vector<CampoParametro*>;
 
-    /// Which parameters stand on the window, in reading order; the second list stays empty where there is one kind
-    /// alone.
-    void DeclararParametros(std::vector<Parametro> ordinarios, std::vector<Parametro> lineales = {});
+    /// Which parameters stand on the window and in the report, in that order; the second list stays empty where there
+    /// is one kind of moments alone.
+    void DeclararParametros(Campos ordinarios, Campos lineales = {});
 
     const DescripcionAjuste& Ajuste() const { return ajuste_; }
     /// Whether the ordinary moments are chosen.
@@ -135,11 +134,8 @@ class MarcoAjuste : public ModuloCalculo {
     virtual std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const { return {Gord, Glin}; }
     virtual void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel);
 
-    /// The series and the test table with these headings of its columns 2 to 5, the verdict, the parameters below their
-    /// title, and the design discharge.
-    void ReportarAjuste(Reporte& reporte, const std::vector<std::string>& encabezados, const char* tituloParametros,
-                        const std::vector<LineaParametro>& ordinarios,
-                        const std::vector<LineaParametro>& lineales = {});
+    /// The series, the test table, the verdict, the parameters and the design discharge.
+    void ReportarAjuste(Reporte& reporte);
 
     void LimpiarOtros() override;
     Disposicion Contenido() override;
@@ -154,12 +150,13 @@ class MarcoAjuste : public ModuloCalculo {
     /// Whether there is a fit to evaluate and a value to evaluate it at; says what is missing.
     bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
     void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
-    void ReportarTabla(Reporte& reporte, const std::vector<std::string>& encabezados) const;
+    void ReportarTabla(Reporte& reporte) const;
+    void ReportarParametros(Reporte& reporte) const;
     Disposicion ZonaParametros();
     Disposicion ZonaDiseno();
 
     DescripcionAjuste ajuste_;
-    std::vector<Parametro> ordinarios_, lineales_;
+    Campos ordinarios_, lineales_;
 };
 
 }  // namespace cuencalia

@@ -479,9 +479,8 @@ class AjusteAlLimite : public MarcoAjuste {
                       {.titulo = "Límite",
                        .nombre = "de prueba",
                        .marcoParametros = "",
-                       .encabezadoOrdinarios = nullptr,
-                       .encabezadoLineales = nullptr,
-                       .encabezadosTeoricos = {"", ""},
+                       .tituloReporte = "",
+                       .porAmbosMomentos = false,
                        .leyendas = {"Exp", "Ord"}}) {}
     void GenerarReporte(Reporte&) override {}
     Double teorica;
