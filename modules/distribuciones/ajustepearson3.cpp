@@ -84,9 +84,7 @@ Double AjustePearson3::Cuantil(Double p) {
 }
 
 std::optional<Double> AjustePearson3::Probabilidad(Double Q, Evaluacion evaluacion) {
-    Pearson3 d = Elegidos();
-    Double g, G;
-    gammacompleta(d.gamma, g);
+    const Pearson3& d = Elegidos();
     const Double y = (Variable(Q) - d.x0) / d.beta;
     if (evaluacion != Evaluacion::PeriodoRetorno && y < 0) {
         App().MsgBox("Para los parámetros: Xo y ß la variable reducida y, por " + Momentos() +
@@ -94,8 +92,7 @@ std::optional<Double> AjustePearson3::Probabilidad(Double Q, Evaluacion evaluaci
                      kIconoInformacion, "Mensaje de Error");
         return std::nullopt;
     }
-    gammaacumulada(d.gamma, y, G, g);
-    return G;
+    return ProbabilidadGamma(d.gamma, y);
 }
 
 }  // namespace cuencalia

@@ -64,11 +64,8 @@ Double frmDisGamma2par::Cuantil(Double p) {
 }
 
 std::optional<Double> frmDisGamma2par::Probabilidad(Double Q, Evaluacion) {
-    Gamma2 d = Elegidos();
-    Double g, G;
-    gammacompleta(d.gamma, g);
-    gammaacumulada(d.gamma, Q / d.beta, G, g);
-    return G;
+    const Gamma2& d = Elegidos();
+    return ProbabilidadGamma(d.gamma, Q / d.beta);
 }
 
 }  // namespace cuencalia

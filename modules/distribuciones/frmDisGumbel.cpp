@@ -5,13 +5,11 @@
 namespace cuencalia {
 
 frmDisGumbel::frmDisGumbel(Aplicacion& app)
-    : AjustePosicionEscala(app, "frmDisGumbel",
-                           {.titulo = "Ajuste de una serie de datos a la distribución Gumbel",
-                            .nombre = "Gumbel",
-                            .marcoParametros = "Parámetros distribución Gumbel:",
-                            .tituloReporte = "Parámetros de la distribución Gumbel:"},
-                           kGumbel) {
-    DeclararParametros({&txtmodau, &txtalfa}, {&txtmodaul, &txtalfal});
-}
+    : AjusteGumbel(app, "frmDisGumbel",
+                   {.titulo = "Ajuste de una serie de datos a la distribución Gumbel",
+                    .nombre = "Gumbel",
+                    .marcoParametros = "Parámetros distribución Gumbel:",
+                    .tituloReporte = "Parámetros de la distribución Gumbel:"},
+                   kGumbel) {}
 
 }  // namespace cuencalia

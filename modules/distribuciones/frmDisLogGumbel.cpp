@@ -5,15 +5,12 @@
 namespace cuencalia {
 
 frmDisLogGumbel::frmDisLogGumbel(Aplicacion& app)
-    : AjustePosicionEscala(
-          app, "frmDisLogGumbel",
-          {.titulo = "Ajuste de una serie de datos a la distribución log-Gumbel o distribución de Fréchet",
-           .nombre = "logGumbel",
-           .marcoParametros = "Parámetros distribución logGumbel:",
-           .tituloReporte = "Parámetros de la distribución logGumbel:",
-           .iconoNoPositivos = kIconoInformacion},
-          kLogGumbel) {
-    DeclararParametros({&txtmodau, &txtalfa}, {&txtmodaul, &txtalfal});
-}
+    : AjusteGumbel(app, "frmDisLogGumbel",
+                   {.titulo = "Ajuste de una serie de datos a la distribución log-Gumbel o distribución de Fréchet",
+                    .nombre = "logGumbel",
+                    .marcoParametros = "Parámetros distribución logGumbel:",
+                    .tituloReporte = "Parámetros de la distribución logGumbel:",
+                    .iconoNoPositivos = kIconoInformacion},
+                   kLogGumbel) {}
 
 }  // namespace cuencalia

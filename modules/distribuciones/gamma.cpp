@@ -71,6 +71,13 @@ void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n) {
     }
 }
 
+Double ProbabilidadGamma(Double a, Double x) {
+    Double g, r;
+    gammacompleta(a, g);
+    gammaacumulada(a, x, r, g);
+    return r;
+}
+
 void ProbabilidadesGamma(Double a, const ArregloBase<Double>& y, ArregloBase<Double>& G, int n) {
     Double g;
     gammacompleta(a, g);

@@ -25,6 +25,9 @@ void gammaacumulada(Double a, Double x, Double& r, Double g);
 /// gammacompleta. Errors of both functions above; 5 or 11 where r reaches 1 and p is from 0.8 on.
 void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n);
 
+/// P(a, x), with the gamma function of a worked out first; errors as in gammaacumulada.
+Double ProbabilidadGamma(Double a, Double x);
+
 /// P(a, y) of y(1) to y(n) in G(1) to G(n); errors as in gammaacumulada.
 void ProbabilidadesGamma(Double a, const ArregloBase<Double>& y, ArregloBase<Double>& G, int n);
 
