@@ -43,7 +43,7 @@ void gammaacumulada(Double a, Double x, Double& r, Double g) {
         // The term x^(a+k-1) e^-x / (a (a+1) … (a+k-1)) by third powers and fourth roots: neither the power nor the
         // product overflows on the way.
         d *= a + (k - 1);
-        const Double raiz = Sqr(Sqr(d));
+        const Double raiz = Elevar(d, 0.25);
         const Double u = Elevar(x, (a + (k - 1)) / 3) / raiz;
         const Double v = e_menos_x / raiz;
         const Double termino = u * (u * (v * u));

@@ -11,15 +11,16 @@ struct Gamma2 {
 };
 
 /// Parameters by the mean m of the values and the mean ml of their natural logarithms: an approximation of maximum
-/// likelihood in two ranges of y = ln m - ml, with relative errors of the shape below 8.8e-5 for y <= 0.5772 and below
-/// 5.4e-5 above, to y = 17. Error 11 for y = 0, which equal values have.
+/// likelihood in two ranges of y = ln m - ml, with relative errors of the shape below 1.8e-4 for y <= 0.5772 and below
+/// 9.3e-5 above, to y = 17. Error 11 for y = 0, which equal values have.
 /// Source: Greenwood, J. A. and Durand, D. (1960), Aids for fitting the gamma distribution by maximum likelihood,
 /// Technometrics 2(1), 55-65.
 Gamma2 Gamma2PorVerosimilitud(Double m, Double ml);
 
 /// Parameters by the first two L-moments; both 0 when no gamma distribution has them (L2 <= 0 or L2 >= L1). The second
-/// range, L2/L1 below 0.5, takes 6·t² for pi·t² of the source, and so gives shapes below half of the source's.
-/// Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1), 105-124, table 2.
+/// range, L2/L1 = t below 0.5, takes 6·t² for the source's pi·t²: its shapes are 0.52 (t = 0.1) to 0.38 (t = 0.5) of
+/// the source's, which errs by less than 5e-5 itself. Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1),
+/// 105-124, table 2.
 Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2);
 
 }  // namespace cuencalia

@@ -224,30 +224,36 @@ TEST(Momentos, ErroresDeEjecucion) {
     EXPECT_EQ(NumeroDeError([] { return CalcularMomentosLineales(Serie(), 1501); }), kSubindiceFuera);
 }
 
+constexpr auto kOrdenes = {OrdenarSerie, OrdenarPorSeleccion};
+
 TEST(OrdenarSerie, OrdenaLosPrimerosValores) {
-    std::mt19937 azar(7);
-    for (const std::size_t n : {0U, 1U, 2U, 3U, 10U, 1500U}) {
-        std::vector<double> valores(n);
-        std::generate(valores.begin(), valores.end(), [&] { return static_cast<int>(azar() % 1000) - 500; });
-        Serie x = EnSerie(valores);
-        OrdenarSerie(x, static_cast<int>(n));
-        std::sort(valores.begin(), valores.end());
-        for (std::size_t i = 0; i < n; ++i) {
-            ASSERT_EQ(x(static_cast<int>(i) + 1), valores[i]) << "n = " << n;
+    for (const auto ordenar : kOrdenes) {
+        std::mt19937 azar(7);
+        for (const std::size_t n : {0U, 1U, 2U, 3U, 10U, 1500U}) {
+            std::vector<double> valores(n);
+            std::generate(valores.begin(), valores.end(), [&] { return static_cast<int>(azar() % 1000) - 500; });
+            Serie x = EnSerie(valores);
+            ordenar(x, static_cast<int>(n));
+            std::sort(valores.begin(), valores.end());
+            for (std::size_t i = 0; i < n; ++i) {
+                ASSERT_EQ(x(static_cast<int>(i) + 1), valores[i]) << "n = " << n;
+            }
         }
     }
 }
 
 TEST(OrdenarSerie, RespetaElRestoYLosLimites) {
-    Serie x = EnSerie({3, 2, 1, -5});
-    OrdenarSerie(x, 3);
-    const Serie esperada = EnSerie({1, 2, 3, -5});
-    for (int i = 1; i <= 5; ++i) {
-        EXPECT_EQ(x(i), esperada(i)) << i;
+    for (const auto ordenar : kOrdenes) {
+        Serie x = EnSerie({3, 2, 1, -5});
+        ordenar(x, 3);
+        const Serie esperada = EnSerie({1, 2, 3, -5});
+        for (int i = 1; i <= 5; ++i) {
+            EXPECT_EQ(x(i), esperada(i)) << i;
+        }
+        EXPECT_EQ(NumeroDeError([&] { return ordenar(x, 1501), 0; }), kSubindiceFuera);
+        Arreglo<Double, 2, 9> sin_primero;
+        EXPECT_EQ(NumeroDeError([&] { return ordenar(sin_primero, 5), 0; }), kSubindiceFuera);
     }
-    EXPECT_EQ(NumeroDeError([&] { return OrdenarSerie(x, 1501), 0; }), kSubindiceFuera);
-    Arreglo<Double, 2, 9> sin_primero;
-    EXPECT_EQ(NumeroDeError([&] { return OrdenarSerie(sin_primero, 5), 0; }), kSubindiceFuera);
 }
 
 }  // namespace
