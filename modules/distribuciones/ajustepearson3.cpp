@@ -76,10 +76,8 @@ bool AjustePearson3::PuedeEvaluar() {
 }
 
 Double AjustePearson3::Cuantil(Double p) {
-    Pearson3 d = Elegidos();
-    Double r, y;
-    Gammainversa(d.gamma, p, r, y, n);
-    const Double v = d.beta * y + d.x0;
+    const Pearson3& d = Elegidos();
+    const Double v = d.beta * CuantilGamma(d.gamma, p, n) + d.x0;
     return deLogaritmos_ ? Exp(v) : v;
 }
 

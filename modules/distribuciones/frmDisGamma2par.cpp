@@ -56,16 +56,10 @@ bool frmDisGamma2par::AdmiteParametros() {
     return true;
 }
 
-Double frmDisGamma2par::Cuantil(Double p) {
-    Gamma2 d = Elegidos();
-    Double r, y;
-    Gammainversa(d.gamma, p, r, y, n);
-    return d.beta * y;
-}
+Double frmDisGamma2par::Cuantil(Double p) { return Elegidos().beta * CuantilGamma(Elegidos().gamma, p, n); }
 
 std::optional<Double> frmDisGamma2par::Probabilidad(Double Q, Evaluacion) {
-    const Gamma2& d = Elegidos();
-    return ProbabilidadGamma(d.gamma, Q / d.beta);
+    return ProbabilidadGamma(Elegidos().gamma, Q / Elegidos().beta);
 }
 
 }  // namespace cuencalia

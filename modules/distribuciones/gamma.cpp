@@ -78,6 +78,12 @@ Double ProbabilidadGamma(Double a, Double x) {
     return r;
 }
 
+Double CuantilGamma(Double a, Double p, int& n) {
+    Double r, x;
+    Gammainversa(a, p, r, x, n);
+    return x;
+}
+
 void ProbabilidadesGamma(Double a, const ArregloBase<Double>& y, ArregloBase<Double>& G, int n) {
     Double g;
     gammacompleta(a, g);

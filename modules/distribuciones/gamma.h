@@ -33,6 +33,9 @@ void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n);
 /// P(a, x), with the gamma function of a worked out first; errors as in gammaacumulada.
 Double ProbabilidadGamma(Double a, Double x);
 
+/// The x that Gammainversa finds; n counts its rounds.
+Double CuantilGamma(Double a, Double p, int& n);
+
 /// P(a, y) of y(1) to y(n) in G(1) to G(n); errors as in gammaacumulada.
 void ProbabilidadesGamma(Double a, const ArregloBase<Double>& y, ArregloBase<Double>& G, int n);
 
