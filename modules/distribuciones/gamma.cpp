@@ -23,8 +23,9 @@ void gammacompleta(Double& x, Double& g) {
     const Double c2 = Double(-1) / 360;
     const Double c3 = Double(1) / 1286;
     const Double c4 = Double(-1) / 1680;
+    const Double lnx = Log(x);
     const Double L =
-        (x - 0.5) * Log(x) - x + Log(2 * kPi) / 2 + c1 / x + c2 / Elevar(x, 3) + c3 / Elevar(x, 5) + c4 / Elevar(x, 7);
+        (x - 0.5) * lnx - x + Log(2 * kPi) / 2 + c1 / x + c2 / Elevar(x, 3) + c3 / Elevar(x, 5) + c4 / Elevar(x, 7);
     g = Exp(L);
     for (Double k = Int(x); k >= Int(x0) + 1; k -= 1) {
         x -= 1;

@@ -24,7 +24,8 @@ inline Double PosicionWeibull(int i, int n) { return Double(i) / (n + 1); }
 Double MayorDelta(const ArregloBase<Double>& delta, int n);
 
 /// The difference that is not exceeded by chance at that level in n values, by the formula for large samples whatever
-/// the n: below 35 values it is some percent greater than the exact one, so the test accepts a little more.
+/// the n: below 35 values it is some percent greater than the exact one, so the test accepts a little more. With
+/// parameters taken from the same values the exact one is half to two thirds of it (docs/numerics.md).
 /// Source: Massey, F. J. (1951), The Kolmogorov-Smirnov test for goodness of fit, J. Am. Stat. Assoc. 46(253), 68-78.
 inline Double DeltaTabular(const NivelSignificacion& nivel, int n) { return nivel.c / Sqr(n); }
 

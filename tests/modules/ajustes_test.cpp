@@ -38,33 +38,45 @@ MomentosLineales LinealesDe(const std::string& muestra) {
 double RazonL2(double a) { return boost::math::tgamma_delta_ratio(a + 0.5, 0.5) / std::sqrt(std::numbers::pi); }
 double RazonL3(double a) { return 6 * boost::math::ibeta(a, 2 * a, 1.0 / 3) - 3; }
 
-// The tolerance is half a unit of the last published digit.
+// A figure of esperados.csv; the tolerance is half a unit of its last digit.
+struct Publicados {
+    std::string muestra, metodo;
+
+    void Esperar(const char* magnitud, Double obtenido, double tolerancia) const {
+        EXPECT_NEAR(obtenido.valor(), Publicado(muestra, metodo, magnitud), tolerancia) << muestra << ", " << metodo;
+    }
+};
+
 TEST(PosicionEscala, ParametrosPublicados) {
     const MomentosLineales viento = LinealesDe("r_airquality_wind");
     const PosicionEscala normal = kNormal.porMomentosLineales(viento.L1, viento.L2);
-    EXPECT_NEAR(normal.posicion.valor(), Publicado("r_airquality_wind", "Normal momentos lineales", "mu"), 0.5e-6);
-    EXPECT_NEAR(normal.escala.valor(), Publicado("r_airquality_wind", "Normal momentos lineales", "sigma"), 0.5e-6);
+    const Publicados de_viento{"r_airquality_wind", "Normal momentos lineales"};
+    de_viento.Esperar("mu", normal.posicion, 0.5e-6);
+    de_viento.Esperar("sigma", normal.escala, 0.5e-6);
 
     const MomentosLineales once = LinealesDe("lmoments3_muestra11");
     const PosicionEscala gumbel11 = kGumbel.porMomentosLineales(once.L1, once.L2);
-    EXPECT_NEAR(kNormal.porMomentosLineales(once.L1, once.L2).escala.valor(),
-                Publicado("lmoments3_muestra11", "Normal", "sigma"), 0.5e-6);
-    EXPECT_NEAR(gumbel11.posicion.valor(), Publicado("lmoments3_muestra11", "Gumbel", "xi"), 0.5e-6);
-    EXPECT_NEAR(gumbel11.escala.valor(), Publicado("lmoments3_muestra11", "Gumbel", "alfa"), 0.5e-6);
+    const Publicados de_once{"lmoments3_muestra11", "Gumbel"};
+    de_once.Esperar("xi", gumbel11.posicion, 0.5e-6);
+    de_once.Esperar("alfa", gumbel11.escala, 0.5e-6);
 
     const MomentosLineales lmom = LinealesDe("numerics_lmom_31");
     const PosicionEscala gumbel31 = kGumbel.porMomentosLineales(lmom.L1, lmom.L2);
-    EXPECT_NEAR(gumbel31.posicion.valor(), Publicado("numerics_lmom_31", "Gumbel momentos lineales", "xi"), 0.5e-2);
-    EXPECT_NEAR(gumbel31.escala.valor(), Publicado("numerics_lmom_31", "Gumbel momentos lineales", "alfa"), 0.5e-4);
+    const Publicados de_lmom{"numerics_lmom_31", "Gumbel momentos lineales"};
+    de_lmom.Esperar("xi", gumbel31.posicion, 0.5e-2);
+    de_lmom.Esperar("alfa", gumbel31.escala, 0.5e-4);
 }
 
 TEST(PosicionEscala, MomentosOrdinarios) {
+    const std::vector<double> rio = LeerColumna("rao_hamed_tippecanoe.csv");
+    const ParametrosEstadisticos m = ParametrosMuestrales(EnSerie(rio), static_cast<int>(rio.size()));
+    const PosicionEscala de_rio = kNormal.porMomentos(m.media, m.desviacion);
+    const Publicados normal_de_rio{"rao_hamed_tippecanoe", "Normal momentos"};
+    normal_de_rio.Esperar("media", de_rio.posicion, 0.5);
+    normal_de_rio.Esperar("desviacion (n-1)", de_rio.escala, 0.5);
     // Rao and Hamed took Q100 from the same approximation of the normal variable, and print no decimals.
-    const PosicionEscala normal =
-        kNormal.porMomentos(Publicado("rao_hamed_tippecanoe", "Normal momentos", "media"),
-                            Publicado("rao_hamed_tippecanoe", "Normal momentos", "desviacion (n-1)"));
-    EXPECT_NEAR(kNormal.Cuantil(normal, 0.99).valor(), Publicado("rao_hamed_tippecanoe", "Normal(12665; 4710)", "Q100"),
-                0.5);
+    const PosicionEscala normal = kNormal.porMomentos(12665, 4710);
+    Publicados{"rao_hamed_tippecanoe", "Normal(12665; 4710)"}.Esperar("Q100", kNormal.Cuantil(normal, 0.99), 0.5);
 
     // The Gumbel variable of scale 6 has the deviation π·6/√6 = π·√6 and the mean 6·0.5772156649 above its mode.
     const PosicionEscala gumbel = kGumbel.porMomentos(10, std::numbers::pi * std::sqrt(6.0));
@@ -76,21 +88,18 @@ TEST(PosicionEscala, MomentosOrdinarios) {
 TEST(Pearson3, ParametrosPublicados) {
     const MomentosLineales lmom = LinealesDe("numerics_lmom_31");
     const Pearson3 d = Pearson3PorMomentosLineales(lmom.L1, lmom.L2, lmom.L3 / lmom.L2).value();
-    const auto publicado = [](const char* magnitud) {
-        return Publicado("numerics_lmom_31", "Pearson III momentos lineales", magnitud);
-    };
-    EXPECT_NEAR(d.gamma.valor(), publicado("forma"), 0.5e-5);
-    EXPECT_NEAR(d.beta.valor(), publicado("escala"), 0.5e-5);
-    EXPECT_NEAR(d.x0.valor(), publicado("xi"), 0.5e-4);
+    const Publicados de_lmom{"numerics_lmom_31", "Pearson III momentos lineales"};
+    de_lmom.Esperar("forma", d.gamma, 0.5e-5);
+    de_lmom.Esperar("escala", d.beta, 0.5e-5);
+    de_lmom.Esperar("xi", d.x0, 0.5e-4);
 
     // Published as mean x0 + beta·gamma, deviation beta·√gamma and skew 2/√gamma.
     const MomentosLineales once = LinealesDe("lmoments3_muestra11");
     const Pearson3 e = Pearson3PorMomentosLineales(once.L1, once.L2, once.L3 / once.L2).value();
-    const double raiz = std::sqrt(e.gamma.valor());
-    const auto de_once = [](const char* magnitud) { return Publicado("lmoments3_muestra11", "Pearson III", magnitud); };
-    EXPECT_NEAR((e.x0 + e.beta * e.gamma).valor(), de_once("media"), 0.5e-6);
-    EXPECT_NEAR(e.beta.valor() * raiz, de_once("desviacion"), 0.5e-6);
-    EXPECT_NEAR(2 / raiz, de_once("asimetria"), 0.5e-6);
+    const Publicados de_once{"lmoments3_muestra11", "Pearson III"};
+    de_once.Esperar("media", e.x0 + e.beta * e.gamma, 0.5e-6);
+    de_once.Esperar("desviacion", e.beta * Sqr(e.gamma), 0.5e-6);
+    de_once.Esperar("asimetria", 2 / Sqr(e.gamma), 0.5e-6);
 }
 
 // From the L-moments of a distribution back to it. Hosking gives 5e-5 for the shape by t3; the scale is exact for the

@@ -62,6 +62,7 @@ TEST(GammaCompleta, ValoresDeTablas) {
 
 TEST(GammaCompleta, ErroresDeEjecucion) {
     const auto error = [](double x) { return NumeroDeError([&] { return Completa(x); }); };
+    EXPECT_EQ(error(-10), kArgumentoNoValido) << "the logarithm fails first";
     EXPECT_EQ(error(-10.5), kArgumentoNoValido);
     EXPECT_EQ(error(-11), kArgumentoNoValido);
     EXPECT_EQ(error(0), kDivisionPorCero);
@@ -144,13 +145,14 @@ struct Inversion {
     int rondas = 0;
 };
 
+double Paso(double p) { return p < 0.9 ? 0.1 : p < 0.995 ? 0.01 : 0.002; }
+
 // One correction of x, by the range of p.
 double Corregido(double x, double p, double r) {
     if (p < 0.8) {
         return x * std::cbrt(p / r);
     }
-    const double paso = p < 0.9 ? 0.1 : p < 0.995 ? 0.01 : 0.002;
-    return x * (1 - paso * std::log((1 - p) / (1 - r)));
+    return x * (1 - Paso(p) * std::log((1 - p) / (1 - r)));
 }
 
 // The inversion stops at the first P(a, x) within 5e-5 of p and corrects x once more. The correction goes towards p and
@@ -170,6 +172,12 @@ TEST(GammaInversa, DentroDeLaToleranciaYUltimaCorreccion) {
             const double penultimo = gamma_p_inv(a, inversion.r);
             const double tolerancia = 3e-7 / gamma_p_derivative(a, penultimo);
             EXPECT_NEAR(inversion.x, Corregido(penultimo, p, inversion.r), tolerancia);
+            if (p >= 0.9) {
+                // The small steps come from below, so it is the first P within the bound that ends the search: a step
+                // takes off the fraction h·x·f/(1 - p) of the distance at most.
+                const double fraccion = Paso(p) * penultimo * gamma_p_derivative(a, penultimo) / (1 - p);
+                EXPECT_GT(p - inversion.r, 5e-5 * (1 - 1.1 * fraccion));
+            }
         }
     }
 }
