@@ -5,41 +5,36 @@
 
 namespace cuencalia {
 
-namespace {
+AjustePearson3::AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion,
+                               const DistribucionPearson3& distribucion, const char* enVeredicto)
+    : MarcoAjuste(app, std::move(nombre), std::move(descripcion)),
+      distribucion_(distribucion),
+      enVeredicto_(enVeredicto) {
+    DeclararParametros({&txtxo, &txtgamma, &txtbeta}, {&txtxol, &txtgammal, &txtbetal});
+}
 
-/// Reduced variables of v by the distribution; says whether one of them is negative.
-bool Reducir(const Pearson3& d, const Serie& v, Serie& Y, int n) {
+bool AjustePearson3::Reducir(const Pearson3& d, Serie& Y) const {
     bool negativa = false;
     for (int i = 1; i <= n; ++i) {
-        Y(i) = (v(i) - d.x0) / d.beta;
+        Y(i) = distribucion_.Reducida(d, xo(i));
         negativa = negativa || Y(i) < 0;
     }
     return negativa;
 }
 
-}  // namespace
-
-AjustePearson3::AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion, bool deLogaritmos,
-                               const char* enVeredicto)
-    : MarcoAjuste(app, std::move(nombre), std::move(descripcion)),
-      deLogaritmos_(deLogaritmos),
-      enVeredicto_(enVeredicto) {
-    DeclararParametros({&txtxo, &txtgamma, &txtbeta}, {&txtxol, &txtgammal, &txtbetal});
-}
-
 void AjustePearson3::Ajustar() {
     Serie v;
     for (int i = 1; i <= n; ++i) {
-        v(i) = Variable(xo(i));
+        v(i) = distribucion_.Variable(xo(i));
     }
     const ParametrosEstadisticos m = ParametrosMuestrales(v, n);
     const MomentosLineales l = CalcularMomentosLineales(v, n);
     const Pearson3 ord = Pearson3PorMomentos(m.media, m.desviacion, m.Cs);
     // Without a distribution of these L-moments the scale of 0 ends the fit below.
     const Pearson3 lin = Pearson3PorMomentosLineales(l.L1, l.L2, l.L3 / l.L2).value_or(Pearson3{});
-    const bool negativaOrd = Reducir(ord, v, Yord, n);
+    const bool negativaOrd = Reducir(ord, Yord);
     const bool malOrd = m.Cs < 0 || negativaOrd;
-    const bool malLin = Reducir(lin, v, Ylin, n);
+    const bool malLin = Reducir(lin, Ylin);
     const auto llenar = [this](bool mal, Double gamma, const Serie& Y, Probabilidades& G) {
         if (!mal) {
             ProbabilidadesGamma(gamma, Y, G, n);
@@ -75,22 +70,17 @@ bool AjustePearson3::PuedeEvaluar() {
     return true;
 }
 
-Double AjustePearson3::Cuantil(Double p) {
-    const Pearson3& d = Elegidos();
-    const Double v = d.beta * CuantilGamma(d.gamma, p, n) + d.x0;
-    return deLogaritmos_ ? Exp(v) : v;
-}
+Double AjustePearson3::Cuantil(Double p) { return distribucion_.Cuantil(Elegidos(), p, n); }
 
 std::optional<Double> AjustePearson3::Probabilidad(Double Q, Evaluacion evaluacion) {
-    const Pearson3& d = Elegidos();
-    const Double y = (Variable(Q) - d.x0) / d.beta;
+    const Double y = distribucion_.Reducida(Elegidos(), Q);
     if (evaluacion != Evaluacion::PeriodoRetorno && y < 0) {
         App().MsgBox("Para los parámetros: Xo y ß la variable reducida y, por " + Momentos() +
                          ", es negativa, por lo que por lo que no se puede calcular su probabilidad",
                      kIconoInformacion, "Mensaje de Error");
         return std::nullopt;
     }
-    return ProbabilidadGamma(d.gamma, y);
+    return ProbabilidadGamma(Elegidos().gamma, y);
 }
 
 }  // namespace cuencalia

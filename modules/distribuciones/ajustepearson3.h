@@ -22,8 +22,8 @@ class AjustePearson3 : public MarcoAjuste {
 
   protected:
     /// `enVeredicto` names the distribution where the verdict says that the parameters are incorrect.
-    AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion, bool deLogaritmos,
-                   const char* enVeredicto);
+    AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion,
+                   const DistribucionPearson3& distribucion, const char* enVeredicto);
 
     void Ajustar() override;
     void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel) override;
@@ -32,12 +32,13 @@ class AjustePearson3 : public MarcoAjuste {
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
 
   private:
-    Double Variable(Double valor) const { return deLogaritmos_ ? Log(valor) : valor; }
+    /// Reduced variables of xo; says whether one of them is negative.
+    bool Reducir(const Pearson3& d, Serie& Y) const;
     const Pearson3& Elegidos() const { return Ordinario() ? ordinarios : lineales; }
     bool Incorrectos() const { return Ordinario() ? paramMalOrd : paramMalLin; }
     std::string Momentos() const { return Ordinario() ? "momentos ordinarios" : "momentos lineales"; }
 
-    bool deLogaritmos_;
+    const DistribucionPearson3& distribucion_;
     const char* enVeredicto_;
 };
 

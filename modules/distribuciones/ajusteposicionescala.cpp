@@ -31,8 +31,8 @@ void AjustePosicionEscala::Ajustar() {
     const PosicionEscala ord = distribucion_.porMomentos(m.media, m.desviacion);
     const PosicionEscala lin = distribucion_.porMomentosLineales(l.L1, l.L2);
     for (int i = 1; i <= n; ++i) {
-        Yord(i) = (v(i) - ord.posicion) / ord.escala;
-        Ylin(i) = (v(i) - lin.posicion) / lin.escala;
+        Yord(i) = distribucion_.Reducida(ord, xo(i));
+        Ylin(i) = distribucion_.Reducida(lin, xo(i));
         Gord(i) = distribucion_.acumulada(Yord(i));
         Glin(i) = distribucion_.acumulada(Ylin(i));
     }

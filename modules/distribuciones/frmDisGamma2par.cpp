@@ -1,20 +1,9 @@
 #include "modules/distribuciones/frmDisGamma2par.h"
 
 #include "modules/distribuciones/gamma.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
-
-namespace {
-
-Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n) {
-    Double suma;
-    for (int i = 1; i <= n; ++i) {
-        suma += Log(x(i));
-    }
-    return suma / n;
-}
-
-}  // namespace
 
 frmDisGamma2par::frmDisGamma2par(Aplicacion& app)
     : MarcoAjuste(app, "frmDisGamma2par",
@@ -31,8 +20,8 @@ void frmDisGamma2par::Ajustar() {
     const Gamma2 ord = Gamma2PorVerosimilitud(m.media, MediaDeLogaritmos(x, n));
     const Gamma2 lin = Gamma2PorMomentosLineales(l.L1, l.L2);
     for (int i = 1; i <= n; ++i) {
-        Yord(i) = xo(i) / ord.beta;
-        Ylin(i) = xo(i) / lin.beta;
+        Yord(i) = ord.Reducida(xo(i));
+        Ylin(i) = lin.Reducida(xo(i));
     }
     ProbabilidadesGamma(ord.gamma, Yord, Gord, n);
     ProbabilidadesGamma(lin.gamma, Ylin, Glin, n);
@@ -54,12 +43,6 @@ bool frmDisGamma2par::AdmiteParametros() {
         return false;
     }
     return true;
-}
-
-Double frmDisGamma2par::Cuantil(Double p) { return Elegidos().beta * CuantilGamma(Elegidos().gamma, p, n); }
-
-std::optional<Double> frmDisGamma2par::Probabilidad(Double Q, Evaluacion) {
-    return ProbabilidadGamma(Elegidos().gamma, Q / Elegidos().beta);
 }
 
 }  // namespace cuencalia

@@ -24,8 +24,8 @@ class frmDisGamma2par : public MarcoAjuste {
   protected:
     void Ajustar() override;
     bool AdmiteParametros() override;
-    Double Cuantil(Double p) override;
-    std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
+    Double Cuantil(Double p) override { return Elegidos().Cuantil(p, n); }
+    std::optional<Double> Probabilidad(Double Q, Evaluacion) override { return Elegidos().Probabilidad(Q); }
 
   private:
     const Gamma2& Elegidos() const { return Ordinario() ? ordinarios : lineales; }

@@ -1,5 +1,7 @@
 #include "modules/distribuciones/frmDisGamma3par.h"
 
+#include "modules/distribuciones/gamma3.h"
+
 namespace cuencalia {
 
 frmDisGamma3par::frmDisGamma3par(Aplicacion& app)
@@ -13,6 +15,6 @@ frmDisGamma3par::frmDisGamma3par(Aplicacion& app)
                       .patronDeltaTeorico = "#####0.0####",
                       .patronDeltaTabular = "###0.0###",
                       .patronP = "###.0#"},
-                     false, "gamma de 3 parámetros") {}
+                     kGamma3, "gamma de 3 parámetros") {}
 
 }  // namespace cuencalia

@@ -1,5 +1,7 @@
 #include "modules/distribuciones/frmDisLogPearson3.h"
 
+#include "modules/distribuciones/logpearson3.h"
+
 namespace cuencalia {
 
 frmDisLogPearson3::frmDisLogPearson3(Aplicacion& app)
@@ -14,7 +16,7 @@ frmDisLogPearson3::frmDisLogPearson3(Aplicacion& app)
                       .patronDeltaTeorico = "#####0.0####",
                       .patronDeltaTabular = "###0.0###",
                       .patronP = "###.0#"},
-                     true, "Log-Pearson tipo 3") {}
+                     kLogPearson3, "Log-Pearson tipo 3") {}
 
 void frmDisLogPearson3::AlFallar() {
     App().MsgBox(

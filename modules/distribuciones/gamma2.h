@@ -1,6 +1,6 @@
 #pragma once
 
-#include "modules/estadistica/momentos.h"
+#include "frame/numeros.h"
 
 namespace cuencalia {
 
@@ -8,7 +8,17 @@ namespace cuencalia {
 /// unit of x, gamma none.
 struct Gamma2 {
     Double gamma, beta;
+
+    /// y = x / beta. Errors: 11 or 6 for beta = 0.
+    Double Reducida(Double x) const { return x / beta; }
+    /// Non-exceedance probability of an x above 0; errors as in gammaacumulada.
+    Double Probabilidad(Double x) const;
+    /// The x of a non-exceedance probability, 0 < p < 1, by CuantilGamma, whose rounds n counts.
+    Double Cuantil(Double p, int& n) const;
 };
+
+/// Mean of the natural logarithms of x(1) to x(n); error 5 for a value that is not above 0.
+Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n);
 
 /// Parameters by the mean m of the values and the mean ml of their natural logarithms: an approximation of maximum
 /// likelihood in two ranges of y = ln m - ml, with relative errors of the shape below 1.8e-4 for y <= 0.5772 and below

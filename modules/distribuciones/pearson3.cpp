@@ -36,4 +36,9 @@ std::optional<Pearson3> Pearson3PorMomentosLineales(Double l1, Double l2, Double
     return d;
 }
 
+Double DistribucionPearson3::Cuantil(const Pearson3& d, Double p, int& n) const {
+    const Double v = d.beta * CuantilGamma(d.gamma, p, n) + d.x0;
+    return deLogaritmos ? Exp(v) : v;
+}
+
 }  // namespace cuencalia

@@ -6,8 +6,8 @@
 
 namespace cuencalia {
 
-/// Pearson type III distribution, a gamma distribution of three parameters: (v - x0) / beta has the incomplete gamma
-/// function of the shape gamma. x0 and beta have the unit of v, gamma none.
+/// Parameters of a Pearson type III distribution, a gamma distribution of three parameters: (v - x0) / beta has the
+/// incomplete gamma function of the shape gamma. x0 and beta have the unit of v, gamma none.
 struct Pearson3 {
     Double gamma, beta, x0;
 };
@@ -22,5 +22,17 @@ Pearson3 Pearson3PorMomentos(Double m, Double s, Double Cs);
 /// error of the shape below 5e-5. Error 11 for l3 = 0; 6 for |tau| below 0.0257, a shape beyond the gamma function.
 /// Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1), 105-124, table 2 (in a reparametrised form).
 std::optional<Pearson3> Pearson3PorMomentosLineales(Double l1, Double l2, Double tau);
+
+/// The Pearson type III distribution of v = x, or of v = ln x.
+struct DistribucionPearson3 {
+    bool deLogaritmos;
+
+    /// Error 5 for the logarithm of x <= 0.
+    Double Variable(Double x) const { return deLogaritmos ? Log(x) : x; }
+    /// y = (v - x0) / beta. Errors: 11 or 6 for beta = 0.
+    Double Reducida(const Pearson3& d, Double x) const { return (Variable(x) - d.x0) / d.beta; }
+    /// The x of a non-exceedance probability, 0 < p < 1, by CuantilGamma, whose rounds n counts.
+    Double Cuantil(const Pearson3& d, Double p, int& n) const;
+};
 
 }  // namespace cuencalia

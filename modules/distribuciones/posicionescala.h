@@ -23,11 +23,13 @@ struct DistribucionPosicionEscala {
     /// The y of a non-exceedance probability, 0 < p < 1.
     Double (*cuantil)(Double p);
 
-    /// Non-exceedance probability of x. Errors: 11 or 6 for a scale of 0; of logarithms, 5 for x <= 0.
-    Double Probabilidad(PosicionEscala parametros, Double x) const {
+    /// y = (v - posicion) / escala. Errors: 11 or 6 for a scale of 0; of logarithms, 5 for x <= 0.
+    Double Reducida(PosicionEscala parametros, Double x) const {
         const Double v = deLogaritmos ? Log(x) : x;
-        return acumulada((v - parametros.posicion) / parametros.escala);
+        return (v - parametros.posicion) / parametros.escala;
     }
+    /// Non-exceedance probability of x; errors as above.
+    Double Probabilidad(PosicionEscala parametros, Double x) const { return acumulada(Reducida(parametros, x)); }
     /// The x of a non-exceedance probability, 0 < p < 1; the errors of `cuantil` outside it.
     Double Cuantil(PosicionEscala parametros, Double p) const {
         const Double v = parametros.posicion + parametros.escala * cuantil(p);
