@@ -357,7 +357,7 @@ Disposicion MarcoAjuste::Contenido() {
     if (tipo) {
         opciones.push_back(Grupo(tipo->marco, {tipo->optOrdinario, tipo->optMomentoLi}));
     }
-    opciones.push_back(Grupo(fraNivel, {Fila({opt020, opt010, opt005, opt001, Espacio()})}));
+    opciones.push_back(Grupo(fraNivel, {Pares(2, {opt020, opt010, opt005, opt001})}));
     Disposicion prueba = Columna({Fila(std::move(opciones)), Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
     Disposicion evaluacion = Columna({ZonaParametros(), ZonaDiseno(), Fila({lblEjeY, Espacio()}),
                                       Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}), Espacio(0)});
