@@ -20,11 +20,13 @@ frmDisLogNormal3::frmDisLogNormal3(Aplicacion& app)
     DeclararParametros({&txtxo, &txtux, &txtsx});
 }
 
-bool frmDisLogNormal3::AdmiteSerie() {
-    if (n >= 1 && xo(1) <= 0) {
-        App().MsgBox("Verificar que los datos sean positivos y mayor que 0 ¡ Corregir datos!", kIconoInformacion,
-                     "Mensaje de Error");
-        return false;
+bool frmDisLogNormal3::AdmiteDatos() {
+    for (int i = 1; i <= n; ++i) {
+        if (x(i) <= 0) {
+            App().MsgBox("Verificar que los datos sean positivos y mayor que 0 ¡ Corregir datos!", kIconoInformacion,
+                         "Mensaje de Error");
+            return false;
+        }
     }
     return true;
 }

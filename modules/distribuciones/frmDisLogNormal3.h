@@ -21,7 +21,7 @@ class frmDisLogNormal3 : public MarcoAjuste {
     void ReporteDistriLogNormal3(Reporte& reporte) { ReportarAjuste(reporte); }
 
   protected:
-    bool AdmiteSerie() override;
+    bool AdmiteDatos() override;
     void Ajustar() override;
     Double Cuantil(Double p) override { return distribucion.Cuantil(p); }
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;

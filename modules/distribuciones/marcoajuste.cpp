@@ -115,6 +115,9 @@ void MarcoAjuste::AlFallar() { App().MsgBox("Ingresar datos adecuadamente ", kIc
 
 void MarcoAjuste::Calcular() {
     CargarMatrices();
+    if (!AdmiteDatos()) {
+        return;
+    }
     for (int i = 1; i <= n; ++i) {
         xo(i) = x(i);
     }

@@ -116,7 +116,9 @@ class MarcoAjuste : public ModuloCalculo {
     /// Whether the ordinary moments are chosen.
     bool Ordinario() const { return !tipo || tipo->optOrdinario.Value; }
 
-    /// Whether the series can be fitted at all; says why not. x and xo hold it.
+    /// Whether the values in x can be fitted at all; says why not.
+    virtual bool AdmiteDatos() { return true; }
+    /// The same once xo has them in order.
     virtual bool AdmiteSerie() { return true; }
     /// Parameters, reduced variables and theoretical probabilities of xo(1) to xo(n); errors end the calculation.
     virtual void Ajustar() = 0;
