@@ -1,5 +1,7 @@
 #include "modules/distribuciones/gamma.h"
 
+#include <vector>
+
 namespace cuencalia {
 
 namespace {
@@ -12,6 +14,48 @@ Double Paso(Double p) {
         return 0.1;
     }
     return p < 0.995 ? 0.01 : 0.002;
+}
+
+/// The fourth roots of a, a(a+1), a(a+1)(a+2) …: they depend on the shape alone and are worked out once for all the x
+/// that a search or a series of values needs.
+class RaicesFactoriales {
+  public:
+    explicit RaicesFactoriales(Double a) : a_(a) { raices_.reserve(128); }
+
+    /// The root of the product of k factors, k not more than one beyond the last.
+    Double operator()(std::size_t k) {
+        if (k > raices_.size()) {
+            d_ *= a_ + (k - 1);
+            raices_.push_back(Elevar(d_, 0.25));
+        }
+        return raices_[k - 1];
+    }
+
+  private:
+    Double a_, d_ = 1;
+    std::vector<Double> raices_;
+};
+
+Double SumarSerie(Double a, RaicesFactoriales& raices, Double x) {
+    Double e_menos_x;
+    Double s;
+    Double cociente;
+    std::size_t k = 0;
+    do {
+        ++k;
+        // The term x^(a+k-1) e^-x / (a (a+1) … (a+k-1)) by third powers and fourth roots: neither the power nor the
+        // product overflows on the way.
+        const Double raiz = raices(k);
+        const Double u = Elevar(x, (a + (k - 1)) / 3) / raiz;
+        if (k == 1) {
+            e_menos_x = Exp(-x);  // Behind the power, which is what fails of a negative x.
+        }
+        const Double v = e_menos_x / raiz;
+        const Double termino = u * (u * (v * u));
+        s += termino;
+        cociente = termino / s;
+    } while (cociente >= 0.0000001);
+    return s;
 }
 
 }  // namespace
@@ -34,24 +78,8 @@ void gammacompleta(Double& x, Double& g) {
 }
 
 void gammaacumulada(Double a, Double x, Double& r, Double g) {
-    const Double e_menos_x = Exp(-x);
-    Double s = 0;
-    Double d = 1;
-    Double cociente;
-    int k = 0;
-    do {
-        ++k;
-        // The term x^(a+k-1) e^-x / (a (a+1) … (a+k-1)) by third powers and fourth roots: neither the power nor the
-        // product overflows on the way.
-        d *= a + (k - 1);
-        const Double raiz = Elevar(d, 0.25);
-        const Double u = Elevar(x, (a + (k - 1)) / 3) / raiz;
-        const Double v = e_menos_x / raiz;
-        const Double termino = u * (u * (v * u));
-        s += termino;
-        cociente = termino / s;
-    } while (cociente >= 0.0000001);
-    r = s / g;
+    RaicesFactoriales raices(a);
+    r = SumarSerie(a, raices, x) / g;
 }
 
 void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n) {
@@ -59,8 +87,9 @@ void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n) {
     r = 0.5;
     Double g;
     gammacompleta(a, g);
+    RaicesFactoriales raices(a);
     for (n = 1; n <= kRondas; ++n) {
-        gammaacumulada(a, x, r, g);
+        r = SumarSerie(a, raices, x) / g;
         if (p < 0.8) {
             x *= Elevar(p / r, Double(1) / 3);
         } else {
@@ -88,8 +117,9 @@ Double CuantilGamma(Double a, Double p, int& n) {
 void ProbabilidadesGamma(Double a, const ArregloBase<Double>& y, ArregloBase<Double>& G, int n) {
     Double g;
     gammacompleta(a, g);
+    RaicesFactoriales raices(a);
     for (int i = 1; i <= n; ++i) {
-        gammaacumulada(a, y(i), G(i), g);
+        G(i) = SumarSerie(a, raices, y(i)) / g;
     }
 }
 

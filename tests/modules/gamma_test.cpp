@@ -113,6 +113,7 @@ TEST(GammaAcumulada, SerieHastaSuReglaDeParada) {
 
 TEST(GammaAcumulada, ErroresDeEjecucion) {
     EXPECT_EQ(NumeroDeError([] { return Acumulada(2, 0); }), kDesbordamiento) << "0 / 0 of the first term";
+    EXPECT_EQ(NumeroDeError([] { return Acumulada(0.5, -800); }), kArgumentoNoValido) << "the power, not e^800";
     EXPECT_EQ(NumeroDeError([] { return Acumulada(160, 1e-3); }), kDesbordamiento) << "x^160 is 0 in a Double";
     for (const double a : {0.5, 1.0, 3.0}) {  // 3: the first power, (-1)^1, is real; the second is not
         EXPECT_EQ(NumeroDeError([&] { return Acumulada(a, -1); }), kArgumentoNoValido) << a;
