@@ -20,8 +20,9 @@ struct LogNormal3 {
 /// Fits x(1) to x(n), in ascending order, by the quantile method: x0 makes the logarithms of least value, median and
 /// greatest value equally spaced; uy and sy are the mean and the deviation, of divisor n, of the logarithms of |x -
 /// x0|. Where the sum of the extremes is less than twice the median, x0 lies above the sample, whose probabilities then
-/// do not exist. Error 11 or 6 for a sample whose median is half-way between its extremes. Source of x0: Stedinger, J.
-/// R. (1980), Fitting log normal distributions to hydrologic data, Water Resources Research 16(3), 481-490.
+/// do not exist. Error 11 or 6 for a sample whose median is half-way between its extremes.
+/// Source of x0: Stedinger, J. R. (1980), Fitting log normal distributions to hydrologic data, Water Resources Research
+/// 16(3), 481-490.
 LogNormal3 AjustarLogNormal3(const ArregloBase<Double>& ordenada, int n);
 
 }  // namespace cuencalia

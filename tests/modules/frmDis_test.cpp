@@ -18,8 +18,6 @@ constexpr const char* kGamma3 = "frmDisGamma3par";
 constexpr const char* kLogPearson3 = "frmDisLogPearson3";
 constexpr const char* kGumbel = "frmDisGumbel";
 constexpr const char* kLogGumbel = "frmDisLogGumbel";
-const std::vector<std::string> kTodas{kNormal, kLogNormal2,  kLogNormal3, kGamma2,
-                                      kGamma3, kLogPearson3, kGumbel,     kLogGumbel};
 
 constexpr const char* kInadecuados = "Ingresar datos adecuadamente ";
 constexpr const char* kInadecuadosLogPearson =
