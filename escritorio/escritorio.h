@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "frame/aplicacion.h"
-#include "frame/plataforma.h"
+#include "frame/controles/aplicacion.h"
+#include "frame/controles/plataforma.h"
 #include "hojas/libros.h"
 
 namespace cuencalia {

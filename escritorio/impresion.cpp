@@ -18,8 +18,8 @@
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vistatextorico.h"
-#include "frame/rtf.h"
-#include "frame/textorico.h"
+#include "frame/reportes/rtf.h"
+#include "frame/reportes/textorico.h"
 
 namespace cuencalia {
 

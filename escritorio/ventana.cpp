@@ -16,7 +16,7 @@
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
 #include "escritorio/vistas.h"
-#include "frame/flexgrid.h"
+#include "frame/controles/flexgrid.h"
 
 namespace cuencalia {
 

@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <vector>
 
-#include "frame/formulario.h"
+#include "frame/controles/formulario.h"
 
 class QAction;
 class QBoxLayout;

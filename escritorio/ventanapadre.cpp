@@ -16,7 +16,7 @@
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vista.h"
-#include "frame/aplicacion.h"
+#include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 

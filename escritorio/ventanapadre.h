@@ -1,7 +1,7 @@
 #pragma once
 
 #include "escritorio/ventana.h"
-#include "frame/frmPadre.h"
+#include "frame/reportes/frmPadre.h"
 
 class QMdiArea;
 class QMdiSubWindow;

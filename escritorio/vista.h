@@ -4,7 +4,7 @@
 #include <QString>
 #include <string>
 
-#include "frame/control.h"
+#include "frame/controles/control.h"
 
 class QKeyEvent;
 class QWidget;

@@ -3,7 +3,7 @@
 #include <QString>
 
 #include "escritorio/vista.h"
-#include "frame/grafico.h"
+#include "frame/reportes/grafico.h"
 
 class QAction;
 

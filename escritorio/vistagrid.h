@@ -5,7 +5,7 @@
 #include <QTableView>
 
 #include "escritorio/vista.h"
-#include "frame/flexgrid.h"
+#include "frame/controles/flexgrid.h"
 
 class QLabel;
 

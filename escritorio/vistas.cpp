@@ -19,8 +19,8 @@
 #include "escritorio/vistagrafico.h"
 #include "escritorio/vistagrid.h"
 #include "escritorio/vistatextorico.h"
-#include "frame/controles.h"
-#include "frame/flexgrid.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/flexgrid.h"
 
 namespace cuencalia {
 

@@ -10,7 +10,7 @@
 #include <cmath>
 
 #include "escritorio/escritorio.h"
-#include "frame/rtf.h"
+#include "frame/reportes/rtf.h"
 
 namespace cuencalia {
 

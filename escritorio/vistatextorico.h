@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "escritorio/vista.h"
-#include "frame/richtextbox.h"
+#include "frame/reportes/richtextbox.h"
 
 namespace cuencalia {
 

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "frame/hojas.h"
+#include "frame/base/hojas.h"
 
 namespace cuencalia {
 

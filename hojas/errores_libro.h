@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/hojas.h"
+#include "frame/base/hojas.h"
 
 namespace cuencalia {
 

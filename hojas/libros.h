@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "frame/hojas.h"
+#include "frame/base/hojas.h"
 
 namespace cuencalia {
 

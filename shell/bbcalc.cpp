@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/aplicacion.h"
-#include "frame/textos.h"
+#include "frame/controles/aplicacion.h"
+#include "frame/base/textos.h"
 
 namespace cuencalia {
 

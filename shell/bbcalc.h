@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "frame/controles.h"
-#include "frame/numeros.h"
+#include "frame/controles/controles.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 

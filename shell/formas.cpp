@@ -1,6 +1,6 @@
 #include "shell/formas.h"
 
-#include "frame/frmPadre.h"
+#include "frame/reportes/frmPadre.h"
 #include "modules/distribuciones/frmDisGamma2par.h"
 #include "modules/distribuciones/frmDisGamma3par.h"
 #include "modules/distribuciones/frmDisGumbel.h"

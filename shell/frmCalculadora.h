@@ -3,7 +3,7 @@
 #include <deque>
 #include <vector>
 
-#include "frame/aplicacion.h"
+#include "frame/controles/aplicacion.h"
 #include "shell/bbcalc.h"
 
 namespace cuencalia {

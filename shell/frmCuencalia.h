@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "frame/aplicacion.h"
+#include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 

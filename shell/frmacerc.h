@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/aplicacion.h"
+#include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/numeros.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 

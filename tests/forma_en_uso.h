@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "frame/flexgrid.h"
-#include "frame/modulo.h"
+#include "frame/controles/flexgrid.h"
+#include "frame/modulo/modulo.h"
 #include "shell/formas.h"
-#include "tests/guion/plataformaguion.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia::pruebas {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/errores.h"
+#include "frame/base/errores.h"
 
 namespace cuencalia {
 

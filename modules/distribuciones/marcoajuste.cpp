@@ -1,6 +1,6 @@
 #include "modules/distribuciones/marcoajuste.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "modules/estadistica/orden.h"
 #include "modules/estadistica/tablaparametros.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/grafico.h"
-#include "frame/modulo.h"
+#include "frame/reportes/grafico.h"
+#include "frame/modulo/modulo.h"
 #include "modules/distribuciones/smirnovkolmogorov.h"
 
 namespace cuencalia {

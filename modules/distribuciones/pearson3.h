@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "frame/numeros.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/numeros.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 

@@ -1,6 +1,6 @@
 #include "modules/estadistica/frmDistriFre.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/grafico.h"
+#include "frame/reportes/grafico.h"
 #include "modules/estadistica/clases.h"
 #include "modules/estadistica/moduloserie.h"
 

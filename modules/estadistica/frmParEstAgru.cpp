@@ -1,6 +1,6 @@
 #include "modules/estadistica/frmParEstAgru.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "modules/estadistica/momentos.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"

@@ -1,6 +1,6 @@
 #include "modules/estadistica/frmParamEsta.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "modules/estadistica/momentos.h"
 #include "modules/estadistica/reporteestadistica.h"
 #include "modules/estadistica/tablaparametros.h"

@@ -1,6 +1,6 @@
 #include "modules/estadistica/listaordenada.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 
 namespace cuencalia {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/controles.h"
-#include "frame/disposicion.h"
-#include "frame/flexgrid.h"
-#include "frame/numeros.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/disposicion.h"
+#include "frame/controles/flexgrid.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "frame/modulo.h"
+#include "frame/modulo/modulo.h"
 #include "modules/estadistica/listaordenada.h"
 
 namespace cuencalia {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/reporte.h"
+#include "frame/reportes/reporte.h"
 
 namespace cuencalia {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/flexgrid.h"
+#include "frame/controles/flexgrid.h"
 
 namespace cuencalia {
 

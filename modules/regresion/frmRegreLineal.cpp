@@ -1,6 +1,6 @@
 #include "modules/regresion/frmRegreLineal.h"
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "modules/regresion/regresionlineal.h"
 
 namespace cuencalia {

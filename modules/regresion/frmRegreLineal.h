@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/grafico.h"
-#include "frame/modulo.h"
+#include "frame/reportes/grafico.h"
+#include "frame/modulo/modulo.h"
 
 namespace cuencalia {
 

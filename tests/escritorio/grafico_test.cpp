@@ -1,4 +1,4 @@
-#include "frame/grafico.h"
+#include "frame/reportes/grafico.h"
 
 #include <qcustomplot.h>
 

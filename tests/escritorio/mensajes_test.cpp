@@ -5,7 +5,7 @@
 #include <QTest>
 #include <functional>
 
-#include "frame/flexgrid.h"
+#include "frame/controles/flexgrid.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {

@@ -1,4 +1,4 @@
-#include "frame/reporte.h"
+#include "frame/reportes/reporte.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -21,8 +21,8 @@
 #include "escritorio/impresion.h"
 #include "escritorio/ventanapadre.h"
 #include "escritorio/vistatextorico.h"
-#include "frame/frmPadre.h"
-#include "frame/rtf.h"
+#include "frame/reportes/frmPadre.h"
+#include "frame/reportes/rtf.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {

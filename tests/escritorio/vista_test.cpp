@@ -10,8 +10,8 @@
 #include <cmath>
 
 #include "escritorio/estilo.h"
-#include "frame/controles.h"
-#include "frame/flexgrid.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/flexgrid.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {

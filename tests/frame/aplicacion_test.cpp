@@ -1,12 +1,12 @@
-#include "frame/aplicacion.h"
+#include "frame/controles/aplicacion.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <new>
 
-#include "frame/textos.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/base/textos.h"
+#include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {
@@ -67,7 +67,7 @@ class AplicacionTest : public testing::Test {
     FormaPrueba& Una() { return dynamic_cast<FormaPrueba&>(*app.Cargada("frmUna")); }
     FormaPrueba& Dos() { return dynamic_cast<FormaPrueba&>(*app.Cargada("frmDos")); }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Registro registro;
     Aplicacion app{sistema, Formas()};
 };

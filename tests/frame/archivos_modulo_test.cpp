@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "tests/archivos_en_disco.h"
 #include "tests/forma_en_uso.h"
 
@@ -16,7 +16,7 @@ using pruebas::Textos;
 using namespace std::string_literals;
 
 /// File dialogs whose Cancel is an error, where a test asks for it.
-struct PlataformaConCancel : pruebas::PlataformaGuion {
+struct PlataformaConCancel : PlataformaGuion {
     bool cancelEsError = false;
     int errorDelDialogo = kDialogoCancelado;
 

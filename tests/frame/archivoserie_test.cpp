@@ -1,4 +1,4 @@
-#include "frame/archivoserie.h"
+#include "frame/base/archivoserie.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

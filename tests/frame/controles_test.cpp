@@ -1,9 +1,9 @@
-#include "frame/controles.h"
+#include "frame/controles/controles.h"
 
 #include <gtest/gtest.h>
 
-#include "frame/aplicacion.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/controles/aplicacion.h"
+#include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {
@@ -59,7 +59,7 @@ class ControlesTest : public testing::Test {
     }
     void Retroceso() { app.PulsarTecla(kTeclaRetroceso, kTeclaRetroceso); }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, {{"frmControles", [](Aplicacion& a) { return std::make_unique<FormaControles>(a); }}}};
 };
 

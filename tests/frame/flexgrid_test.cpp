@@ -1,11 +1,11 @@
-#include "frame/flexgrid.h"
+#include "frame/controles/flexgrid.h"
 
 #include <gtest/gtest.h>
 
 #include <utility>
 
-#include "frame/aplicacion.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/controles/aplicacion.h"
+#include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {
@@ -63,7 +63,7 @@ class FlexGridTest : public testing::Test {
         return textos;
     }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, {{"frmGrid", [](Aplicacion& a) { return std::make_unique<FormaGrid>(a); }}}};
     FlexGrid& g;
     Registro registro;

@@ -1,4 +1,4 @@
-#include "frame/frmPadre.h"
+#include "frame/reportes/frmPadre.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -6,9 +6,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "frame/reporte.h"
-#include "frame/rtf.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/reportes/reporte.h"
+#include "frame/reportes/rtf.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 using Textos = std::vector<std::string>;
 
 /// Writes down what the printer and the file dialogs were asked besides.
-class Sistema : public pruebas::PlataformaGuion {
+class Sistema : public PlataformaGuion {
   public:
     void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override {
         if (sinImpresora) {

@@ -1,9 +1,9 @@
-#include "frame/grafico.h"
+#include "frame/reportes/grafico.h"
 
 #include <gtest/gtest.h>
 
-#include "frame/aplicacion.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/controles/aplicacion.h"
+#include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {
@@ -32,7 +32,7 @@ class GraficoTest : public testing::Test {
     const Valores& X(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).x; }
     const Valores& Y(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).y; }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, {}};
     FormaConGrafico forma{app};
     GraficoModulo& G = forma.Graph1;

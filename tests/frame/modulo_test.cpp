@@ -1,11 +1,11 @@
-#include "frame/modulo.h"
+#include "frame/modulo/modulo.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "frame/textos.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/base/textos.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -124,7 +124,7 @@ class ModuloTest : public testing::Test {
     }
     std::string Cursor() { return std::to_string(G().Row()) + "," + std::to_string(G().Col()); }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, Formas()};
     std::string forma;
 };

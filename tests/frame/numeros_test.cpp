@@ -1,4 +1,4 @@
-#include "frame/numeros.h"
+#include "frame/base/numeros.h"
 
 #include <gtest/gtest.h>
 

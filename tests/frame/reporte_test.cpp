@@ -1,10 +1,10 @@
-#include "frame/reporte.h"
+#include "frame/reportes/reporte.h"
 
 #include <gtest/gtest.h>
 
-#include "frame/frmPadre.h"
-#include "frame/modulo.h"
-#include "tests/guion/plataformaguion.h"
+#include "frame/reportes/frmPadre.h"
+#include "frame/modulo/modulo.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -77,7 +77,7 @@ class ReporteTest : public testing::Test {
         sistema.mensajes.clear();
     }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{
         sistema,
         {{"frmCuencalia", Hacer<MenuPrueba>}, {"frmPadre", Hacer<frmPadre>}, {"frmUna", Hacer<ModuloConReporte>}}};

@@ -1,4 +1,4 @@
-#include "frame/rtf.h"
+#include "frame/reportes/rtf.h"
 
 #include <gtest/gtest.h>
 #include <iconv.h>
@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/utf8.h"
+#include "frame/base/utf8.h"
 
 namespace cuencalia {
 namespace {

@@ -1,4 +1,4 @@
-#include "frame/textorico.h"
+#include "frame/reportes/textorico.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -15,9 +15,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/errores.h"
-#include "frame/rtf.h"
-#include "frame/utf8.h"
+#include "frame/base/errores.h"
+#include "frame/reportes/rtf.h"
+#include "frame/base/utf8.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {

@@ -1,4 +1,4 @@
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 
 #include <gtest/gtest.h>
 

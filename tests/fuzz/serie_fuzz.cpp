@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "frame/archivoserie.h"
-#include "frame/textos.h"
+#include "frame/base/archivoserie.h"
+#include "frame/base/textos.h"
 
 using namespace cuencalia;
 

@@ -1,4 +1,4 @@
-#include "tests/guion/guion.h"
+#include "guion/guion.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "frame/modulo.h"
+#include "frame/modulo/modulo.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {

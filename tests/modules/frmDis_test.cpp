@@ -490,7 +490,7 @@ class AjusteAlLimite : public MarcoAjuste {
 };
 
 TEST(LimiteDelAjuste, IgualdadNoSeAjusta) {
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, {{"frmLimite", [](Aplicacion& a) -> std::unique_ptr<Formulario> {
                                   return std::make_unique<AjusteAlLimite>(a);
                               }}}};

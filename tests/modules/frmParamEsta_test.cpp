@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "shell/formas.h"
 #include "tests/datos_publicados.h"
-#include "tests/guion/plataformaguion.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -57,7 +57,7 @@ class ParamEstaTest : public testing::Test {
     Tabla Parametros() { return Filas(F().grdParam); }
     Textos L() { return {F().txtL1.Text, F().txtL2.Text, F().txtL3.Text, F().txtL4.Text}; }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app{sistema, FormasDelPrograma()};
 };
 

@@ -2,7 +2,7 @@
 
 #include <tuple>
 
-#include "frame/frmPadre.h"
+#include "frame/reportes/frmPadre.h"
 #include "tests/forma_en_uso.h"
 
 namespace cuencalia {

@@ -2,10 +2,10 @@
 
 #include <sstream>
 
-#include "frame/textos.h"
+#include "frame/base/textos.h"
 #include "shell/formas.h"
 #include "shell/frmCalculadora.h"
-#include "tests/guion/plataformaguion.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -90,7 +90,7 @@ class CalculadoraTest : public testing::Test {
         EXPECT_TRUE(sistema.errores.empty()) << que;
     }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app;
 };
 

@@ -6,7 +6,7 @@
 
 #include "shell/formas.h"
 #include "shell/frmacerc.h"
-#include "tests/guion/plataformaguion.h"
+#include "guion/plataformaguion.h"
 
 namespace cuencalia {
 namespace {
@@ -115,7 +115,7 @@ class CuencaliaTest : public testing::Test {
         app.Despachar([&] { EntradaDe(nombre).Elegir(); });
     }
 
-    pruebas::PlataformaGuion sistema;
+    PlataformaGuion sistema;
     Aplicacion app;
 };
 

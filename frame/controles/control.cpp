@@ -1,0 +1,43 @@
+#include "frame/controles/control.h"
+
+#include "frame/controles/aplicacion.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/formulario.h"
+
+namespace cuencalia {
+
+Control::Control(Formulario& forma, std::string nombre) : forma_(&forma), nombre_(std::move(nombre)) {
+    forma_->Registrar(*this);
+}
+
+Control::~Control() = default;
+
+Aplicacion& Control::App() const { return forma_->App(); }
+
+void Control::SetFocus() {
+    if (!PuedeRecibirFoco()) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    App().PedirFoco(*this);
+}
+
+bool Control::TieneFoco() const { return App().Foco() == this; }
+
+bool Control::EsVisible() const { return Visible && (contenedor_ == nullptr || contenedor_->EsVisible()); }
+
+bool Control::EsHabilitado() const { return Enabled && (contenedor_ == nullptr || contenedor_->EsHabilitado()); }
+
+void Control::TeclaPorDefecto(int, int) {}
+
+void Control::PonerEn(Control* contenedor, int pagina) {
+    contenedor_ = contenedor;
+    pagina_ = pagina;
+}
+
+void Control::Notificar() const {
+    if (vista_ != nullptr) {
+        vista_->ModeloCambio();
+    }
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "frame/base/evento.h"
+
+namespace cuencalia {
+
+class Aplicacion;
+class Control;
+class Formulario;
+
+/// What shows a control on a screen. It is told that something of its control changed, not what: it reads the control
+/// anew when it next paints.
+class VistaControl {
+  public:
+    virtual ~VistaControl() = default;
+    virtual void ModeloCambio() = 0;
+};
+
+/// A value of a control. Assigning a different value tells the control's view and runs the hook, if there is one.
+template <typename T>
+class Propiedad {
+  public:
+    explicit Propiedad(Control& dueno, T inicial = T{}, std::function<void()> alCambiar = {})
+        : dueno_(dueno), valor_(std::move(inicial)), alCambiar_(std::move(alCambiar)) {}
+    Propiedad(const Propiedad&) = delete;
+    Propiedad& operator=(const Propiedad&) = delete;
+
+    operator const T&() const { return valor_; }
+    const T& operator()() const { return valor_; }
+    Propiedad& operator=(T nuevo);
+
+  private:
+    Control& dueno_;
+    T valor_;
+    std::function<void()> alCambiar_;
+};
+
+/// Codes of the keys that a KeyDown handler is told.
+enum CodigoTecla : int {
+    kTeclaRetroceso = 8,
+    kTeclaTab = 9,
+    kTeclaEnter = 13,
+    kTeclaEscape = 27,
+    kTeclaEspacio = 32,
+    kTeclaRePag = 33,
+    kTeclaAvPag = 34,
+    kTeclaFin = 35,
+    kTeclaInicio = 36,
+    kTeclaIzquierda = 37,
+    kTeclaArriba = 38,
+    kTeclaDerecha = 39,
+    kTeclaAbajo = 40,
+    kTeclaSuprimir = 46,
+    kTeclaF1 = 112,
+    kTeclaF2 = 113,
+};
+
+/// Buttons of the mouse as MouseDown tells them.
+enum BotonRaton : int { kBotonIzquierdo = 1, kBotonDerecho = 2 };
+
+/// A visible element of a form: its state and its events, with no screen. A control is a member of its form and is
+/// reached by its name.
+class Control {
+  public:
+    Control(Formulario& forma, std::string nombre);
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Nombre() const { return nombre_; }
+    Formulario& Forma() const { return *forma_; }
+    Aplicacion& App() const;
+
+    Propiedad<bool> Visible{*this, true};
+    Propiedad<bool> Enabled{*this, true};
+    Propiedad<std::string> ToolTipText{*this};
+    /// What a screen reader calls the control where its own texts do not say it.
+    Propiedad<std::string> NombreAccesible{*this};
+    /// A text that the form keeps with the control; nothing shows it.
+    Propiedad<std::string> Tag{*this};
+
+    Evento<> Click;
+    Evento<> GotFocus;
+    Evento<> LostFocus;
+    Evento<int> KeyDown;    ///< CodigoTecla.
+    Evento<int&> KeyPress;  ///< Code of the character; a handler sets it to 0 to drop it.
+    Evento<> MouseMove;
+    Evento<int> MouseDown;  ///< BotonRaton.
+
+    /// Asks for the focus; it arrives at the next DoEvents or when the handler ends. Error 5 when the control is
+    /// hidden or disabled.
+    void SetFocus();
+    bool TieneFoco() const;
+
+    /// Shown, and all that it stands in shown too.
+    bool EsVisible() const;
+    /// Enabled, and all that it stands in enabled too.
+    bool EsHabilitado() const;
+    /// Whether this kind of control takes the keyboard.
+    virtual bool AceptaFoco() const { return false; }
+    bool PuedeRecibirFoco() const { return AceptaFoco() && EsVisible() && EsHabilitado(); }
+
+    /// What the control itself does with a key that its handlers left alone: `caracter` is 0 for a key without one.
+    virtual void TeclaPorDefecto(int codigo, int caracter);
+
+    /// The frame or tab control in which it stands, or null; the layout of the form sets it.
+    Control* Contenedor() const { return contenedor_; }
+    /// Page of the tab control in which it stands (from 0), -1 elsewhere.
+    int Pagina() const { return pagina_; }
+    void PonerEn(Control* contenedor, int pagina = -1);
+
+    void PonerVista(VistaControl* vista) { vista_ = vista; }
+    VistaControl* Vista() const { return vista_; }
+    /// Tells the view that the control changed.
+    void Notificar() const;
+
+  protected:
+    /// For the form, which stands in nothing.
+    Control(Formulario* propia, std::string nombre) : forma_(propia), nombre_(std::move(nombre)) {}
+
+  private:
+    Formulario* forma_;
+    std::string nombre_;
+    Control* contenedor_ = nullptr;
+    int pagina_ = -1;
+    VistaControl* vista_ = nullptr;
+};
+
+template <typename T>
+Propiedad<T>& Propiedad<T>::operator=(T nuevo) {
+    if (nuevo == valor_) {
+        return *this;
+    }
+    valor_ = std::move(nuevo);
+    dueno_.Notificar();
+    if (alCambiar_) {
+        alCambiar_();
+    }
+    return *this;
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,222 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/controles/control.h"
+
+namespace cuencalia {
+
+class FlexGrid;
+
+/// A colour of the screen, 0 to 255 a channel.
+struct Color {
+    std::uint8_t rojo = 0, verde = 0, azul = 0;
+    bool operator==(const Color&) const = default;
+};
+
+/// A line of text that the user writes. Positions count characters, not bytes.
+class TextBox : public Control {
+  public:
+    TextBox(Formulario& forma, std::string nombre, std::string nombreAccesible = {});
+
+    Propiedad<std::string> Text{*this, {}, [this] { AlCambiarTexto(); }};
+    Propiedad<int> SelStart{*this};
+    Propiedad<int> SelLength{*this};
+    Propiedad<bool> Locked{*this};  ///< Shows a result: it can be selected and copied, not written.
+    Propiedad<std::string> FontName{*this, "Sans"};
+    Propiedad<double> FontSize{*this, 9.0};
+    /// Place in twips on the form, for a box that floats over another control.
+    Propiedad<int> Left{*this}, Top{*this}, Width{*this}, Height{*this};
+
+    Evento<> Change;
+
+    /// The grid over whose current cell the box floats, or null.
+    void FlotarSobre(FlexGrid& grid) { sobre_ = &grid; }
+    FlexGrid* Sobre() const { return sobre_; }
+
+    bool AceptaFoco() const override { return true; }
+    /// Writes the character at the insertion point in place of the selection; Backspace, Delete and the arrows do as
+    /// expected.
+    void TeclaPorDefecto(int codigo, int caracter) override;
+    /// What the user wrote by means that no key shows (paste, an input method), with where the cursor stands now.
+    void EscritoPorUsuario(const std::string& texto, int selStart, int selLength);
+    void Seleccionar(int inicio, int longitud);
+
+  private:
+    void AlCambiarTexto();
+    void Reemplazar(int inicio, int cuantos, const std::string& nuevo);
+    void Borrar(int desplazamiento);
+
+    struct Marca {
+        int inicio, longitud;
+    };
+
+    FlexGrid* sobre_ = nullptr;
+    /// Where the cursor is to stand when Change fires for what the user wrote.
+    std::optional<Marca> trasEscribir_;
+};
+
+/// What a label is there for; the screen chooses its looks by it.
+enum class Papel {
+    Texto,
+    Encabezado,  ///< Heads a part of the window.
+    Nota,        ///< Explains; may take several lines.
+    Titulo,      ///< The program's name over its picture.
+    Lema,        ///< What stands below it.
+    Pantalla,    ///< The number on a calculator's display, at its right edge.
+    Resultado,   ///< A result told in words; may take several lines.
+};
+
+/// A text that names or tells something.
+class Label : public Control {
+  public:
+    Label(Formulario& forma, std::string nombre, std::string caption = {}, Papel papel = Papel::Texto);
+
+    Papel SuPapel() const { return papel_; }
+
+    Propiedad<std::string> Caption{*this};
+    /// The control that the label names: its access key goes there.
+    void Nombra(Control& control) { nombrado_ = &control; }
+    Control* Nombrado() const { return nombrado_; }
+
+  private:
+    Papel papel_;
+    Control* nombrado_ = nullptr;
+};
+
+class CommandButton : public Control {
+  public:
+    CommandButton(Formulario& forma, std::string nombre, std::string caption, std::string toolTip = {});
+
+    Propiedad<std::string> Caption{*this};  ///< `&` marks the access key.
+    Propiedad<std::string> Picture{*this};  ///< Name of a picture of an ImageList; empty for none.
+    Propiedad<Color> BackColor{*this};
+    Propiedad<bool> ConColor{*this};  ///< Whether BackColor is used in place of the look of the other buttons.
+
+    bool AceptaFoco() const override { return true; }
+    /// ENTER and the blank press it.
+    void TeclaPorDefecto(int codigo, int caracter) override;
+};
+
+/// One of several choices: turning it on turns off the others that stand in the same frame, and fires Click, also when
+/// code does it.
+class OptionButton : public Control {
+  public:
+    OptionButton(Formulario& forma, std::string nombre, std::string caption, bool encendida = false);
+
+    Propiedad<std::string> Caption{*this};
+    Propiedad<bool> Value;
+
+    bool AceptaFoco() const override { return true; }
+    void TeclaPorDefecto(int codigo, int caracter) override;
+
+  private:
+    void AlCambiarValor();
+};
+
+/// A list of entries with a text that may be none of them.
+class ComboBox : public Control {
+  public:
+    ComboBox(Formulario& forma, std::string nombre, std::vector<std::string> entradas = {},
+             std::string nombreAccesible = {});
+
+    Propiedad<std::string> Text{*this, {}, [this] { Change(); }};
+    Propiedad<std::vector<std::string>> List{*this};
+    Propiedad<bool> Editable{*this, true};
+
+    Evento<> Change;
+
+    /// Position of the entry that reads as Text does (from 0), or -1.
+    int ListIndex() const;
+    /// Picks an entry as the user would: sets Text and fires Click.
+    void Elegir(int indice);
+
+    bool AceptaFoco() const override { return true; }
+    void TeclaPorDefecto(int codigo, int caracter) override;
+};
+
+/// A titled group of controls.
+class Frame : public Control {
+  public:
+    Frame(Formulario& forma, std::string nombre, std::string caption = {});
+
+    Propiedad<std::string> Caption{*this};
+};
+
+/// Pages with a tab each.
+class SSTab : public Control {
+  public:
+    SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos);
+
+    const std::vector<std::string>& Titulos() const { return titulos_; }
+    Propiedad<int> Tab{*this, 0, [this] { Click(); }};  ///< The page in front, from 0.
+
+    bool AceptaFoco() const override { return true; }
+    void TeclaPorDefecto(int codigo, int caracter) override;
+
+  private:
+    std::vector<std::string> titulos_;
+};
+
+/// The line at the foot of a window, in panels.
+class StatusBar : public Control {
+  public:
+    StatusBar(Formulario& forma, std::string nombre, int paneles = 1);
+
+    const std::string& Panel(int numero) const;  ///< From 1. Error 9 for a panel that is not there.
+    void PonerPanel(int numero, const std::string& texto);
+    int Paneles() const { return static_cast<int>(textos_.size()); }
+
+  private:
+    std::vector<std::string> textos_;
+};
+
+/// The names of the pictures that a form's buttons show, numbered from 1: the picture at rest at an odd number, the lit
+/// one at the next even number.
+class ImageList : public Control {
+  public:
+    ImageList(Formulario& forma, std::string nombre);
+
+    /// Adds the pair of a button's pictures and returns the number of the one at rest.
+    int AgregarPar(const std::string& imagen);
+    const std::string& Imagen(int numero) const;  ///< Error 9 for a number that is not there.
+
+  private:
+    std::vector<std::string> imagenes_;
+};
+
+class PictureBox : public Control {
+  public:
+    /// A picture among the other controls, or the background of the whole window when `deFondo`.
+    PictureBox(Formulario& forma, std::string nombre, std::string imagen = {}, bool deFondo = false);
+
+    bool EsFondo() const { return deFondo_; }
+
+    Propiedad<std::string> Picture{*this};
+
+  private:
+    bool deFondo_;
+};
+
+/// An entry of a menu, or a whole menu when it has entries of its own. The caption "-" is a separator.
+class Menu : public Control {
+  public:
+    /// A menu of the menu bar, or one that pops up when `enBarra` is false.
+    Menu(Formulario& forma, std::string nombre, std::string caption, bool enBarra = true);
+    /// An entry of `padre`.
+    Menu(Menu& padre, std::string nombre, std::string caption);
+
+    Propiedad<std::string> Caption{*this};
+    const std::vector<Menu*>& Entradas() const { return entradas_; }
+    bool EsSeparador() const { return Caption() == "-"; }
+    /// Fires Click unless the entry is greyed; says whether it did.
+    bool Elegir();
+
+  private:
+    std::vector<Menu*> entradas_;
+};
+
+}  // namespace cuencalia

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "frame/controles/control.h"
+
+namespace cuencalia {
+
+/// Where the text of a column stands in its cells.
+enum AlineacionColumna : int { kAlinearIzquierda = 1, kAlinearCentro = 4, kAlinearDerecha = 7 };
+
+/// A grid of texts with fixed rows and columns at its edges and one current cell. Rows and columns are numbered from 0,
+/// lengths are twips (1/1440 inch). A row or column that is not there raises error 9.
+///
+/// Moving the current cell fires LeaveCell before and RowColChange after, also when code does it.
+class FlexGrid : public Control {
+  public:
+    FlexGrid(Formulario& forma, std::string nombre, std::string nombreAccesible = {});
+
+    Propiedad<int> BorderStyle{*this, 1};
+    Propiedad<int> HighLight{*this, 1};
+    Propiedad<int> Left{*this}, Top{*this}, Width{*this}, Height{*this};
+    Propiedad<std::string> FontName{*this, "Sans"};
+    Propiedad<double> FontSize{*this, 9.0};
+
+    Evento<> LeaveCell;
+    Evento<> RowColChange;
+    Evento<> Scroll;
+
+    int Rows() const { return filas_; }
+    int Cols() const { return columnas_; }
+    int FixedRows() const { return filasFijas_; }
+    int FixedCols() const { return columnasFijas_; }
+    /// New rows are empty; rows that go are forgotten. A current cell beyond the end moves to the last row or column.
+    void PonerRows(int filas);
+    void PonerCols(int columnas);
+    void PonerFixedRows(int filas);
+    void PonerFixedCols(int columnas);
+
+    int Row() const { return fila_; }
+    int Col() const { return columna_; }
+    int RowSel() const { return filaSel_; }
+    int ColSel() const { return columnaSel_; }
+    /// Moves the current cell; the selection shrinks to it.
+    void PonerRow(int fila);
+    void PonerCol(int columna);
+    void PonerCelda(int fila, int columna);
+    /// Extends the selection from the current cell to that one; a place beyond the grid means its last row or column.
+    void Seleccionar(int filaSel, int columnaSel);
+
+    /// First row shown below the fixed ones. Scroll fires when it changes.
+    int TopRow() const { return filaSuperior_; }
+    void PonerTopRow(int fila);
+    /// Rows of data that fit below the heading; the screen sets it.
+    int FilasVisibles() const { return filasVisibles_; }
+    void PonerFilasVisibles(int filas) { filasVisibles_ = filas < 1 ? 1 : filas; }
+
+    const std::string& TextMatrix(int fila, int columna) const;
+    void PonerTextMatrix(int fila, int columna, const std::string& texto);
+    const std::string& Text() const { return TextMatrix(fila_, columna_); }
+    void PonerText(const std::string& texto) { PonerTextMatrix(fila_, columna_, texto); }
+
+    int ColWidth(int columna) const;
+    void PonerColWidth(int columna, int twips);
+    int ColAlignment(int columna) const;
+    void PonerColAlignment(int columna, int alineacion);
+    int RowHeight(int fila) const;
+    void PonerRowHeight(int fila, int twips);
+
+    /// Place of the current cell in the grid.
+    int CellLeft() const;
+    int CellTop() const;
+    int CellWidth() const { return ColWidth(columna_); }
+    int CellHeight() const { return RowHeight(fila_); }
+
+    /// Empties every cell; the number of rows and columns stays.
+    void Clear();
+    /// Adds a last row with that text in its first column.
+    void AddItem(const std::string& texto);
+    void RemoveItem(int fila);
+
+    /// Writes the headings of row 0 from the first column on.
+    void PonerEncabezados(const std::vector<std::string>& encabezados);
+
+    bool AceptaFoco() const override { return true; }
+    /// Arrows, page keys, Home and End move the current cell.
+    void TeclaPorDefecto(int codigo, int caracter) override;
+    /// A press of a mouse button on a cell: the focus arrives first, then the cell becomes current, then MouseDown.
+    /// On a fixed column the row moves and the column stays; on a heading nothing moves.
+    void Presionar(BotonRaton boton, int fila, int columna);
+    /// The user scrolled: `fila` is now the first one shown.
+    void DesplazadoPorUsuario(int fila) { PonerTopRow(fila); }
+
+  private:
+    struct Columna {
+        int ancho = 960;
+        int alineacion = kAlinearIzquierda;
+    };
+
+    std::size_t Celda(int fila, int columna) const;
+    void ValidarFila(int fila) const;
+    void ValidarColumna(int columna) const;
+    void Mover(int fila, int columna);
+    /// The nearest place that a current cell can have.
+    void Recolocar();
+    void HacerVisible();
+
+    int filas_ = 2, columnas_ = 2, filasFijas_ = 1, columnasFijas_ = 1;
+    int fila_ = 1, columna_ = 1, filaSel_ = 1, columnaSel_ = 1, filaSuperior_ = 1, filasVisibles_ = 14;
+    std::vector<std::string> textos_;
+    std::vector<int> altos_;
+    std::vector<Columna> datosColumna_;
+};
+
+}  // namespace cuencalia

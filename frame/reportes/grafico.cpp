@@ -1,0 +1,122 @@
+#include "frame/reportes/grafico.h"
+
+namespace cuencalia {
+
+namespace {
+
+std::size_t S(int n) { return static_cast<std::size_t>(n); }
+
+}  // namespace
+
+GraficoModulo::GraficoModulo(Formulario& forma, std::string nombre, std::string nombreAccesible)
+    : Control(forma, std::move(nombre)) {
+    NombreAccesible = std::move(nombreAccesible);
+    Visible = false;
+    conjuntos_.resize(1);
+}
+
+void GraficoModulo::Vaciar() {
+    for (Conjunto& conjunto : conjuntos_) {
+        conjunto.leyenda.clear();
+        conjunto.x.assign(S(puntos_), std::nullopt);
+        conjunto.y.assign(S(puntos_), std::nullopt);
+    }
+    punto_ = conjunto_ = 1;
+    siguienteY_ = siguienteX_ = {};
+    Notificar();
+}
+
+void GraficoModulo::PonerNumPoints(int puntos) {
+    if (puntos < 1) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    puntos_ = puntos;
+    Vaciar();
+}
+
+void GraficoModulo::PonerNumSets(int conjuntos) {
+    if (conjuntos < 1) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    conjuntos_.assign(S(conjuntos), {});
+    Vaciar();
+}
+
+void GraficoModulo::PonerThisPoint(int punto) {
+    if (punto < 1 || punto > puntos_) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    punto_ = siguienteY_.punto = siguienteX_.punto = punto;
+}
+
+void GraficoModulo::PonerThisSet(int conjunto) {
+    if (conjunto < 1 || conjunto > NumSets()) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    conjunto_ = conjunto;
+    siguienteY_ = siguienteX_ = {conjunto, punto_};
+}
+
+void GraficoModulo::PonerLegendText(const std::string& texto) {
+    conjuntos_[S(conjunto_ - 1)].leyenda = texto;
+    Notificar();
+}
+
+void GraficoModulo::Escribir(std::vector<std::optional<Double>> Conjunto::*serie, Lugar& siguiente, Double valor) {
+    const Lugar lugar = AutoInc == 1 ? siguiente : Lugar{conjunto_, punto_};
+    if (lugar.conjunto > NumSets() || lugar.punto > puntos_) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    (conjuntos_[S(lugar.conjunto - 1)].*serie)[S(lugar.punto - 1)] = valor;
+    Notificar();
+    if (AutoInc != 1) {
+        return;
+    }
+    siguiente = lugar.punto < puntos_ ? Lugar{lugar.conjunto, lugar.punto + 1} : Lugar{lugar.conjunto + 1, 1};
+}
+
+void GraficoModulo::PonerGraphData(Double y) { Escribir(&Conjunto::y, siguienteY_, y); }
+
+void GraficoModulo::PonerXPosData(Double x) { Escribir(&Conjunto::x, siguienteX_, x); }
+
+void GraficoModulo::LimpiarGrafico() {
+    Background = 11;
+    BorderStyle = 0;
+    DrawMode = kBorrarGrafico;
+    Visible = false;
+}
+
+void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcion,
+                    const std::vector<SerieGrafico>& series) {
+    grafico.FontUse = 4;
+    grafico.GraphType = descripcion.tipo;
+    grafico.GraphStyle = descripcion.estilo;
+    grafico.Background = descripcion.fondo;
+    grafico.BorderStyle = 1;
+    if (descripcion.conTrama) {
+        grafico.PatternData = 2;
+    }
+    grafico.Visible = true;
+    grafico.BottomTitle = descripcion.titulo;
+    grafico.AutoInc = descripcion.autoInc;
+    const int puntos = static_cast<int>(series.at(0).y.size());
+    grafico.PonerNumPoints(puntos);
+    grafico.PonerNumSets(static_cast<int>(series.size()));
+    for (int c = 1; c <= grafico.NumSets(); ++c) {
+        grafico.PonerThisSet(c);
+        grafico.PonerLegendText(series[S(c - 1)].leyenda);
+    }
+    for (int c = 1; c <= grafico.NumSets(); ++c) {
+        const SerieGrafico& serie = series[S(c - 1)];
+        grafico.PonerThisSet(c);
+        for (int i = 1; i <= puntos; ++i) {
+            grafico.PonerThisPoint(i);
+            grafico.PonerGraphData(serie.y.at(S(i - 1)));
+            grafico.PonerThisPoint(i);
+            grafico.PonerXPosData(serie.x.at(S(i - 1)));
+        }
+    }
+    grafico.DrawMode = kDibujarGrafico;
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,471 @@
+#include "frame/reportes/textorico.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "frame/base/errores.h"
+#include "frame/reportes/rtf.h"
+#include "frame/base/utf8.h"
+
+namespace cuencalia {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Takes away and returns what follows the place.
+std::vector<Tramo> CortarDesde(Parrafo& parrafo, std::size_t tramo, std::size_t byte) {
+    std::vector<Tramo> cola;
+    if (tramo >= parrafo.tramos.size()) {
+        return cola;
+    }
+    Tramo& partido = parrafo.tramos[tramo];
+    if (byte < partido.texto.size()) {
+        cola.push_back({partido.texto.substr(byte), partido.formato});
+        partido.texto.resize(byte);
+    }
+    const auto siguiente = parrafo.tramos.begin() + static_cast<std::ptrdiff_t>(tramo + 1);
+    cola.insert(cola.end(), std::make_move_iterator(siguiente), std::make_move_iterator(parrafo.tramos.end()));
+    parrafo.tramos.erase(byte == 0 ? siguiente - 1 : siguiente, parrafo.tramos.end());
+    return cola;
+}
+
+std::string SoloLegible(std::string_view texto) {
+    std::string legible;
+    legible.reserve(texto.size());
+    for (std::size_t i = 0; i < texto.size();) {
+        const CaracterUtf8 c = LeerUtf8(texto, i);
+        if (c.codigo != 0) {
+            AgregarUtf8(legible, c.codigo);
+        }
+        i += c.bytes;
+    }
+    return legible;
+}
+
+bool EsLegible(std::string_view texto) { return texto.find('\0') == std::string_view::npos && EsUtf8(texto); }
+
+std::string LeerArchivo(const std::string& ruta) {
+    std::error_code error;
+    const fs::file_status estado = fs::status(ruta, error);
+    if (estado.type() == fs::file_type::not_found) {
+        throw ErrorEjecucion(kArchivoNoEncontrado);
+    }
+    if (!fs::is_regular_file(estado)) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    std::ifstream archivo(ruta, std::ios::binary);
+    std::string contenido;
+    std::array<char, 1 << 16> trozo;
+    while (archivo.read(trozo.data(), trozo.size()), archivo.gcount() > 0) {
+        contenido.append(trozo.data(), static_cast<std::size_t>(archivo.gcount()));
+    }
+    if (!archivo.eof()) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    return contenido;
+}
+
+[[noreturn]] void FallarEscritura(int error) {
+    switch (error) {
+        case ENOSPC:
+        case EFBIG:
+        case EDQUOT:
+            throw ErrorEjecucion(kDiscoLleno);
+        case ENOENT:
+        case ENOTDIR:
+            throw ErrorEjecucion(kRutaNoEncontrada);
+        default:
+            throw ErrorEjecucion(kAccesoRuta);
+    }
+}
+
+/// A new file in a folder, gone again unless it is moved to its place.
+class ArchivoNuevo {
+  public:
+    explicit ArchivoNuevo(const fs::path& carpeta) {
+        constexpr int kIntentos = 100;
+        for (int i = 0; i < kIntentos && archivo_ == nullptr; ++i) {
+            ruta_ = carpeta / (".reporte-" + std::to_string(i) + ".tmp");
+            archivo_ = std::fopen(ruta_.c_str(), "wbx");
+            if (archivo_ == nullptr && errno != EEXIST) {
+                break;
+            }
+        }
+        if (archivo_ == nullptr) {
+            FallarEscritura(errno);
+        }
+    }
+    ArchivoNuevo(const ArchivoNuevo&) = delete;
+    ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
+    ~ArchivoNuevo() {
+        if (archivo_ != nullptr) {
+            std::fclose(archivo_);
+        }
+        if (!movido_) {
+            std::error_code ignorado;
+            fs::remove(ruta_, ignorado);
+        }
+    }
+
+    void Escribir(std::string_view contenido) {
+        // The name must not reach the disk before the contents: a crash would leave an empty report.
+        const bool escrito = std::fwrite(contenido.data(), 1, contenido.size(), archivo_) == contenido.size() &&
+                             std::fflush(archivo_) == 0 && fsync(fileno(archivo_)) == 0;
+        const int error = errno;
+        const bool cerrado = std::fclose(std::exchange(archivo_, nullptr)) == 0;
+        if (!escrito || !cerrado) {
+            FallarEscritura(escrito ? errno : error);
+        }
+    }
+
+    void MoverA(const fs::path& destino) {
+        std::error_code error;
+        const fs::file_status viejo = fs::status(destino, error);
+        if (fs::exists(viejo)) {
+            fs::permissions(ruta_, viejo.permissions(), error);
+        }
+        fs::rename(ruta_, destino, error);
+        if (error) {
+            FallarEscritura(error.value());
+        }
+        movido_ = true;
+    }
+
+  private:
+    fs::path ruta_;
+    std::FILE* archivo_ = nullptr;
+    bool movido_ = false;
+};
+
+}  // namespace
+
+void Parrafo::Agregar(Tramo tramo) {
+    if (tramo.texto.empty()) {
+        return;
+    }
+    if (!tramos.empty() && tramos.back().formato == tramo.formato) {
+        tramos.back().texto += tramo.texto;
+        return;
+    }
+    tramos.push_back(std::move(tramo));
+}
+
+std::string Parrafo::Texto() const {
+    std::string texto;
+    for (const Tramo& tramo : tramos) {
+        texto += tramo.texto;
+    }
+    return texto;
+}
+
+std::string TextoRico::Texto() const {
+    std::string texto;
+    for (const Parrafo& parrafo : parrafos) {
+        for (const Tramo& tramo : parrafo.tramos) {
+            texto += tramo.texto;
+        }
+        texto += '\n';
+    }
+    texto.pop_back();
+    return texto;
+}
+
+TextoRico DeTextoPlano(std::string_view texto, const FormatoCaracter& caracter, const FormatoParrafo& parrafo) {
+    if (!EsLegible(texto)) {
+        return DeTextoPlano(SoloLegible(texto), caracter, parrafo);
+    }
+    TextoRico rico;
+    rico.parrafos.front().formato = parrafo;
+    for (;;) {
+        const std::size_t fin = texto.find_first_of("\r\n");
+        rico.parrafos.back().Agregar({std::string(texto.substr(0, fin)), caracter});
+        if (fin == std::string_view::npos) {
+            return rico;
+        }
+        texto.remove_prefix(fin + (texto.substr(fin).starts_with("\r\n") ? 2 : 1));
+        rico.parrafos.push_back({parrafo, {}});
+    }
+}
+
+EditorTextoRico::EditorTextoRico(FormatoCaracter base) : base_(std::move(base)), formato_(base_) {}
+
+void EditorTextoRico::Documento(TextoRico documento) {
+    documento_ = std::move(documento);
+    std::size_t caracteres = documento_.parrafos.size() - 1;
+    for (const Parrafo& parrafo : documento_.parrafos) {
+        for (const Tramo& tramo : parrafo.tramos) {
+            caracteres += ContarUtf8(tramo.texto);
+        }
+    }
+    longitud_ = static_cast<int>(caracteres);
+    SelStart(0);
+}
+
+std::vector<std::string> EditorTextoRico::Lineas() const {
+    std::vector<std::string> lineas;
+    for (const Parrafo& parrafo : documento_.parrafos) {
+        lineas.push_back(parrafo.Texto());
+    }
+    return lineas;
+}
+
+std::vector<int> EditorTextoRico::Alineaciones() const {
+    std::vector<int> alineaciones;
+    for (const Parrafo& parrafo : documento_.parrafos) {
+        alineaciones.push_back(static_cast<int>(parrafo.formato.alineacion));
+    }
+    return alineaciones;
+}
+
+void EditorTextoRico::SelStart(int caracter) {
+    const int nuevo = std::clamp(caracter, 0, longitud_);
+    // Walking on from where it stands keeps the usual steps of a cursor short.
+    if (nuevo == longitud_) {
+        punto_ = Final();
+    } else {
+        punto_ = nuevo >= inicio_ ? Avanzar(punto_, nuevo - inicio_) : Avanzar({}, nuevo);
+    }
+    inicio_ = nuevo;
+    largo_ = 0;
+    formato_ = FormatoAntes(punto_);
+}
+
+void EditorTextoRico::SelLength(int caracteres) { largo_ = std::clamp(caracteres, 0, longitud_ - inicio_); }
+
+void EditorTextoRico::SelIndent(int twips) {
+    CambiarParrafos([twips](FormatoParrafo& formato) { formato.sangriaIzquierda = twips; });
+}
+
+void EditorTextoRico::SelRightIndent(int twips) {
+    CambiarParrafos([twips](FormatoParrafo& formato) { formato.sangriaDerecha = twips; });
+}
+
+void EditorTextoRico::SelAlignment(int alineacion) {
+    if (alineacion < 0 || alineacion > static_cast<int>(Alineacion::kJustificada)) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    CambiarParrafos(
+        [alineacion](FormatoParrafo& formato) { formato.alineacion = static_cast<Alineacion>(alineacion); });
+}
+
+std::string EditorTextoRico::SelRTF() const { return EscribirRtf(Seleccion(), ClaseRtf::kFragmento, base_.fuente); }
+
+void EditorTextoRico::SelRTF(std::string_view texto) {
+    if (EsRtf(texto)) {
+        Insertar(LeerRtf(texto, ClaseRtf::kFragmento));
+    } else {
+        SelText(texto);
+    }
+}
+
+std::string EditorTextoRico::SelText() const { return Seleccion().Texto(); }
+
+void EditorTextoRico::SelText(std::string_view texto) {
+    BorrarSeleccion();
+    if (texto.find_first_of("\r\n") == std::string_view::npos) {
+        InsertarTramo({EsLegible(texto) ? std::string(texto) : SoloLegible(texto), formato_});
+    } else {
+        InsertarParrafos(DeTextoPlano(texto, formato_, ParrafoActual().formato).parrafos);
+    }
+}
+
+void EditorTextoRico::Insertar(TextoRico texto) {
+    BorrarSeleccion();
+    Parrafo& actual = documento_.parrafos[punto_.parrafo];
+    const Parrafo& ultimo = texto.parrafos.back();
+    if (actual.tramos.empty() && !ultimo.tramos.empty()) {
+        actual.formato = ultimo.formato;
+    }
+    if (texto.parrafos.size() > 1) {
+        InsertarParrafos(std::move(texto.parrafos));
+    } else {
+        for (const Tramo& tramo : ultimo.tramos) {
+            InsertarTramo(tramo);
+        }
+    }
+    formato_ = FormatoAntes(punto_);
+}
+
+void EditorTextoRico::LoadFile(const std::string& ruta) {
+    constexpr std::string_view kMarcaUtf8 = "\xEF\xBB\xBF";
+    const std::string contenido = LeerArchivo(ruta);
+    std::string_view texto = contenido;
+    if (texto.starts_with(kMarcaUtf8)) {
+        texto.remove_prefix(kMarcaUtf8.size());
+    }
+    if (EsRtf(texto)) {
+        Documento(LeerRtf(texto));
+    } else {
+        Documento(DeTextoPlano(EsUtf8(texto) ? std::string(texto) : DeWindows1252(texto), base_));
+    }
+}
+
+void EditorTextoRico::SaveFile(const std::string& ruta) const {
+    const std::string contenido = EscribirRtf(documento_, ClaseRtf::kDocumento, base_.fuente);
+    // A link stays a link: what it points to is replaced.
+    std::error_code error;
+    fs::path destino = fs::canonical(ruta, error);
+    if (error) {
+        destino = fs::absolute(ruta, error);
+    } else if (!fs::is_regular_file(destino) || access(destino.c_str(), W_OK) != 0) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    ArchivoNuevo nuevo(destino.parent_path());
+    nuevo.Escribir(contenido);
+    nuevo.MoverA(destino);
+}
+
+EditorTextoRico::Punto EditorTextoRico::Avanzar(Punto desde, int caracteres) const {
+    auto faltan = static_cast<std::size_t>(caracteres);
+    while (faltan > 0) {
+        const std::vector<Tramo>& tramos = documento_.parrafos[desde.parrafo].tramos;
+        if (desde.tramo < tramos.size()) {
+            const std::string_view resto = std::string_view(tramos[desde.tramo].texto).substr(desde.byte);
+            const std::size_t quedan = ContarUtf8(resto);
+            if (faltan <= quedan) {
+                desde.byte += ByteDeCaracter(resto, faltan);
+                return desde;
+            }
+            faltan -= quedan;
+        }
+        if (desde.tramo + 1 < tramos.size()) {
+            desde = {desde.parrafo, desde.tramo + 1, 0};
+        } else {
+            desde = {desde.parrafo + 1, 0, 0};
+            --faltan;
+        }
+    }
+    return desde;
+}
+
+EditorTextoRico::Punto EditorTextoRico::Final() const {
+    const std::vector<Tramo>& tramos = documento_.parrafos.back().tramos;
+    const std::size_t parrafo = documento_.parrafos.size() - 1;
+    return tramos.empty() ? Punto{parrafo, 0, 0} : Punto{parrafo, tramos.size() - 1, tramos.back().texto.size()};
+}
+
+FormatoCaracter EditorTextoRico::FormatoAntes(const Punto& punto) const {
+    const std::vector<Tramo>& tramos = documento_.parrafos[punto.parrafo].tramos;
+    if (!tramos.empty()) {
+        return tramos[punto.tramo].formato;
+    }
+    for (std::size_t i = punto.parrafo; i-- > 0;) {
+        const std::vector<Tramo>& anteriores = documento_.parrafos[i].tramos;
+        if (!anteriores.empty()) {
+            return anteriores.back().formato;
+        }
+    }
+    return base_;
+}
+
+TextoRico EditorTextoRico::Seleccion() const {
+    const Punto fin = FinalSeleccion();
+    TextoRico elegido;
+    elegido.parrafos.clear();
+    for (std::size_t i = punto_.parrafo; i <= fin.parrafo; ++i) {
+        const Parrafo& parrafo = documento_.parrafos[i];
+        Parrafo copia{parrafo.formato, {}};
+        const bool primero = i == punto_.parrafo;
+        const bool ultimo = i == fin.parrafo;
+        for (std::size_t j = primero ? punto_.tramo : 0; j < parrafo.tramos.size() && !(ultimo && j > fin.tramo); ++j) {
+            const Tramo& tramo = parrafo.tramos[j];
+            const std::size_t desde = primero && j == punto_.tramo ? punto_.byte : 0;
+            const std::size_t hasta = ultimo && j == fin.tramo ? fin.byte : tramo.texto.size();
+            copia.Agregar({tramo.texto.substr(desde, hasta - desde), tramo.formato});
+        }
+        elegido.parrafos.push_back(std::move(copia));
+    }
+    return elegido;
+}
+
+template <typename Cambio>
+void EditorTextoRico::CambiarParrafos(Cambio cambio) {
+    const Punto fin = FinalSeleccion();
+    // A selection that ends with a line break does not touch the line after it.
+    const bool soloSalto = fin.parrafo > punto_.parrafo && fin.byte == 0;
+    const std::size_t hasta = soloSalto ? fin.parrafo - 1 : fin.parrafo;
+    for (std::size_t i = punto_.parrafo; i <= hasta; ++i) {
+        cambio(documento_.parrafos[i].formato);
+    }
+}
+
+void EditorTextoRico::BorrarSeleccion() {
+    if (largo_ == 0) {
+        return;
+    }
+    formato_ = FormatoAntes(Avanzar(punto_, 1));
+    const Punto fin = FinalSeleccion();
+    std::vector<Tramo> cola = CortarDesde(documento_.parrafos[fin.parrafo], fin.tramo, fin.byte);
+    Parrafo& actual = documento_.parrafos[punto_.parrafo];
+    CortarDesde(actual, punto_.tramo, punto_.byte);
+    for (Tramo& tramo : cola) {
+        actual.Agregar(std::move(tramo));
+    }
+    // The line break that stays is the last one, and with it the format of its paragraph.
+    actual.formato = documento_.parrafos[fin.parrafo].formato;
+    const auto inicio = documento_.parrafos.begin();
+    documento_.parrafos.erase(inicio + static_cast<std::ptrdiff_t>(punto_.parrafo + 1),
+                              inicio + static_cast<std::ptrdiff_t>(fin.parrafo + 1));
+    longitud_ -= largo_;
+    largo_ = 0;
+}
+
+void EditorTextoRico::InsertarTramo(const Tramo& tramo) {
+    if (tramo.texto.empty()) {
+        return;
+    }
+    std::vector<Tramo>& tramos = documento_.parrafos[punto_.parrafo].tramos;
+    if (!tramos.empty() && tramos[punto_.tramo].formato == tramo.formato) {
+        tramos[punto_.tramo].texto.insert(punto_.byte, tramo.texto);
+        punto_.byte += tramo.texto.size();
+    } else {
+        Parrafo& parrafo = documento_.parrafos[punto_.parrafo];
+        std::vector<Tramo> cola = CortarDesde(parrafo, punto_.tramo, punto_.byte);
+        parrafo.Agregar(tramo);
+        punto_ = {punto_.parrafo, tramos.size() - 1, tramos.back().texto.size()};
+        for (Tramo& siguiente : cola) {
+            parrafo.Agregar(std::move(siguiente));
+        }
+    }
+    const auto caracteres = static_cast<int>(ContarUtf8(tramo.texto));
+    longitud_ += caracteres;
+    inicio_ += caracteres;
+}
+
+void EditorTextoRico::InsertarParrafos(std::vector<Parrafo> nuevos) {
+    std::size_t caracteres = nuevos.size() - 1;
+    for (const Parrafo& nuevo : nuevos) {
+        for (const Tramo& tramo : nuevo.tramos) {
+            caracteres += ContarUtf8(tramo.texto);
+        }
+    }
+    Parrafo& actual = documento_.parrafos[punto_.parrafo];
+    std::vector<Tramo> cola = CortarDesde(actual, punto_.tramo, punto_.byte);
+    for (Tramo& tramo : nuevos.front().tramos) {
+        actual.Agregar(std::move(tramo));
+    }
+    Parrafo& ultimo = nuevos.back();
+    ultimo.formato = std::exchange(actual.formato, nuevos.front().formato);
+    const Punto final =
+        ultimo.tramos.empty() ? Punto{} : Punto{0, ultimo.tramos.size() - 1, ultimo.tramos.back().texto.size()};
+    for (Tramo& tramo : cola) {
+        ultimo.Agregar(std::move(tramo));
+    }
+    const auto lugar = documento_.parrafos.begin() + static_cast<std::ptrdiff_t>(punto_.parrafo + 1);
+    punto_ = {punto_.parrafo + nuevos.size() - 1, final.tramo, final.byte};
+    documento_.parrafos.insert(lugar, std::make_move_iterator(nuevos.begin() + 1),
+                               std::make_move_iterator(nuevos.end()));
+    longitud_ += static_cast<int>(caracteres);
+    inicio_ += static_cast<int>(caracteres);
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,547 @@
+#include "guion/guion.h"
+
+#include <algorithm>
+#include <charconv>
+#include <ostream>
+#include <stdexcept>
+
+#include "frame/controles/controles.h"
+#include "frame/controles/flexgrid.h"
+#include "frame/reportes/grafico.h"
+#include "frame/reportes/richtextbox.h"
+#include "frame/base/textos.h"
+
+namespace cuencalia {
+
+namespace {
+
+/// A command that cannot be carried out, with the reason.
+struct Rechazo : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::string Json(const std::string& texto) {
+    static constexpr char kHex[] = "0123456789abcdef";
+    std::string json = "\"";
+    for (const char c : texto) {
+        const auto codigo = static_cast<unsigned char>(c);
+        if (c == '"' || c == '\\') {
+            json += '\\';
+            json += c;
+        } else if (c == '\n') {
+            json += "\\n";
+        } else if (c == '\t') {
+            json += "\\t";
+        } else if (codigo < 0x20) {
+            json += "\\u00";
+            json += kHex[codigo >> 4];
+            json += kHex[codigo & 15];
+        } else {
+            json += c;
+        }
+    }
+    return json + '"';
+}
+
+const char* Json(bool valor) { return valor ? "true" : "false"; }
+
+/// Words separated by blanks; one with blanks stands in double quotes, with \" \\ and \n inside.
+std::vector<std::string> Separar(const std::string& linea) {
+    std::vector<std::string> palabras;
+    std::size_t i = 0;
+    while (true) {
+        while (i < linea.size() && (linea[i] == ' ' || linea[i] == '\t')) {
+            ++i;
+        }
+        if (i >= linea.size()) {
+            return palabras;
+        }
+        std::string palabra;
+        if (linea[i] != '"') {
+            while (i < linea.size() && linea[i] != ' ' && linea[i] != '\t') {
+                palabra += linea[i++];
+            }
+            palabras.push_back(palabra);
+            continue;
+        }
+        for (++i; i < linea.size() && linea[i] != '"'; ++i) {
+            if (linea[i] == '\\' && i + 1 < linea.size()) {
+                ++i;
+                palabra += linea[i] == 'n' ? '\n' : linea[i];
+            } else {
+                palabra += linea[i];
+            }
+        }
+        if (i >= linea.size()) {
+            throw Rechazo("falta la comilla que cierra");
+        }
+        ++i;
+        palabras.push_back(palabra);
+    }
+}
+
+int Numero(const std::string& texto) {
+    int valor = 0;
+    const char* fin = texto.data() + texto.size();
+    const auto [resto, error] = std::from_chars(texto.data(), fin, valor);
+    if (error != std::errc() || resto != fin) {
+        throw Rechazo("no es un número entero: " + texto);
+    }
+    return valor;
+}
+
+/// The key that gives a character, as KeyDown tells it: letters and digits by their capital, the rest by 0.
+int CodigoDeTecla(int caracter) {
+    if (caracter >= 'a' && caracter <= 'z') {
+        return caracter - 'a' + 'A';
+    }
+    const bool letraODigito = (caracter >= 'A' && caracter <= 'Z') || (caracter >= '0' && caracter <= '9');
+    const bool control =
+        caracter == kTeclaEnter || caracter == kTeclaEscape || caracter == kTeclaRetroceso || caracter == kTeclaEspacio;
+    // The signs of the number pad, and the point.
+    static constexpr std::pair<char, int> kSignos[] = {{'*', 106}, {'+', 107}, {'-', 109}, {'/', 111}, {'.', 190}};
+    for (const auto& [signo, codigo] : kSignos) {
+        if (caracter == signo) {
+            return codigo;
+        }
+    }
+    return letraODigito || control ? caracter : 0;
+}
+
+std::string TextoDe(Control& control) {
+    if (auto* c = dynamic_cast<TextBox*>(&control)) {
+        return c->Text;
+    }
+    if (auto* c = dynamic_cast<ComboBox*>(&control)) {
+        return c->Text;
+    }
+    if (auto* c = dynamic_cast<Label*>(&control)) {
+        return c->Caption;
+    }
+    if (auto* c = dynamic_cast<CommandButton*>(&control)) {
+        return c->Caption;
+    }
+    if (auto* c = dynamic_cast<OptionButton*>(&control)) {
+        return c->Caption;
+    }
+    if (auto* c = dynamic_cast<Frame*>(&control)) {
+        return c->Caption;
+    }
+    if (auto* c = dynamic_cast<Menu*>(&control)) {
+        return c->Caption;
+    }
+    if (auto* c = dynamic_cast<StatusBar*>(&control)) {
+        return c->Panel(1);
+    }
+    if (auto* c = dynamic_cast<Formulario*>(&control)) {
+        return c->Caption;
+    }
+    throw Rechazo("no tiene texto: " + control.Nombre());
+}
+
+std::string FilasDe(const FlexGrid& grid) {
+    std::string filas = "[";
+    for (int f = 0; f < grid.Rows(); ++f) {
+        filas += f == 0 ? "[" : ",[";
+        for (int c = 0; c < grid.Cols(); ++c) {
+            filas += (c == 0 ? "" : ",") + Json(grid.TextMatrix(f, c));
+        }
+        filas += "]";
+    }
+    return filas + "]";
+}
+
+std::string Json(const std::vector<std::optional<Double>>& valores) {
+    std::string lista = "[";
+    for (const auto& valor : valores) {
+        lista += lista.size() > 1 ? "," : "";
+        // Shortest digits that read back as the same number.
+        char cifras[32];
+        const auto fin = valor ? std::to_chars(cifras, std::end(cifras), valor->valor()).ptr : cifras;
+        lista += valor ? std::string(cifras, fin) : "null";
+    }
+    return lista + "]";
+}
+
+std::string DatosDe(const GraficoModulo& grafico) {
+    std::string datos = std::string(",\"visible\":") + Json(grafico.EsVisible());
+    const auto entero = [&](const char* nombre, int valor) {
+        datos += std::string(",\"") + nombre + "\":" + std::to_string(valor);
+    };
+    entero("GraphType", grafico.GraphType);
+    entero("GraphStyle", grafico.GraphStyle);
+    entero("Background", grafico.Background);
+    entero("NumPoints", grafico.NumPoints());
+    entero("NumSets", grafico.NumSets());
+    datos += ",\"BottomTitle\":" + Json(grafico.BottomTitle()) + ",\"sets\":[";
+    const char* coma = "";
+    for (const GraficoModulo::Conjunto& conjunto : grafico.Conjuntos()) {
+        datos += std::string(coma) + "{\"LegendText\":" + Json(conjunto.leyenda) + ",\"x\":" + Json(conjunto.x) +
+                 ",\"y\":" + Json(conjunto.y) + "}";
+        coma = ",";
+    }
+    return datos + "]";
+}
+
+std::string DatosDe(RichTextBox& documento) {
+    const EditorTextoRico& editor = documento.Leer();
+    std::string datos =
+        ",\"titulo\":" + Json(documento.Forma().Caption()) + ",\"texto\":" + Json(editor.Text()) + ",\"alineacion\":[";
+    const char* coma = "";
+    for (const int alineacion : editor.Alineaciones()) {
+        datos += coma + std::to_string(alineacion);
+        coma = ",";
+    }
+    return datos + "]";
+}
+
+}  // namespace
+
+struct Guion::Orden {
+    const char* nombre;
+    int minimoPalabras;
+    void (Guion::*metodo)(const Palabras&);
+};
+
+Guion::Guion(TablaFormas formas, std::ostream& salida) : formas_(std::move(formas)), salida_(salida) { Nuevo(); }
+
+Guion::~Guion() = default;
+
+void Guion::Nuevo() {
+    app_.reset();
+    plataforma_ = std::make_unique<PlataformaGuion>();
+    app_ = std::make_unique<Aplicacion>(*plataforma_, formas_);
+    formaActual_ = "frmCuencalia";
+    app_->Despachar([this] { app_->ModuloAbrir(formaActual_); });
+}
+
+void Guion::Ejecutar(const std::string& linea) {
+    static constexpr Orden kOrdenes[] = {
+        {"nuevo", 1, &Guion::OrdenNuevo},     {"menu", 2, &Guion::OrdenMenu},
+        {"forma", 2, &Guion::OrdenForma},     {"fila", 1, &Guion::OrdenFila},
+        {"celda", 4, &Guion::OrdenCelda},     {"menufila", 3, &Guion::OrdenMenuFila},
+        {"teclas", 2, &Guion::OrdenTeclas},   {"click", 2, &Guion::OrdenClick},
+        {"opcion", 2, &Guion::OrdenOpcion},   {"poner", 3, &Guion::OrdenPoner},
+        {"elegir", 3, &Guion::OrdenElegir},   {"ficha", 3, &Guion::OrdenFicha},
+        {"cerrar", 2, &Guion::OrdenCerrar},   {"ver", 2, &Guion::OrdenVer},
+        {"estado", 2, &Guion::OrdenEstado},   {"mensajes", 1, &Guion::OrdenMensajes},
+        {"archivo", 2, &Guion::OrdenArchivo},
+    };
+    ++linea_;
+    std::string limpia = linea;
+    if (!limpia.empty() && limpia.back() == '\r') {
+        limpia.pop_back();
+    }
+    if (limpia.empty() || limpia[0] == '#') {
+        return;
+    }
+    try {
+        const Palabras palabras = Separar(limpia);
+        if (palabras.empty()) {
+            return;
+        }
+        for (const Orden& orden : kOrdenes) {
+            if (palabras[0] == orden.nombre) {
+                if (static_cast<int>(palabras.size()) < orden.minimoPalabras) {
+                    throw Rechazo("faltan datos de la orden: " + palabras[0]);
+                }
+                if (plataforma_->terminado && palabras[0] != "nuevo" && palabras[0] != "mensajes") {
+                    throw Rechazo("el programa terminó");
+                }
+                (this->*orden.metodo)(palabras);
+                MostrarErrores();
+                return;
+            }
+        }
+        throw Rechazo("orden desconocida: " + palabras[0]);
+    } catch (const Rechazo& rechazo) {
+        MostrarErrores();
+        Rechazar(rechazo.what());
+    }
+}
+
+void Guion::Rechazar(const std::string& motivo) {
+    huboRechazo_ = true;
+    salida_ << "{\"rechazo\":" << Json(motivo) << ",\"linea\":" << linea_ << "}\n";
+}
+
+void Guion::MostrarErrores() {
+    for (const ErrorEjecucion& error : plataforma_->errores) {
+        salida_ << "{\"error\":" << error.Numero() << ",\"texto\":" << Json(error.Texto()) << "}\n";
+    }
+    plataforma_->errores.clear();
+}
+
+Formulario& Guion::FormaActual() {
+    Formulario* forma = app_->Cargada(formaActual_);
+    if (forma == nullptr) {
+        throw Rechazo("la forma no está abierta: " + formaActual_);
+    }
+    return *forma;
+}
+
+Control& Guion::Buscar(const std::string& nombre) {
+    Formulario& forma = FormaActual();
+    Control* control = forma.Controls(nombre);
+    Formulario* dentro = app_->HijaActiva(forma);
+    if (control == nullptr && dentro != nullptr) {
+        control = dentro->Controls(nombre);
+    }
+    if (control == nullptr) {
+        throw Rechazo("no hay tal control: " + nombre);
+    }
+    return *control;
+}
+
+template <typename T>
+T& Guion::Usable(const std::string& nombre, const char* clase) {
+    auto* control = dynamic_cast<T*>(&Buscar(nombre));
+    if (control == nullptr) {
+        throw Rechazo("no es " + std::string(clase) + ": " + nombre);
+    }
+    if (!control->EsVisible()) {
+        throw Rechazo("está oculto: " + nombre);
+    }
+    if (!control->EsHabilitado()) {
+        throw Rechazo("está inhabilitado: " + nombre);
+    }
+    for (Control* dentro = control; dentro->Contenedor() != nullptr; dentro = dentro->Contenedor()) {
+        if (auto* fichas = dynamic_cast<SSTab*>(dentro->Contenedor())) {
+            app_->Despachar([&] { fichas->Tab = dentro->Pagina(); });
+        }
+    }
+    return *control;
+}
+
+void Guion::OrdenNuevo(const Palabras&) { Nuevo(); }
+
+void Guion::OrdenMenu(const Palabras& p) {
+    const std::string anterior = formaActual_;
+    formaActual_ = "frmCuencalia";
+    Menu* entrada = nullptr;
+    try {
+        entrada = &Usable<Menu>(p[1], "una entrada del menú");
+    } catch (const Rechazo&) {
+        formaActual_ = anterior;
+        throw;
+    }
+    plataforma_->alFrente = nullptr;
+    app_->Despachar([&] { entrada->Elegir(); });
+    if (plataforma_->alFrente != nullptr) {
+        formaActual_ = plataforma_->alFrente->Nombre();
+    }
+}
+
+void Guion::OrdenForma(const Palabras& p) {
+    if (app_->Cargada(p[1]) == nullptr) {
+        throw Rechazo("la forma no está abierta: " + p[1]);
+    }
+    formaActual_ = p[1];
+    app_->Despachar([this] { app_->Activar(FormaActual()); });
+}
+
+void Guion::TeclearCaracter(int codigoCaracter) {
+    if (app_->Foco() == nullptr) {
+        throw Rechazo("ningún control tiene el foco");
+    }
+    app_->PulsarTecla(CodigoDeTecla(codigoCaracter), codigoCaracter);
+}
+
+void Guion::Teclear(const std::string& texto) {
+    const int longitud = Len(texto);
+    for (int i = 0; i < longitud; ++i) {
+        TeclearCaracter(Asc(Subtexto(texto, i, 1)));
+    }
+}
+
+void Guion::OrdenFila(const Palabras& p) {
+    auto& grid = Usable<FlexGrid>("grdt", "una cuadrícula");
+    app_->Despachar([&] { grid.Presionar(kBotonIzquierdo, grid.Rows() - 1, 1); });
+    for (std::size_t i = 1; i < p.size(); ++i) {
+        Teclear(p[i]);
+        TeclearCaracter(kTeclaEnter);
+    }
+}
+
+void Guion::OrdenCelda(const Palabras& p) {
+    auto& grid = Usable<FlexGrid>(p[1], "una cuadrícula");
+    const int fila = Numero(p[2]);
+    const int columna = Numero(p[3]);
+    if (fila < 0 || fila >= grid.Rows() || columna < 0 || columna >= grid.Cols()) {
+        throw Rechazo("no hay tal celda: " + p[2] + ", " + p[3]);
+    }
+    app_->Despachar([&] { grid.Presionar(kBotonIzquierdo, fila, columna); });
+}
+
+void Guion::OrdenMenuFila(const Palabras& p) {
+    auto& grid = Usable<FlexGrid>("grdt", "una cuadrícula");
+    const int fila = Numero(p[2]);
+    if (fila < 0 || fila >= grid.Rows()) {
+        throw Rechazo("no hay tal fila: " + p[2]);
+    }
+    plataforma_->entradaEmergente = p[1];
+    plataforma_->entradaElegida = false;
+    app_->Despachar([&] { grid.Presionar(kBotonDerecho, fila, 1); });
+    plataforma_->entradaEmergente.reset();
+    if (!plataforma_->entradaElegida) {
+        throw Rechazo("no se puede elegir: " + p[1]);
+    }
+}
+
+void Guion::OrdenTeclas(const Palabras& p) {
+    struct Tecla {
+        const char* nombre;
+        int codigo;
+        int caracter;
+    };
+    static constexpr Tecla kTeclas[] = {{"{ENTER}", kTeclaEnter, kTeclaEnter},
+                                        {"{ESC}", kTeclaEscape, kTeclaEscape},
+                                        {"{UP}", kTeclaArriba, 0},
+                                        {"{DOWN}", kTeclaAbajo, 0},
+                                        {"{BACK}", kTeclaRetroceso, kTeclaRetroceso}};
+    const std::string& texto = p[1];
+    std::size_t i = 0;
+    while (i < texto.size()) {
+        const Tecla* especial = nullptr;
+        for (const Tecla& tecla : kTeclas) {
+            if (texto.compare(i, std::char_traits<char>::length(tecla.nombre), tecla.nombre) == 0) {
+                especial = &tecla;
+            }
+        }
+        if (especial == nullptr) {
+            const std::string caracter = Subtexto(std::string_view(texto).substr(i), 0, 1);
+            Teclear(caracter);
+            i += caracter.size();
+            continue;
+        }
+        if (app_->Foco() == nullptr) {
+            throw Rechazo("ningún control tiene el foco");
+        }
+        app_->PulsarTecla(especial->codigo, especial->caracter);
+        i += std::char_traits<char>::length(especial->nombre);
+    }
+}
+
+void Guion::OrdenClick(const Palabras& p) {
+    auto& control = Usable<Control>(p[1], "un control");
+    if (auto* entrada = dynamic_cast<Menu*>(&control)) {
+        app_->Despachar([&] { entrada->Elegir(); });
+    } else if (dynamic_cast<CommandButton*>(&control) != nullptr) {
+        app_->Pulsar(control);
+    } else {
+        throw Rechazo("no es un botón ni una entrada de menú: " + p[1]);
+    }
+    if (app_->Cargada(formaActual_) == nullptr) {
+        formaActual_ = "frmCuencalia";
+    }
+}
+
+void Guion::OrdenOpcion(const Palabras& p) { app_->Pulsar(Usable<OptionButton>(p[1], "un botón de opción")); }
+
+void Guion::OrdenPoner(const Palabras& p) {
+    auto& caja = Usable<TextBox>(p[1], "una caja de texto");
+    if (caja.Locked) {
+        throw Rechazo("no se puede escribir en: " + p[1]);
+    }
+    app_->Despachar([&] {
+        caja.SetFocus();
+        app_->DoEvents();
+        caja.Seleccionar(0, Len(caja.Text()));
+    });
+    app_->PulsarTecla(kTeclaSuprimir, 0);
+    Teclear(p[2]);
+}
+
+void Guion::OrdenElegir(const Palabras& p) {
+    auto& combo = Usable<ComboBox>(p[1], "un cuadro combinado");
+    const auto& entradas = combo.List();
+    const auto entrada = std::find(entradas.begin(), entradas.end(), p[2]);
+    if (entrada == entradas.end() && !combo.Editable) {
+        throw Rechazo("no hay tal entrada: " + p[2]);
+    }
+    app_->Despachar([&] {
+        combo.SetFocus();
+        app_->DoEvents();
+        if (entrada != entradas.end()) {
+            combo.Elegir(static_cast<int>(entrada - entradas.begin()));
+        } else {
+            combo.Text = "";
+        }
+    });
+    if (entrada == entradas.end()) {
+        Teclear(p[2]);
+    }
+}
+
+void Guion::OrdenFicha(const Palabras& p) {
+    auto& fichas = Usable<SSTab>(p[1], "un control de fichas");
+    const int pagina = Numero(p[2]);
+    if (pagina < 0 || pagina >= static_cast<int>(fichas.Titulos().size())) {
+        throw Rechazo("no hay tal ficha: " + p[2]);
+    }
+    app_->Despachar([&] { fichas.Tab = pagina; });
+}
+
+void Guion::OrdenCerrar(const Palabras& p) {
+    Formulario* forma = app_->Cargada(p[1]);
+    if (forma == nullptr && app_->Cargada("frmPadre") != nullptr) {
+        Formulario* documento = app_->HijaActiva(*app_->Cargada("frmPadre"));
+        forma = documento != nullptr && documento->Nombre() == p[1] ? documento : nullptr;
+    }
+    if (forma == nullptr) {
+        throw Rechazo("la forma no está abierta: " + p[1]);
+    }
+    app_->CerrarVentana(*forma);
+    if (app_->Cargada(formaActual_) == nullptr) {
+        formaActual_ = "frmCuencalia";
+    }
+}
+
+void Guion::OrdenArchivo(const Palabras& p) { plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]); }
+
+void Guion::OrdenVer(const Palabras& p) {
+    for (std::size_t i = 1; i < p.size(); ++i) {
+        Control& control = Buscar(p[i]);
+        std::string datos;
+        if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
+            datos = ",\"filas\":" + FilasDe(*grid);
+        } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
+            datos = DatosDe(*grafico);
+        } else if (auto* documento = dynamic_cast<RichTextBox*>(&control)) {
+            datos = DatosDe(*documento);
+        } else {
+            datos = ",\"texto\":" + Json(TextoDe(control));
+        }
+        salida_ << "{\"control\":" << Json(p[i]) << datos << "}\n";
+    }
+}
+
+void Guion::OrdenEstado(const Palabras& p) {
+    for (std::size_t i = 1; i < p.size(); ++i) {
+        Control& control = Buscar(p[i]);
+        salida_ << "{\"control\":" << Json(p[i]) << ",\"visible\":" << Json(control.EsVisible())
+                << ",\"habilitado\":" << Json(control.EsHabilitado());
+        if (const auto* opcion = dynamic_cast<OptionButton*>(&control)) {
+            salida_ << ",\"valor\":" << Json(opcion->Value());
+        }
+        salida_ << ",\"foco\":" << Json(control.TieneFoco());
+        if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
+            salida_ << ",\"Row\":" << grid->Row() << ",\"Col\":" << grid->Col() << ",\"TopRow\":" << grid->TopRow();
+        }
+        salida_ << "}\n";
+    }
+}
+
+void Guion::OrdenMensajes(const Palabras&) {
+    salida_ << "{\"mensajes\":[";
+    const char* coma = "";
+    for (const Mensaje& mensaje : plataforma_->mensajes) {
+        salida_ << coma << "{\"texto\":" << Json(mensaje.texto) << ",\"icono\":" << mensaje.icono
+                << ",\"titulo\":" << Json(mensaje.titulo) << "}";
+        coma = ",";
+    }
+    salida_ << "]}\n";
+    plataforma_->mensajes.clear();
+}
+
+}  // namespace cuencalia

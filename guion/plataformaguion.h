@@ -1,0 +1,67 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "frame/base/hojas.h"
+#include "frame/controles/plataforma.h"
+#include "hojas/libros.h"
+
+namespace cuencalia {
+
+struct Mensaje {
+    std::string texto;
+    Icono icono;
+    std::string titulo;
+};
+
+/// A platform with no screen: a script or a test answers what a user would, and reads what the program showed.
+class PlataformaGuion : public Plataforma {
+  public:
+    void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
+    void MostrarError(const ErrorEjecucion& error) override;
+    void MostrarForma(Formulario& forma) override;
+    void DescargarForma(Formulario& forma) override;
+    void MenuEmergente(Menu& menu) override;
+    void ImprimirForma(Formulario& forma) override;
+    void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
+    AccesoHojas& Hojas() override { return libros_; }
+    void MostrarLibro(const Hoja& hoja) override { libro = hoja; }
+    void Terminar() override { terminado = true; }
+    void AbrirConShell(const std::string& ruta) override;
+    std::string CarpetaInstalacion() const override { return "/cuencalia"; }
+    void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                       std::string& nombre) override;
+    std::string TextoDelPortapapeles() const override { return portapapeles; }
+    void PonerEnPortapapeles(const std::string& texto) override { portapapeles = texto; }
+    std::string LeerAjuste(const std::string& clave, const std::string& porOmision) const override;
+    void GuardarAjuste(const std::string& clave, const std::string& valor) override { ajustes[clave] = valor; }
+
+    std::vector<Mensaje> mensajes;
+    std::vector<ErrorEjecucion> errores;
+    std::vector<std::string> impresas;  ///< Forms and documents sent to the printer, by name.
+    Hoja libro;                         ///< The workbook shown last.
+    std::vector<std::string> abiertos;  ///< Files handed to the shell.
+    std::string portapapeles;
+    std::map<std::string, std::string> ajustes;
+    /// Answer of the next file dialog; none cancels it.
+    std::optional<std::string> archivo;
+    /// What the last file dialog asked for.
+    std::string tituloDialogo, filtroDialogo;
+    /// The form that was shown last, or null.
+    Formulario* alFrente = nullptr;
+    /// Entry to pick in the next pop-up menu; none closes the menu.
+    std::optional<std::string> entradaEmergente;
+    /// Whether the entry asked for was there and not greyed.
+    bool entradaElegida = false;
+    /// When set, the shell cannot be called.
+    bool shellFalla = false;
+    bool terminado = false;
+
+  private:
+    LibrosDeCalculo libros_;
+};
+
+}  // namespace cuencalia

@@ -1,0 +1,288 @@
+// Costs of the program's own work, with no screen: what the forms and the calculations take for themselves.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "frame/base/archivoserie.h"
+#include "frame/controles/flexgrid.h"
+#include "frame/base/textos.h"
+#include "hojas/libros.h"
+#include "shell/formas.h"
+#include "guion/plataformaguion.h"
+
+namespace cuencalia::pruebas {
+
+namespace {
+
+constexpr int kFilas = 1500;  // the most that a module takes
+
+/// A module with a full grid.
+class Modulo {
+  public:
+    explicit Modulo(const char* forma = "frmParamEsta") : forma_(forma) {
+        app_.Despachar([this] { app_.ModuloAbrir(forma_); });
+        grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
+        app_.Despachar([this] {
+            grid_->PonerRows(kFilas + 2);
+            for (int i = 1; i <= kFilas; ++i) {
+                grid_->PonerTextMatrix(i, 0, Str(i));
+                for (int c = 1; c < grid_->Cols(); ++c) {
+                    grid_->PonerTextMatrix(i, c, Format(100 + 40 * std::sin(0.7 * i * c), "0.0###"));
+                }
+            }
+        });
+    }
+
+    void Pulsar(const char* boton) { app_.Pulsar(*app_.Cargada(forma_)->Controls(boton)); }
+    /// The answer of the next file dialog.
+    void Responder(const std::string& archivo) { plataforma_.archivo = archivo; }
+    int Filas() const { return grid_->Rows(); }
+    /// A digit opens the edit box on the row, ENTER stores it.
+    void Teclear(int fila) {
+        app_.Despachar([&] { grid_->Presionar(kBotonIzquierdo, fila, 1); });
+        app_.PulsarTecla('5', '5');
+        app_.PulsarTecla(kTeclaEnter, kTeclaEnter);
+    }
+    bool Bien() const { return plataforma_.errores.empty() && plataforma_.mensajes.empty(); }
+
+  private:
+    std::string forma_;
+    PlataformaGuion plataforma_;
+    Aplicacion app_{plataforma_, FormasDelPrograma()};
+    FlexGrid* grid_ = nullptr;
+};
+
+/// The windows of distribution fits, all eight by default, each with the same series.
+class Ajustes {
+  public:
+    explicit Ajustes(std::vector<std::string> formas = {"frmDisNormal", "frmDisLogNormal2", "frmDisLogNormal3",
+                                                        "frmDisGamma2par", "frmDisGamma3par", "frmDisLogPearson3",
+                                                        "frmDisGumbel", "frmDisLogGumbel"})
+        : formas_(std::move(formas)) {
+        for (const std::string& forma : formas_) {
+            app_.Despachar([&] { app_.ModuloAbrir(forma); });
+        }
+    }
+    void Escribir(const std::vector<double>& serie) {
+        const int valores = static_cast<int>(serie.size());
+        std::vector<std::string> textos;
+        for (const double valor : serie) {
+            textos.push_back(Format(valor, "0.0###"));
+        }
+        for (const std::string& forma : formas_) {
+            auto& grid = dynamic_cast<FlexGrid&>(*app_.Cargada(forma)->Controls("grdt"));
+            app_.Despachar([&] {
+                grid.PonerRows(valores + 2);
+                for (int i = 1; i <= valores; ++i) {
+                    grid.PonerTextMatrix(i, 1, textos[static_cast<std::size_t>(i - 1)]);
+                }
+            });
+        }
+    }
+    void Calcular() {
+        for (const std::string& forma : formas_) {
+            app_.Pulsar(*app_.Cargada(forma)->Controls("bCalcular"));
+        }
+    }
+    /// In the first window.
+    void CaudalDeDiseno(const char* T) {
+        Formulario& f = *app_.Cargada(formas_[0]);
+        app_.Despachar([&] { dynamic_cast<TextBox&>(*f.Controls("txtxt")).Text = T; });
+        app_.Pulsar(*f.Controls("bQ"));
+    }
+    bool Bien() const { return plataforma_.errores.empty() && plataforma_.mensajes.empty(); }
+
+  private:
+    std::vector<std::string> formas_;
+    PlataformaGuion plataforma_;
+    Aplicacion app_{plataforma_, FormasDelPrograma()};
+};
+
+/// Random values skewed also in their logarithms, so that every fit runs to its end. The greatest of them would be
+/// beyond the series of the gamma function.
+std::vector<double> SerieAlAzar(int valores, std::mt19937& azar) {
+    std::exponential_distribution<double> exponencial;
+    std::vector<double> serie;
+    for (int i = 0; i < valores; ++i) {
+        serie.push_back(100 * std::exp(0.3 * std::min(exponencial(azar), 6.0)));
+    }
+    return serie;
+}
+
+/// Calcular in the eight windows: parameters, table, verdict.
+void AjustarOcho(benchmark::State& estado, int valores) {
+    std::mt19937 azar(1);
+    Ajustes ajustes;
+    ajustes.Escribir(SerieAlAzar(valores, azar));
+    for (auto _ : estado) {
+        ajustes.Calcular();
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("a fit failed");
+    }
+}
+
+/// A thousand series, one after the other, each written into the eight windows and fitted there.
+void AjustarMilSeries(benchmark::State& estado, int valores) {
+    std::mt19937 azar(1);
+    Ajustes ajustes;
+    for (auto _ : estado) {
+        for (int serie = 0; serie < 1000; ++serie) {
+            estado.PauseTiming();
+            ajustes.Escribir(SerieAlAzar(valores, azar));
+            estado.ResumeTiming();
+            ajustes.Calcular();
+        }
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("a fit failed");
+    }
+}
+
+/// The quantile of a fit to the 60 values that a Gumbel distribution has at the plotting positions.
+void CaudalDeDiseno(benchmark::State& estado, const char* forma, const char* T) {
+    std::vector<double> serie;
+    for (int i = 1; i <= 60; ++i) {
+        serie.push_back(100 - 30 * std::log(-std::log(i / 61.0)));
+    }
+    Ajustes ajustes({forma});
+    ajustes.Escribir(serie);
+    ajustes.Calcular();
+    for (auto _ : estado) {
+        ajustes.CaudalDeDiseno(T);
+    }
+    if (!ajustes.Bien()) {
+        estado.SkipWithError("the quantile failed");
+    }
+}
+
+void Pulsar(benchmark::State& estado, const char* boton) {
+    Modulo modulo;
+    for (auto _ : estado) {
+        modulo.Pulsar(boton);
+    }
+    if (!modulo.Bien()) {
+        estado.SkipWithError("the command failed");
+    }
+}
+
+void TeclearUnValor(benchmark::State& estado) {
+    Modulo modulo;
+    int fila = 0;
+    for (auto _ : estado) {
+        fila = fila % (kFilas - 1) + 1;
+        modulo.Teclear(fila);
+    }
+}
+
+/// The entry row grows the grid: the labels are numbered anew.
+void AgregarUnaFila(benchmark::State& estado) {
+    auto modulo = std::make_unique<Modulo>();
+    int filas = kFilas;
+    for (auto _ : estado) {
+        modulo->Teclear(++filas);
+        if (filas == kFilas + 100) {
+            estado.PauseTiming();
+            modulo = std::make_unique<Modulo>();
+            filas = kFilas;
+            estado.ResumeTiming();
+        }
+    }
+}
+
+/// A series file and a workbook of the most rows that a module takes, for as long as the program runs.
+class Archivos {
+  public:
+    Archivos() {
+        EscritorSerie serie(Serie(), 1);
+        Hoja hoja;
+        for (int i = 1; i <= kFilas; ++i) {
+            const Double valor = 100 + 40 * std::sin(0.7 * i);
+            serie.Escribir({CSng(valor)});
+            hoja.Poner(i, 1, valor);
+        }
+        LibrosDeCalculo().EscribirLibro(Libro(), hoja);
+    }
+    ~Archivos() { std::filesystem::remove_all(carpeta_); }
+
+    std::string Serie() const { return carpeta_ / "serie.X"; }
+    std::string Libro() const { return carpeta_ / "serie.xlsx"; }
+
+  private:
+    static std::filesystem::path Carpeta() {
+        std::string plantilla = std::filesystem::temp_directory_path() / "medidas-XXXXXX";
+        return ::mkdtemp(plantilla.data());
+    }
+
+    std::filesystem::path carpeta_ = Carpeta();
+};
+
+/// A load through the module's button; the dialog is answered with the file.
+void Cargar(benchmark::State& estado, const char* boton, std::string (Archivos::*archivo)() const) {
+    const Archivos archivos;
+    Modulo modulo;
+    for (auto _ : estado) {
+        modulo.Responder((archivos.*archivo)());
+        modulo.Pulsar(boton);
+    }
+    if (!modulo.Bien() || modulo.Filas() != kFilas + 2) {
+        estado.SkipWithError("the load failed");
+    }
+}
+
+/// Each report goes into a document of its own.
+void Reportar(benchmark::State& estado) {
+    for (auto _ : estado) {
+        estado.PauseTiming();
+        auto modulo = std::make_unique<Modulo>();
+        modulo->Pulsar("bCalcular");
+        modulo->Pulsar("bOrdenar");
+        estado.ResumeTiming();
+        modulo->Pulsar("bReporte");
+        estado.PauseTiming();
+        if (!modulo->Bien()) {
+            estado.SkipWithError("the report failed");
+        }
+        modulo.reset();
+        estado.ResumeTiming();
+    }
+}
+
+/// The chart of 1500 pairs, as the model that the screen draws.
+void Graficar(benchmark::State& estado) {
+    Modulo modulo("frmRegreLineal");
+    for (auto _ : estado) {
+        modulo.Pulsar("bGraficar");
+    }
+    if (!modulo.Bien()) {
+        estado.SkipWithError("the chart failed");
+    }
+}
+
+BENCHMARK_CAPTURE(Cargar, Accesar_1500, "bAccesar", &Archivos::Serie)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Cargar, Excel_1500, "bCargarExcel", &Archivos::Libro)->Unit(benchmark::kMillisecond);
+BENCHMARK(Reportar)->Name("Reporte_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK(Graficar)->Name("Grafico_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Pulsar, Calcular_1500, "bCalcular")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Pulsar, Ordenar_1500, "bOrdenar")->Unit(benchmark::kMillisecond);
+BENCHMARK(TeclearUnValor)->Name("Tecla_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK(AgregarUnaFila)->Name("FilaNueva_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_60, 60)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_499, 499)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarMilSeries, MilSeries_60, 60)->Repetitions(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AjustarMilSeries, MilSeries_499, 499)->Repetitions(3)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma2_100, "frmDisGamma2par", "100")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma3_100, "frmDisGamma3par", "100")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CaudalDeDiseno, Gamma3_1000, "frmDisGamma3par", "1000")->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace cuencalia::pruebas
