@@ -5,11 +5,11 @@
 #include <ostream>
 #include <stdexcept>
 
+#include "frame/base/textos.h"
 #include "frame/controles/controles.h"
 #include "frame/controles/flexgrid.h"
 #include "frame/reportes/grafico.h"
 #include "frame/reportes/richtextbox.h"
-#include "frame/base/textos.h"
 
 namespace cuencalia {
 
@@ -299,17 +299,13 @@ T& Guion::Usable(const std::string& nombre, const char* clase) {
     if (control == nullptr) {
         throw Rechazo("no es " + std::string(clase) + ": " + nombre);
     }
-    if (!control->EsVisible()) {
+    if (!control->EsMostrable()) {
         throw Rechazo("está oculto: " + nombre);
     }
     if (!control->EsHabilitado()) {
         throw Rechazo("está inhabilitado: " + nombre);
     }
-    for (Control* dentro = control; dentro->Contenedor() != nullptr; dentro = dentro->Contenedor()) {
-        if (auto* fichas = dynamic_cast<SSTab*>(dentro->Contenedor())) {
-            app_->Despachar([&] { fichas->Tab = dentro->Pagina(); });
-        }
-    }
+    app_->Despachar([&] { control->TraerAlFrente(); });
     return *control;
 }
 

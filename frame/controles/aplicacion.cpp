@@ -6,6 +6,24 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr int kErrorInterno = 51;
+
+/// Counts an event for as long as it lasts, however it ends.
+class Profundidad {
+  public:
+    explicit Profundidad(int& cuenta) : cuenta_(cuenta) { ++cuenta_; }
+    ~Profundidad() { --cuenta_; }
+    Profundidad(const Profundidad&) = delete;
+    Profundidad& operator=(const Profundidad&) = delete;
+
+  private:
+    int& cuenta_;
+};
+
+}  // namespace
+
 Aplicacion::Aplicacion(Plataforma& plataforma, TablaFormas formas, std::string menuPrincipal)
     : plataforma_(plataforma), formas_(std::move(formas)), menuPrincipal_(std::move(menuPrincipal)) {}
 
@@ -25,6 +43,10 @@ void Aplicacion::Proteger(const std::function<void()>& accion) {
         plataforma_.MostrarError(error);
     } catch (const std::bad_alloc&) {
         plataforma_.MostrarError(ErrorEjecucion(kMemoriaInsuficiente));
+    } catch (const std::exception& fallo) {
+        plataforma_.MostrarError(ErrorEjecucion(kErrorInterno, std::string("Error interno: ") + fallo.what()));
+    } catch (...) {
+        plataforma_.MostrarError(ErrorEjecucion(kErrorInterno, "Error interno"));
     }
 }
 
@@ -32,15 +54,18 @@ void Aplicacion::Despachar(const std::function<void()>& accion) {
     if (terminada_) {
         return;
     }
-    ++profundidad_;
-    Proteger(accion);
-    while (!focosPedidos_.empty()) {
-        Proteger([this] { DoEvents(); });
+    {
+        const Profundidad evento(profundidad_);
+        Proteger(accion);
+        while (!focosPedidos_.empty()) {
+            Proteger([this] { DoEvents(); });
+        }
     }
-    --profundidad_;
     if (profundidad_ == 0) {
-        descargadas_.clear();
-        plataforma_.DespuesDeDespachar();
+        Proteger([this] {
+            descargadas_.clear();
+            plataforma_.DespuesDeDespachar();
+        });
     }
 }
 
@@ -62,7 +87,7 @@ void Aplicacion::EntregarFoco(Control& control) {
     if (anterior != nullptr) {
         try {
             anterior->LostFocus();
-        } catch (const ErrorEjecucion&) {
+        } catch (...) {
             fallo = std::current_exception();
         }
         anterior->Notificar();
@@ -183,7 +208,7 @@ Formulario& Aplicacion::ModuloAbrir(const std::string& nombre) {
         forma = nueva.get();
         try {
             forma->Cargar();
-        } catch (const ErrorEjecucion&) {
+        } catch (...) {
             Olvidar(*forma);
             throw;
         }

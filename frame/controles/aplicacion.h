@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/controles/formulario.h"
 #include "frame/base/numeros.h"
+#include "frame/controles/formulario.h"
 #include "frame/controles/plataforma.h"
 
 namespace cuencalia {
@@ -35,7 +35,8 @@ class Aplicacion {
     Plataforma& Sistema() { return plataforma_; }
 
     /// Runs what an event of the outside world starts. A run-time error that no handler trapped stops the handler at
-    /// the failing statement, is shown, and the program goes on. Focus changes still waiting are delivered at the end.
+    /// the failing statement, is shown, and the program goes on; so does any other exception. Focus changes still
+    /// waiting are delivered at the end.
     void Despachar(const std::function<void()>& accion);
     /// Delivers the focus changes that wait, in order: lost-focus of the old control, got-focus of the new one.
     void DoEvents();
@@ -82,6 +83,7 @@ class Aplicacion {
     void MsgBox(const std::string& texto, Icono icono = kSinIcono, const std::string& titulo = {}) {
         plataforma_.MsgBox(texto, icono, titulo);
     }
+    void MsgBox(const Aviso& aviso) { plataforma_.MsgBox(aviso.texto, aviso.icono, aviso.titulo); }
     /// Opens the user's manual.
     void AbrirAyuda();
 

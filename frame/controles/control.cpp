@@ -15,15 +15,27 @@ Control::~Control() = default;
 Aplicacion& Control::App() const { return forma_->App(); }
 
 void Control::SetFocus() {
-    if (!PuedeRecibirFoco()) {
+    if (!AceptaFoco() || !EsMostrable() || !EsHabilitado()) {
         throw ErrorEjecucion(kArgumentoNoValido);
     }
+    TraerAlFrente();
     App().PedirFoco(*this);
 }
 
 bool Control::TieneFoco() const { return App().Foco() == this; }
 
-bool Control::EsVisible() const { return Visible && (contenedor_ == nullptr || contenedor_->EsVisible()); }
+bool Control::EsVisible() const {
+    return Visible && (contenedor_ == nullptr || (contenedor_->MuestraPagina(pagina_) && contenedor_->EsVisible()));
+}
+
+bool Control::EsMostrable() const { return Visible && (contenedor_ == nullptr || contenedor_->EsMostrable()); }
+
+void Control::TraerAlFrente() {
+    if (contenedor_ != nullptr) {
+        contenedor_->TraerAlFrente();
+        contenedor_->MostrarPagina(pagina_);
+    }
+}
 
 bool Control::EsHabilitado() const { return Enabled && (contenedor_ == nullptr || contenedor_->EsHabilitado()); }
 

@@ -91,13 +91,17 @@ class Control {
     Evento<> MouseMove;
     Evento<int> MouseDown;  ///< BotonRaton.
 
-    /// Asks for the focus; it arrives at the next DoEvents or when the handler ends. Error 5 when the control is
-    /// hidden or disabled.
+    /// Asks for the focus; it arrives at the next DoEvents or when the handler ends. The tab page on which the control
+    /// stands comes to the front. Error 5 when the control is hidden or disabled.
     void SetFocus();
     bool TieneFoco() const;
 
-    /// Shown, and all that it stands in shown too.
+    /// Shown, and all that it stands in shown too, tab pages included.
     bool EsVisible() const;
+    /// The same as if every tab page were in front.
+    bool EsMostrable() const;
+    /// Turns every tab control around to the page on which the control stands.
+    void TraerAlFrente();
     /// Enabled, and all that it stands in enabled too.
     bool EsHabilitado() const;
     /// Whether this kind of control takes the keyboard.
@@ -112,6 +116,9 @@ class Control {
     /// Page of the tab control in which it stands (from 0), -1 elsewhere.
     int Pagina() const { return pagina_; }
     void PonerEn(Control* contenedor, int pagina = -1);
+    /// Of a tab control: whether that page is in front, and turning to it.
+    virtual bool MuestraPagina(int /*pagina*/) const { return true; }
+    virtual void MostrarPagina(int /*pagina*/) {}
 
     void PonerVista(VistaControl* vista) { vista_ = vista; }
     VistaControl* Vista() const { return vista_; }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/formulario.h"
-#include "frame/base/textos.h"
 
 namespace cuencalia {
 
@@ -153,6 +153,15 @@ Frame::Frame(Formulario& forma, std::string nombre, std::string caption) : Contr
 
 SSTab::SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos)
     : Control(forma, std::move(nombre)), titulos_(std::move(titulos)) {}
+
+/// What is typed must not go on to a page that is out of sight.
+void SSTab::AlCambiarFicha() {
+    const Control* foco = App().Foco();
+    if (foco != nullptr && &foco->Forma() == &Forma() && !foco->EsVisible() && PuedeRecibirFoco()) {
+        App().PedirFoco(*this);
+    }
+    Click();
+}
 
 void SSTab::TeclaPorDefecto(int codigo, int) {
     if (codigo == kTeclaDerecha && Tab + 1 < static_cast<int>(titulos_.size())) {

@@ -26,10 +26,6 @@ class TextBox : public Control {
     Propiedad<int> SelStart{*this};
     Propiedad<int> SelLength{*this};
     Propiedad<bool> Locked{*this};  ///< Shows a result: it can be selected and copied, not written.
-    Propiedad<std::string> FontName{*this, "Sans"};
-    Propiedad<double> FontSize{*this, 9.0};
-    /// Place in twips on the form, for a box that floats over another control.
-    Propiedad<int> Left{*this}, Top{*this}, Width{*this}, Height{*this};
 
     Evento<> Change;
 
@@ -152,12 +148,16 @@ class SSTab : public Control {
     SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos);
 
     const std::vector<std::string>& Titulos() const { return titulos_; }
-    Propiedad<int> Tab{*this, 0, [this] { Click(); }};  ///< The page in front, from 0.
+    Propiedad<int> Tab{*this, 0, [this] { AlCambiarFicha(); }};  ///< The page in front, from 0.
 
     bool AceptaFoco() const override { return true; }
+    bool MuestraPagina(int pagina) const override { return pagina == Tab; }
+    void MostrarPagina(int pagina) override { Tab = pagina; }
     void TeclaPorDefecto(int codigo, int caracter) override;
 
   private:
+    void AlCambiarFicha();
+
     std::vector<std::string> titulos_;
 };
 

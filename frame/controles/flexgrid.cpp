@@ -1,10 +1,9 @@
 #include "frame/controles/flexgrid.h"
 
 #include <algorithm>
-#include <numeric>
 
-#include "frame/controles/aplicacion.h"
 #include "frame/base/errores.h"
+#include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 
@@ -170,21 +169,6 @@ void FlexGrid::PonerRowHeight(int fila, int twips) {
     ValidarFila(fila);
     altos_[S(fila)] = twips;
     Notificar();
-}
-
-int FlexGrid::CellLeft() const {
-    int izquierda = 0;
-    for (int c = 0; c < columna_; ++c) {
-        izquierda += ColWidth(c);
-    }
-    return izquierda;
-}
-
-int FlexGrid::CellTop() const {
-    const auto alto = [this](int desde, int hasta) {
-        return std::accumulate(altos_.begin() + desde, altos_.begin() + std::max(desde, hasta), 0);
-    };
-    return alto(0, std::min(filasFijas_, fila_)) + alto(filaSuperior_, fila_);
 }
 
 void FlexGrid::Clear() {

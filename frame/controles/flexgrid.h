@@ -18,11 +18,7 @@ class FlexGrid : public Control {
   public:
     FlexGrid(Formulario& forma, std::string nombre, std::string nombreAccesible = {});
 
-    Propiedad<int> BorderStyle{*this, 1};
-    Propiedad<int> HighLight{*this, 1};
-    Propiedad<int> Left{*this}, Top{*this}, Width{*this}, Height{*this};
-    Propiedad<std::string> FontName{*this, "Sans"};
-    Propiedad<double> FontSize{*this, 9.0};
+    Propiedad<int> BorderStyle{*this, 1};  ///< 0: no border around the grid.
 
     Evento<> LeaveCell;
     Evento<> RowColChange;
@@ -67,12 +63,6 @@ class FlexGrid : public Control {
     void PonerColAlignment(int columna, int alineacion);
     int RowHeight(int fila) const;
     void PonerRowHeight(int fila, int twips);
-
-    /// Place of the current cell in the grid.
-    int CellLeft() const;
-    int CellTop() const;
-    int CellWidth() const { return ColWidth(columna_); }
-    int CellHeight() const { return RowHeight(fila_); }
 
     /// Empties every cell; the number of rows and columns stays.
     void Clear();

@@ -12,7 +12,20 @@ class Hoja;
 class Menu;
 
 /// Icon of a message box.
-enum Icono : int { kSinIcono = 0, kIconoError = 16, kIconoPregunta = 32, kIconoAdvertencia = 48, kIconoInformacion = 64 };
+enum Icono : int {
+    kSinIcono = 0,
+    kIconoError = 16,
+    kIconoPregunta = 32,
+    kIconoAdvertencia = 48,
+    kIconoInformacion = 64
+};
+
+/// What a message box says.
+struct Aviso {
+    std::string texto;
+    Icono icono = kSinIcono;
+    std::string titulo = {};  ///< Empty: the program's own.
+};
 
 /// What a file dialog is for.
 enum class ModoArchivo { Abrir, Guardar };

@@ -1,5 +1,7 @@
 #include "frame/reportes/reporte.h"
 
+#include <utility>
+
 #include "frame/base/textos.h"
 
 namespace cuencalia {
@@ -45,29 +47,51 @@ void Reporte::Titulo(std::string_view titulo) {
     ReporteBlanco();
 }
 
-void Reporte::TablaDeSerie(std::string_view titulo, const std::vector<std::string>& encabezados, FlexGrid& grid,
-                           int hasta, int guiones) {
-    Titulo(titulo);
-    LineaDeGuiones(guiones);
-    for (const std::string& encabezado : encabezados) {
-        ReporteTexto(encabezado + "\t\t");
-    }
-    ReporteBlanco();
-    LineaDeGuiones(guiones);
-    for (int fila = 1; fila <= hasta; ++fila) {
-        for (int c = 0; c < grid.Cols(); ++c) {
-            grid.PonerCelda(fila, c);
-            ReporteTexto(grid.Text() + "\t\t");
+void Reporte::EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta) {
+    Titulo(tabla.titulo);
+    LineaDeGuiones(tabla.regla);
+    ReporteLinea(tabla.encabezado);
+    LineaDeGuiones(tabla.regla);
+    const int fin = tabla.columnas > 0 ? tabla.primeraColumna + tabla.columnas : grid.Cols();
+    for (int fila = tabla.primeraFila; fila <= hasta; ++fila) {
+        for (int c = tabla.primeraColumna; c < fin; ++c) {
+            if (tabla.conCursor) {
+                grid.PonerCelda(fila, c);
+            }
+            ReporteTexto(tabla.celda(grid.TextMatrix(fila, c), fila, c));
         }
         ReporteBlanco();
     }
-    LineaDeGuiones(guiones);
+    LineaDeGuiones(tabla.reglaFinal > 0 ? tabla.reglaFinal : tabla.regla);
     ReporteBlanco();
 }
 
-void Reporte::CeldaCentrada(std::string_view texto, int ancho, int extra) {
-    const std::string relleno = Relleno(texto, ancho);
-    ReporteTexto(Space(extra) + relleno + std::string(texto) + relleno);
+Reporte::Tabla TablaDeSerie(std::string titulo, const std::vector<std::string>& encabezados, int regla) {
+    constexpr const char* kDosTabuladores = "\t\t";
+    return {.titulo = std::move(titulo),
+            .regla = regla,
+            .encabezado = UnirEncabezados(encabezados, kDosTabuladores),
+            .celda = CeldaSeguidaDe(kDosTabuladores),
+            .conCursor = true};
+}
+
+std::string UnirEncabezados(const std::vector<std::string>& encabezados, std::string_view tras) {
+    std::string linea;
+    for (const std::string& encabezado : encabezados) {
+        linea.append(encabezado).append(tras);
+    }
+    return linea;
+}
+
+Reporte::Celda CeldaSeguidaDe(std::string tras) {
+    return [tras = std::move(tras)](const std::string& texto, int, int) { return texto + tras; };
+}
+
+Reporte::Celda CeldaCentrada(int ancho, std::function<int(int, int)> extra) {
+    return [ancho, extra = std::move(extra)](const std::string& texto, int fila, int columna) {
+        const std::string relleno = Relleno(texto, ancho);
+        return Space(extra ? extra(fila, columna) : 0) + relleno + texto + relleno;
+    };
 }
 
 std::string Relleno(std::string_view texto, int ancho) { return Space(CInt(Double(ancho - Len(texto)) / 2).valor()); }

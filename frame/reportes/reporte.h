@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,21 @@ namespace cuencalia {
 /// boxes show.
 class Reporte {
   public:
+    /// How the cell of a row and a column is written, given its text: with the blanks and tabs around it.
+    using Celda = std::function<std::string(const std::string& texto, int fila, int columna)>;
+
+    /// A table of a report: title, rule, heading, rule, rows, rule, blank line.
+    struct Tabla {
+        std::string titulo;
+        int regla;               ///< Dashes of a rule.
+        std::string encabezado;  ///< With its blanks and tabs, and without its line end.
+        Celda celda;
+        int primeraFila = 1, primeraColumna = 0;
+        int columnas = 0;        ///< How many are written; 0: all to the last one.
+        int reglaFinal = 0;      ///< Dashes below the rows; 0: as the others.
+        bool conCursor = false;  ///< Whether the grid's cursor moves through the cells.
+    };
+
     explicit Reporte(EditorTextoRico& documento) : documento_(documento) {}
 
     /// Margin of a report, and centred from here on.
@@ -31,16 +47,22 @@ class Reporte {
     void Cabecera(std::string_view titulo);
     /// The title of a block, its line end and a blank line.
     void Titulo(std::string_view titulo);
-    /// The table of a data or sorted grid: title, rule, headings (two tabs behind each), rule, the rows 1 to `hasta`
-    /// with two tabs behind each cell, rule, blank line. The grid's cursor moves through the cells.
-    void TablaDeSerie(std::string_view titulo, const std::vector<std::string>& encabezados, FlexGrid& grid, int hasta,
-                      int guiones);
-    /// A text centred by blanks in `ancho` characters, with so many blanks more before it.
-    void CeldaCentrada(std::string_view texto, int ancho, int extra = 0);
+    /// The grid's rows from the table's first one to `hasta`.
+    void EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta);
 
   private:
     EditorTextoRico& documento_;
 };
+
+/// The table of a data or a sorted grid: two tabs behind each heading and each cell.
+Reporte::Tabla TablaDeSerie(std::string titulo, const std::vector<std::string>& encabezados, int regla);
+
+/// The headings joined, each with that behind it.
+std::string UnirEncabezados(const std::vector<std::string>& encabezados, std::string_view tras);
+/// A cell with that behind it.
+Reporte::Celda CeldaSeguidaDe(std::string tras);
+/// A cell centred by blanks in `ancho` characters, with so many blanks more before it as `extra` says.
+Reporte::Celda CeldaCentrada(int ancho, std::function<int(int fila, int columna)> extra = {});
 
 /// Blanks on each side that centre a text in so many characters: (width - length) / 2, a half going to the even number;
 /// none for a text that is too long.

@@ -10,14 +10,12 @@ namespace cuencalia {
 class AjustePearson3 : public MarcoAjuste {
   public:
     Pearson3 ordinarios, lineales;
-    Double &gammao = ordinarios.gamma, &betao = ordinarios.beta, &xoo = ordinarios.x0;
-    Double &gammal = lineales.gamma, &betal = lineales.beta, &xol = lineales.x0;
-    CampoParametro txtxo{*this, "txtxo", "De posición (x0):", "Parámetro de localización (Xo)= ", xoo};
-    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", gammao};
-    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", betao};
-    CampoParametro txtxol{*this, "txtxol", "De posición (x0l):", "Parámetro de localización (Xol)= ", xol};
-    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", gammal};
-    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", betal};
+    CampoParametro txtxo{*this, "txtxo", "De posición (x0):", "Parámetro de localización (Xo)= ", ordinarios.x0};
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", ordinarios.gamma};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", ordinarios.beta};
+    CampoParametro txtxol{*this, "txtxol", "De posición (x0l):", "Parámetro de localización (Xol)= ", lineales.x0};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", lineales.gamma};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", lineales.beta};
     bool paramMalOrd = false, paramMalLin = false;
 
   protected:

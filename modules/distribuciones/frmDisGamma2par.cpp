@@ -30,13 +30,13 @@ void frmDisGamma2par::Ajustar() {
 }
 
 bool frmDisGamma2par::AdmiteParametros() {
-    if (!(gammao > 0 && betao > 0)) {
+    if (!(ordinarios.gamma > 0 && ordinarios.beta > 0)) {
         lblmensaje.Caption =
             "Los datos de la serie no son recomendables utilizarlos con distribución gamma de 3 parámetros, "
             "puesto que esta distribución, no puede tener parametros gamma o beta negativos";
         return false;
     }
-    if (gammal == 0 || betal == 0) {
+    if (lineales.gamma == 0 || lineales.beta == 0) {
         lblmensaje.Caption =
             "Los parámetros de la distribución gamma, calculados por el método de los momentos lineales, son "
             "incorrectos";

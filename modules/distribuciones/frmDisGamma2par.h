@@ -11,15 +11,10 @@ class frmDisGamma2par : public MarcoAjuste {
     explicit frmDisGamma2par(Aplicacion& app);
 
     Gamma2 ordinarios, lineales;
-    Double &gammao = ordinarios.gamma, &betao = ordinarios.beta;
-    Double &gammal = lineales.gamma, &betal = lineales.beta;
-    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", gammao};
-    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", betao};
-    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", gammal};
-    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", betal};
-
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriGamma2(reporte); }
-    void ReporteDistriGamma2(Reporte& reporte) { ReportarAjuste(reporte); }
+    CampoParametro txtgamma{*this, "txtgamma", "De forma (gamma):", "Parámetro de forma (gamma)= ", ordinarios.gamma};
+    CampoParametro txtbeta{*this, "txtbeta", "De escala (beta):", "Parámetro de escala (beta)= ", ordinarios.beta};
+    CampoParametro txtgammal{*this, "txtgammal", "De forma (gammal):", "Parámetro de forma (gammal)= ", lineales.gamma};
+    CampoParametro txtbetal{*this, "txtbetal", "De escala (betal):", "Parámetro de escala (betal)= ", lineales.beta};
 
   protected:
     void Ajustar() override;

@@ -8,9 +8,6 @@ namespace cuencalia {
 class frmDisGamma3par : public AjustePearson3 {
   public:
     explicit frmDisGamma3par(Aplicacion& app);
-
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriGamma3(reporte); }
-    void ReporteDistriGamma3(Reporte& reporte) { ReportarAjuste(reporte); }
 };
 
 }  // namespace cuencalia

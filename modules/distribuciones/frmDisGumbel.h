@@ -8,9 +8,6 @@ namespace cuencalia {
 class frmDisGumbel : public AjusteGumbel {
   public:
     explicit frmDisGumbel(Aplicacion& app);
-
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriGumbel(reporte); }
-    void ReporteDistriGumbel(Reporte& reporte) { ReportarAjuste(reporte); }
 };
 
 }  // namespace cuencalia

@@ -8,9 +8,6 @@ namespace cuencalia {
 class frmDisLogGumbel : public AjusteGumbel {
   public:
     explicit frmDisLogGumbel(Aplicacion& app);
-
-    void GenerarReporte(Reporte& reporte) override { ReporteDistrilogGumbel(reporte); }
-    void ReporteDistrilogGumbel(Reporte& reporte) { ReportarAjuste(reporte); }
 };
 
 }  // namespace cuencalia

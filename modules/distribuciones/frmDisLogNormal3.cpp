@@ -41,7 +41,7 @@ void frmDisLogNormal3::Ajustar() {
 }
 
 std::optional<Double> frmDisLogNormal3::Probabilidad(Double Q, Evaluacion evaluacion) {
-    if (Q - x0 > 0) {
+    if (Q - distribucion.x0 > 0) {
         return distribucion.Probabilidad(Q);
     }
     std::string mensaje = "Para este valor, no es posible calcular ";

@@ -12,13 +12,9 @@ class frmDisLogNormal3 : public MarcoAjuste {
     explicit frmDisLogNormal3(Aplicacion& app);
 
     LogNormal3 distribucion;
-    Double &x0 = distribucion.x0, &uy = distribucion.uy, &sy = distribucion.sy;
-    CampoParametro txtxo{*this, "txtxo", "De posición (xo):", "Parámetro de posición (xo)= ", x0};
-    CampoParametro txtux{*this, "txtux", "De escala (µy):", "Parámetro de escala (µy)= ", uy};
-    CampoParametro txtsx{*this, "txtsx", "De forma (Sy):", "Parámetro de forma (Sy)= ", sy};
-
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriLogNormal3(reporte); }
-    void ReporteDistriLogNormal3(Reporte& reporte) { ReportarAjuste(reporte); }
+    CampoParametro txtxo{*this, "txtxo", "De posición (xo):", "Parámetro de posición (xo)= ", distribucion.x0};
+    CampoParametro txtux{*this, "txtux", "De escala (µy):", "Parámetro de escala (µy)= ", distribucion.uy};
+    CampoParametro txtsx{*this, "txtsx", "De forma (Sy):", "Parámetro de forma (Sy)= ", distribucion.sy};
 
   protected:
     bool AdmiteDatos() override;

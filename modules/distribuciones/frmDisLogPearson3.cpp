@@ -16,13 +16,15 @@ frmDisLogPearson3::frmDisLogPearson3(Aplicacion& app)
                       .patronDeltaTeorico = "#####0.0####",
                       .patronDeltaTabular = "###0.0###",
                       .patronP = "###.0#"},
-                     kLogPearson3, "Log-Pearson tipo 3") {}
+                     kLogPearson3, "Log-Pearson tipo 3") {
+    AvisarFallos(
+        {"Sus datos no se ajustan a la distribución log-Pearson tipo 3. Guarde sus datos y pruebe ajustar con otra "
+         "distribución ",
+         kIconoInformacion, "Mensaje de error"});
+}
 
 void frmDisLogPearson3::AlFallar() {
-    App().MsgBox(
-        "Sus datos no se ajustan a la distribución log-Pearson tipo 3. Guarde sus datos y pruebe ajustar con otra "
-        "distribución ",
-        kIconoInformacion, "Mensaje de error");
+    AjustePearson3::AlFallar();
     calculado = false;
 }
 

@@ -9,9 +9,6 @@ class frmDisLogPearson3 : public AjustePearson3 {
   public:
     explicit frmDisLogPearson3(Aplicacion& app);
 
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriLogPearson3(reporte); }
-    void ReporteDistriLogPearson3(Reporte& reporte) { ReportarAjuste(reporte); }
-
   protected:
     void AlFallar() override;
 };

@@ -2,7 +2,6 @@
 
 #include "frame/base/textos.h"
 #include "modules/estadistica/orden.h"
-#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
@@ -22,7 +21,6 @@ CampoParametro::CampoParametro(Formulario& forma, const char* nombre, const char
       caja(forma, nombre),
       enReporte(enElReporte),
       valor(suValor) {
-    caja.Locked = true;
     etiqueta.Nombra(caja);
 }
 
@@ -35,21 +33,30 @@ TipoDeAjuste::TipoDeAjuste(Formulario& forma, const DescripcionAjuste& descripci
 
 MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion)
     : ModuloCalculo(app, std::move(nombre),
-                    {.titulo = descripcion.titulo, .encabezados = {"N°", "X"}, .archivo = &kArchivoX}),
+                    {.titulo = descripcion.titulo, .datos = {.encabezados = {"N°", "X"}}, .archivo = &kArchivoX}),
       fraParametros(*this, "fraParametros", descripcion.marcoParametros),
+      grddis(*this, "grddis", "Prueba de Smirnov-Kolmogorov",
+             {.filas = kFilasTabla,
+              .columnas = {{"m", 700},
+                           {"X", 1000},
+                           {"P(X)", 1000},
+                           {descripcion.encabezadosTeoricos[0], 1200},
+                           {descripcion.encabezadosTeoricos[1], 1300},
+                           {"Delta", 1000}}}),
       ajuste_(std::move(descripcion)) {
     if (ajuste_.porAmbosMomentos) {
         tipo.emplace(*this, ajuste_);
     }
     LeerEn({&x});
-    AgregarBotones({{&bGraficar, "graficar"}});
-    for (CommandButton* boton : {&bQ, &bT, &bPmayor, &bPmenor}) {
-        AgregarBoton(*boton, "evaluar");
-    }
+    AvisarFallos(kDatosInadecuados);
+    DeclararTablas({&grddis});
+    DeclararBotones({{&bGraficar, "graficar"}},
+                    {{&bQ, "evaluar"}, {&bT, "evaluar"}, {&bPmayor, "evaluar"}, {&bPmenor, "evaluar"}});
+    DeclararEntradas({&txtxt, &txtxq});
+    DeclararResultados({&txtxp});
     lblT.Nombra(txtxt);
     lblQ.Nombra(txtxq);
     lblP.Nombra(txtxp);
-    txtxp.Locked = true;
     MostrarEjes(false);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     bQ.Click.Conectar([this] { bQ_Click(); });
@@ -61,31 +68,11 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
 void MarcoAjuste::DeclararParametros(Campos ordinarios, Campos lineales) {
     ordinarios_ = std::move(ordinarios);
     lineales_ = std::move(lineales);
-}
-
-void MarcoAjuste::InicializarDistri() {
-    IniciarTabla(grddis, kFilasTabla,
-                 {"m", "X", "P(X)", ajuste_.encabezadosTeoricos.at(0), ajuste_.encabezadosTeoricos.at(1), "Delta"},
-                 1000);
-    grddis.PonerFixedRows(1);
-    grddis.PonerFixedCols(0);
-    grddis.PonerColWidth(0, 700);
-    grddis.PonerColWidth(3, 1200);
-    grddis.PonerColWidth(4, 1300);
-}
-
-void MarcoAjuste::LimpiarDatos() {
-    for (TextBox* caja : {&txtxq, &txtxt, &txtxp}) {
-        caja->Text = "";
-    }
     for (const auto* parametros : {&ordinarios_, &lineales_}) {
         for (CampoParametro* p : *parametros) {
-            p->caja.Text = "";
+            DeclararResultados({&p->caja});
         }
     }
-    calculado = false;
-    lblmensaje.Caption = "";
-    lblAjuste.Caption = kAjusteEnReposo;
 }
 
 void MarcoAjuste::MostrarEjes(bool visibles) {
@@ -99,19 +86,11 @@ void MarcoAjuste::LimpiarGrafico() {
 }
 
 void MarcoAjuste::LimpiarOtros() {
-    LimpiarDatos();
+    calculado = false;
+    lblmensaje.Caption = "";
+    lblAjuste.Caption = kAjusteEnReposo;
     LimpiarGrafico();
 }
-
-void MarcoAjuste::bCalcular_Click() {
-    try {
-        Calcular();
-    } catch (const ErrorEjecucion&) {
-        AlFallar();
-    }
-}
-
-void MarcoAjuste::AlFallar() { App().MsgBox("Ingresar datos adecuadamente ", kIconoInformacion, "Mensaje de error"); }
 
 void MarcoAjuste::Calcular() {
     CargarMatrices();
@@ -160,19 +139,12 @@ void MarcoAjuste::MostrarParametros() {
 void MarcoAjuste::LlenarTabla() {
     const auto [tercera, cuarta] = Teoricas();
     for (int i = 1; i <= n; ++i) {
-        grddis.PonerTextMatrix(i, 0, CStr(i));
-        grddis.PonerTextMatrix(i, 1, Format(xo(i), kPatronParametro));
-        grddis.PonerTextMatrix(i, 2, Format(PX(i), kPatronProbabilidad));
-        grddis.PonerTextMatrix(i, 3, Format(tercera(i), kPatronProbabilidad));
-        grddis.PonerTextMatrix(i, 4, Format(cuarta(i), kPatronProbabilidad));
-        grddis.PonerTextMatrix(i, 5, Format(Delta(i), kPatronProbabilidad));
+        grddis.PonerFila(i, {CStr(i), Format(xo(i), kPatronParametro), Format(PX(i), kPatronProbabilidad),
+                             Format(tercera(i), kPatronProbabilidad), Format(cuarta(i), kPatronProbabilidad),
+                             Format(Delta(i), kPatronProbabilidad)});
     }
     // A longer series may have been fitted before: its last rows belong to no value of this one.
-    for (int i = n + 1; i < grddis.Rows() && !grddis.TextMatrix(i, 0).empty(); ++i) {
-        for (int c = 0; c < grddis.Cols(); ++c) {
-            grddis.PonerTextMatrix(i, c, "");
-        }
-    }
+    grddis.VaciarDesde(n + 1);
 }
 
 const NivelSignificacion& MarcoAjuste::Nivel() const {
@@ -196,8 +168,7 @@ void MarcoAjuste::EscribirVeredicto(Double deltaTeorico, Double deltaTabular, co
 }
 
 bool MarcoAjuste::Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta) {
-    if (!calculado) {
-        App().MsgBox("Efectuar cálculos antes de evaluar " + magnitud, kIconoError, kTituloAviso);
+    if (!ExigirCalculo({"Efectuar cálculos antes de evaluar " + magnitud, kIconoError, kTituloAviso})) {
         return false;
     }
     if (entrada.Text().empty()) {
@@ -239,12 +210,11 @@ void MarcoAjuste::EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitu
 }
 
 void MarcoAjuste::bGraficar_Click() {
-    if (!calculado) {
-        App().MsgBox("Efectuar cálculos antes de graficar", kIconoError, kTituloAviso);
+    if (!ExigirCalculo()) {
         return;
     }
     if (n <= 1) {
-        App().MsgBox("Para graficar se requiere por lo menos dos puntos", kIconoError, "Error");
+        App().MsgBox(kGraficarSinPuntos);
         return;
     }
     PX(0) = Gord(0) = Glin(0) = 0;
@@ -261,32 +231,26 @@ void MarcoAjuste::bGraficar_Click() {
     MostrarEjes(true);
 }
 
-void MarcoAjuste::ReportarTabla(Reporte& reporte) const {
-    constexpr int kRegla = 130;
+void MarcoAjuste::ReportarTabla(Reporte& reporte) {
     constexpr int kAnchoCelda = 18;
-    reporte.Titulo("Cálculos del ajuste Smirnov Kolmogorov:");
-    reporte.LineaDeGuiones(kRegla);
-    reporte.ReporteTexto("        m  \t");
-    reporte.ReporteTexto("        X  \t");
-    reporte.ReporteTexto("                 P(X)  ");
     std::vector<std::string> encabezados = ajuste_.encabezadosReporte;
     if (encabezados.empty()) {
         encabezados = {ajuste_.encabezadosTeoricos[0] + " ", ajuste_.encabezadosTeoricos[1] + " ", "Delta "};
     }
+    std::string linea = "        m  \t        X  \t                 P(X)  ";
     for (const std::string& encabezado : encabezados) {
-        reporte.ReporteTexto("   " + encabezado);
+        linea += "   " + encabezado;
     }
-    reporte.ReporteBlanco();
-    reporte.LineaDeGuiones(kRegla);
     // The table ends with the rows that the last fit has filled.
-    for (int fila = 1; fila < grddis.Rows() && !grddis.TextMatrix(fila, 0).empty(); ++fila) {
-        for (int c = 0; c < grddis.Cols(); ++c) {
-            reporte.CeldaCentrada(grddis.TextMatrix(fila, c), kAnchoCelda, fila == 1 ? 1 : 0);
-        }
-        reporte.ReporteBlanco();
+    int filas = 0;
+    while (filas + 1 < grddis.Rows() && !grddis.TextMatrix(filas + 1, 0).empty()) {
+        ++filas;
     }
-    reporte.LineaDeGuiones(kRegla);
-    reporte.ReporteBlanco();
+    reporte.EscribirTabla({.titulo = "Cálculos del ajuste Smirnov Kolmogorov:",
+                           .regla = 130,
+                           .encabezado = linea,
+                           .celda = CeldaCentrada(kAnchoCelda, [](int fila, int) { return fila == 1 ? 1 : 0; })},
+                          grddis, filas);
 }
 
 void MarcoAjuste::ReportarParametros(Reporte& reporte) const {
@@ -306,11 +270,11 @@ void MarcoAjuste::ReportarParametros(Reporte& reporte) const {
     lineas(lineales_);
 }
 
-void MarcoAjuste::ReportarAjuste(Reporte& reporte) {
+void MarcoAjuste::GenerarReporte(Reporte& reporte) {
     constexpr int kReglaSerie = 40;
     constexpr int kReglaVeredicto = 55;
     constexpr int kReglaDiseno = 30;
-    reporte.TablaDeSerie("Serie de datos X:", {" N°", " X"}, grdt, grdt.Rows() - 2, kReglaSerie);
+    reporte.EscribirTabla(TablaDeSerie("Serie de datos X:", {" N°", " X"}, kReglaSerie), datos.grdt, datos.Filas());
     reporte.ReporteBlanco();
     reporte.ReporteBlanco();
     ReportarTabla(reporte);
@@ -329,8 +293,6 @@ void MarcoAjuste::ReportarAjuste(Reporte& reporte) {
     reporte.ReporteLinea("El caudal de diseño para un periodo de retorno de " + txtxt.Text() + " años, es " +
                          txtxq.Text());
 }
-
-std::vector<Disposicion> MarcoAjuste::BotonesAccion() { return {bCalcular, bGraficar, bLimpiar, bImprimir, bMenu}; }
 
 Disposicion MarcoAjuste::ZonaParametros() {
     const auto tabla = [](const Campos& campos) {

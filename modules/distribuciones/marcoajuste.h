@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "frame/modulo/modulocalculo.h"
 #include "frame/reportes/grafico.h"
-#include "frame/modulo/modulo.h"
 #include "modules/distribuciones/smirnovkolmogorov.h"
 
 namespace cuencalia {
@@ -75,7 +75,7 @@ class MarcoAjuste : public ModuloCalculo {
     CommandButton bT{*this, "bT", "T=f(Q)", "Periodo de retorno"};
     CommandButton bPmayor{*this, "bPmayor", "P(Q>q)", "Probabilidad de excedencia"};
     CommandButton bPmenor{*this, "bPmenor", "P(Q<q)", "Probabilidad de no excedencia"};
-    FlexGrid grddis{*this, "grddis", "Prueba de Smirnov-Kolmogorov"};
+    Tabla grddis;
     Label lblAjuste{*this, "lblAjuste", "Ajuste:", Papel::Encabezado};
     Label lblmensaje{*this, "lblmensaje", {}, Papel::Resultado};
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
@@ -90,18 +90,15 @@ class MarcoAjuste : public ModuloCalculo {
     Probabilidades Gord, Glin;  ///< Theoretical probability of xo by ordinary and by linear moments.
     Serie Yord, Ylin;           ///< Reduced variable of xo by each.
     Serie Delta;
-    bool calculado = false;
 
-    void InicializarResultados() override { InicializarDistri(); }
-    void InicializarDistri();
     void LimpiarGrafico();
-    void LimpiarDatos();
-    void bCalcular_Click() override;
     void bGraficar_Click();
     void bQ_Click();
     void bT_Click();
     void bPmayor_Click();
     void bPmenor_Click();
+    /// The series, the test table, the verdict, the parameters and the design discharge.
+    void GenerarReporte(Reporte& reporte) override;
 
   protected:
     enum class Evaluacion { PeriodoRetorno, Excedencia, NoExcedencia };
@@ -124,8 +121,6 @@ class MarcoAjuste : public ModuloCalculo {
     virtual void Ajustar() = 0;
     /// Whether the parameters let the test go on; says why not.
     virtual bool AdmiteParametros() { return true; }
-    /// What is told when the calculation fails.
-    virtual void AlFallar();
     /// Whether the chosen parameters can be evaluated; says why not.
     virtual bool PuedeEvaluar() { return true; }
     /// The discharge of a non-exceedance probability, by the chosen parameters.
@@ -136,15 +131,11 @@ class MarcoAjuste : public ModuloCalculo {
     virtual std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const { return {Gord, Glin}; }
     virtual void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel);
 
-    /// The series, the test table, the verdict, the parameters and the design discharge.
-    void ReportarAjuste(Reporte& reporte);
-
+    void Calcular() override;
     void LimpiarOtros() override;
     Disposicion Contenido() override;
-    std::vector<Disposicion> BotonesAccion() override;
 
   private:
-    void Calcular();
     void MostrarParametros();
     void MostrarEjes(bool visibles);
     void LlenarTabla();
@@ -152,7 +143,7 @@ class MarcoAjuste : public ModuloCalculo {
     /// Whether there is a fit to evaluate and a value to evaluate it at; says what is missing.
     bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
     void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
-    void ReportarTabla(Reporte& reporte) const;
+    void ReportarTabla(Reporte& reporte);
     void ReportarParametros(Reporte& reporte) const;
     Disposicion ZonaParametros();
     Disposicion ZonaDiseno();

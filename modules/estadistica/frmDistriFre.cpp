@@ -2,24 +2,18 @@
 
 #include "frame/base/textos.h"
 #include "modules/estadistica/reporteestadistica.h"
-#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
 frmDistriFre::frmDistriFre(Aplicacion& app)
     : ModuloSerie(app, "frmDistriFre", "Cálculo de la distribución de frecuencia de una muestra") {
-    AgregarBotones({{&orden.bOrdenar, "ordenar"}, {&bGraficar, "graficar"}});
+    DeclararTablas({&grddis});
+    DeclararBotones({{&orden.bOrdenar, "ordenar"}, {&bGraficar, "graficar"}});
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     optDensidad.Click.Conectar([this] { optDensidad_Click(); });
     optAcumulada.Click.Conectar([this] { optAcumulada_Click(); });
     fraTipoGrafico.Visible = false;
     MostrarRotulos(false);
-}
-
-void frmDistriFre::InicializarDistri() {
-    IniciarTabla(grddis, 2, {"LCI", "MCL", "LCS", "FreAbsoluta", "FreRelativa", "FunDensidad", "FunAcumulada"}, 1100);
-    grddis.PonerFixedRows(1);
-    grddis.PonerFixedCols(0);
 }
 
 void frmDistriFre::MostrarRotulos(bool visibles) {
@@ -35,7 +29,7 @@ void frmDistriFre::LimpiarOtros() {
     calculado = false;
 }
 
-void frmDistriFre::bCalcular_Click() {
+void frmDistriFre::Calcular() {
     CargarMatrices();
     OrdenarCopia();
     clases = FormarClases(xo, n);
@@ -49,13 +43,9 @@ void frmDistriFre::bCalcular_Click() {
     }
     grddis.PonerRows(NC + 1);
     for (int i = 1; i <= NC; ++i) {
-        grddis.PonerTextMatrix(i, 0, Format(clases.LCI(i), "0.0#"));
-        grddis.PonerTextMatrix(i, 1, Format(clases.MCL(i), "0.0#"));
-        grddis.PonerTextMatrix(i, 2, Format(clases.LCS(i), "0.0#"));
-        grddis.PonerTextMatrix(i, 3, Format(clases.FA(i), "##0"));
-        grddis.PonerTextMatrix(i, 4, Format(FR(i), "0.###0"));
-        grddis.PonerTextMatrix(i, 5, Format(FD(i), "0.###0"));
-        grddis.PonerTextMatrix(i, 6, Format(FAc(i), "0.#0"));
+        grddis.PonerFila(
+            i, {Format(clases.LCI(i), "0.0#"), Format(clases.MCL(i), "0.0#"), Format(clases.LCS(i), "0.0#"),
+                Format(clases.FA(i), "##0"), Format(FR(i), "0.###0"), Format(FD(i), "0.###0"), Format(FAc(i), "0.#0")});
     }
     calculado = true;
 }
@@ -77,11 +67,10 @@ void frmDistriFre::Dibujar(const char* funcion, const Clases::Columna& ordenadas
     lblFuncion.Caption = funcion;
     const int NC = clases.NC.valor();
     if (NC <= 1) {
-        App().MsgBox("Para graficar se requiere por lo menos dos puntos", kIconoError, "Error");
+        App().MsgBox(kGraficarSinPuntos);
         return;
     }
-    if (!calculado) {
-        App().MsgBox("Ejecutar cálculos antes de graficar");
+    if (!ExigirCalculo({"Ejecutar cálculos antes de graficar"})) {
         return;
     }
     // The curve starts at the origin of the axes, whatever the first class is.
@@ -93,26 +82,13 @@ void frmDistriFre::Dibujar(const char* funcion, const Clases::Columna& ordenadas
     GraficoDibujar(Graph1, {.conTrama = true}, {serie});
 }
 
-void frmDistriFre::ReporteDistriFre(Reporte& reporte) {
-    constexpr int kRegla = 153;
-    ReportarSerie(reporte, grdt);
-    reporte.Titulo("Distribución de Frecuencias:");
-    reporte.LineaDeGuiones(kRegla);
-    reporte.ReporteTexto("        LCI  \t");
-    reporte.ReporteTexto("        MCL  \t");
-    for (const char* encabezado : {"        LCS  ", "FreAbsoluta ", "FreRelativa ", "FunDensidad "}) {
-        reporte.ReporteTexto(std::string("   ") + encabezado);
-    }
-    reporte.ReporteLinea("FunAcumulada ");
-    reporte.LineaDeGuiones(kRegla);
-    ReportarClases(reporte, grddis);
-    reporte.LineaDeGuiones(kRegla);
-    reporte.ReporteBlanco();
+void frmDistriFre::GenerarReporte(Reporte& reporte) {
+    ReportarSerie(reporte, datos.grdt);
+    ReportarClases(reporte, grddis, "Distribución de Frecuencias:",
+                   "        LCI  \t        MCL  \t           LCS     FreAbsoluta    FreRelativa    FunDensidad "
+                   "FunAcumulada ",
+                   153);
     ReportarOrdenados(reporte, orden.grdorden);
-}
-
-std::vector<Disposicion> frmDistriFre::BotonesAccion() {
-    return {bCalcular, orden.bOrdenar, bGraficar, bLimpiar, bImprimir, bMenu};
 }
 
 Disposicion frmDistriFre::Contenido() {

@@ -3,6 +3,7 @@
 #include "frame/reportes/grafico.h"
 #include "modules/estadistica/clases.h"
 #include "modules/estadistica/moduloserie.h"
+#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
@@ -11,7 +12,8 @@ class frmDistriFre : public ModuloSerie {
   public:
     explicit frmDistriFre(Aplicacion& app);
 
-    FlexGrid grddis{*this, "grddis", "Distribución de frecuencias"};
+    Tabla grddis{*this, "grddis", "Distribución de frecuencias",
+                 TablaDeClases({"LCI", "MCL", "LCS", "FreAbsoluta", "FreRelativa", "FunDensidad", "FunAcumulada"})};
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
     Frame fraTipoGrafico{*this, "fraTipoGrafico", "Tipo de gráfico:"};
     OptionButton optDensidad{*this, "optDensidad", "F. Densidad"};
@@ -25,21 +27,16 @@ class frmDistriFre : public ModuloSerie {
     Clases::Columna FR;   ///< Relative frequency, percent.
     Clases::Columna FD;   ///< Density, percent by unit of the series.
     Clases::Columna FAc;  ///< Cumulative frequency, percent.
-    bool calculado = false;
 
-    void InicializarResultados() override { InicializarDistri(); }
-    void InicializarDistri();
-    void bCalcular_Click() override;
     void bGraficar_Click();
     void optDensidad_Click();
     void optAcumulada_Click();
-    void GenerarReporte(Reporte& reporte) override { ReporteDistriFre(reporte); }
-    void ReporteDistriFre(Reporte& reporte);
+    void GenerarReporte(Reporte& reporte) override;
 
   protected:
+    void Calcular() override;
     void LimpiarOtros() override;
     Disposicion Contenido() override;
-    std::vector<Disposicion> BotonesAccion() override;
 
   private:
     void MostrarRotulos(bool visibles);

@@ -2,6 +2,7 @@
 
 #include "modules/estadistica/clases.h"
 #include "modules/estadistica/moduloserie.h"
+#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
@@ -10,19 +11,15 @@ class frmParEstAgru : public ModuloSerie {
   public:
     explicit frmParEstAgru(Aplicacion& app);
 
-    FlexGrid grddis{*this, "grddis", "Frecuencias absolutas"};
-    FlexGrid grdParam{*this, "grdParam", "Parámetros estadísticos"};
+    Tabla grddis{*this, "grddis", "Frecuencias absolutas", TablaDeClases({"LCI", "MCL", "LCS", "Fab"})};
+    Tabla grdParam{*this, "grdParam", "Parámetros estadísticos", TablaDeParametros({"Resultados"})};
 
     Clases clases;
 
-    void InicializarResultados() override;
-    void InicializarDistri();
-    void InicializarParam();
-    void bCalcular_Click() override;
-    void GenerarReporte(Reporte& reporte) override { ReporteParamEsta(reporte); }
-    void ReporteParamEsta(Reporte& reporte);
+    void GenerarReporte(Reporte& reporte) override;
 
   protected:
+    void Calcular() override;
     Disposicion Contenido() override;
 };
 

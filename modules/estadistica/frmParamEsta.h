@@ -1,6 +1,7 @@
 #pragma once
 
 #include "modules/estadistica/moduloserie.h"
+#include "modules/estadistica/tablaparametros.h"
 
 namespace cuencalia {
 
@@ -9,20 +10,17 @@ class frmParamEsta : public ModuloSerie {
   public:
     explicit frmParamEsta(Aplicacion& app);
 
-    FlexGrid grdParam{*this, "grdParam", "Parámetros estadísticos"};
+    Tabla grdParam{*this, "grdParam", "Parámetros estadísticos",
+                   TablaDeParametros({"Muestrales", "Poblacionales", "Momentos Lineales"})};
     Frame Frame8{*this, "Frame8", "Coeficientes Lineales:"};
     Label lblL1{*this, "lblL1", "L1:"}, lblL2{*this, "lblL2", "L2:"};
     Label lblL3{*this, "lblL3", "L3:"}, lblL4{*this, "lblL4", "L4:"};
     TextBox txtL1{*this, "txtL1"}, txtL2{*this, "txtL2"}, txtL3{*this, "txtL3"}, txtL4{*this, "txtL4"};
 
-    void InicializarResultados() override { InicializarParam(); }
-    void InicializarParam();
-    void bCalcular_Click() override;
-    void GenerarReporte(Reporte& reporte) override { ReporteParamEsta(reporte); }
-    void ReporteParamEsta(Reporte& reporte);
+    void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void LimpiarOtros() override;
+    void Calcular() override;
     Disposicion Contenido() override;
 };
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "frame/base/numeros.h"
 #include "frame/controles/controles.h"
 #include "frame/controles/disposicion.h"
-#include "frame/controles/flexgrid.h"
-#include "frame/base/numeros.h"
+#include "frame/modulo/tabla.h"
 
 namespace cuencalia {
 
@@ -14,7 +14,7 @@ class ListaOrdenada {
 
     CommandButton bOrdenar;
     Label lblOrdenado;
-    FlexGrid grdorden;
+    Tabla grdorden;
 
     void MostrarGrid() { PonerVisible(true); }
     void OcultarGrid() { PonerVisible(false); }

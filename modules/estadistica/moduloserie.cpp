@@ -6,7 +6,7 @@ namespace cuencalia {
 
 ModuloSerie::ModuloSerie(Aplicacion& app, std::string nombre, std::string titulo)
     : ModuloCalculo(app, std::move(nombre),
-                    {.titulo = std::move(titulo), .encabezados = {"N°", "X"}, .archivo = &kArchivoX}) {
+                    {.titulo = std::move(titulo), .datos = {.encabezados = {"N°", "X"}}, .archivo = &kArchivoX}) {
     LeerEn({&x});
     orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
 }
@@ -21,10 +21,6 @@ void ModuloSerie::bOrdenar_Click() {
     CargarMatrices();
     OrdenarCopia();
     orden.Llenar(xo, n);
-}
-
-std::vector<Disposicion> ModuloSerie::BotonesAccion() {
-    return {bCalcular, orden.bOrdenar, bLimpiar, bImprimir, bMenu};
 }
 
 }  // namespace cuencalia

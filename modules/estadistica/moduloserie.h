@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "frame/modulo/modulo.h"
+#include "frame/modulo/modulocalculo.h"
 #include "modules/estadistica/listaordenada.h"
 
 namespace cuencalia {
@@ -22,7 +22,6 @@ class ModuloSerie : public ModuloCalculo {
 
   protected:
     void LimpiarOtros() override { orden.OcultarGrid(); }
-    std::vector<Disposicion> BotonesAccion() override;
 
     /// Sorts a copy of the series that was read last.
     void OrdenarCopia();

@@ -2,47 +2,27 @@
 
 namespace cuencalia {
 
-namespace {
-
-constexpr int kAltoEncabezado = 340;
-
-constexpr std::array<const char*, 6> kRotulos{
-    "Media:                      ", "Varianza:                   ", "Desviación Estándar:        ",
-    "Coeficiente Variación:      ", "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "};
-
-}  // namespace
-
-void IniciarTabla(FlexGrid& grid, int filas, const std::vector<std::string>& encabezados, int ancho) {
-    grid.Clear();
-    grid.PonerRows(filas);
-    grid.PonerCols(static_cast<int>(encabezados.size()));
-    for (int c = 0; c < grid.Cols(); ++c) {
-        grid.PonerColWidth(c, ancho);
-        grid.PonerColAlignment(c, kAlinearCentro);
+DescripcionTabla TablaDeParametros(const std::vector<std::string>& encabezados) {
+    DescripcionTabla d{.filas = 7, .columnas = {{"Parámetros", 2050}}, .columnasFijas = 1, .borde = 0};
+    for (const std::string& encabezado : encabezados) {
+        d.columnas.push_back({encabezado, 1750});
     }
-    grid.PonerRowHeight(0, kAltoEncabezado);
-    grid.PonerEncabezados(encabezados);
+    return d;
 }
 
-void IniciarTablaParametros(FlexGrid& grid, const std::vector<std::string>& encabezados) {
-    IniciarTabla(grid, 7, encabezados, 1750);
-    grid.PonerFixedRows(1);
-    grid.PonerFixedCols(1);
-    grid.PonerColWidth(0, 2050);
-    grid.BorderStyle = 0;
+void RotularParametros(Tabla& tabla) {
+    tabla.PonerColAlignment(0, kAlinearIzquierda);
+    tabla.PonerColumna(
+        0, {"Media:                      ", "Varianza:                   ", "Desviación Estándar:        ",
+            "Coeficiente Variación:      ", "Coeficiente de Sesgo:       ", "Coeficiente de Curtosis:    "});
 }
 
-void RotularParametros(FlexGrid& grid) {
-    grid.PonerColAlignment(0, kAlinearIzquierda);
-    for (std::size_t i = 0; i < kRotulos.size(); ++i) {
-        grid.PonerTextMatrix(static_cast<int>(i) + 1, 0, kRotulos[i]);
+DescripcionTabla TablaDeClases(const std::vector<std::string>& encabezados) {
+    DescripcionTabla d{.filas = 2, .columnas = {}};
+    for (const std::string& encabezado : encabezados) {
+        d.columnas.push_back({encabezado, 1100});
     }
-}
-
-void MostrarParametros(FlexGrid& grid, int columna, const ColumnaParametros& textos) {
-    for (std::size_t i = 0; i < textos.size(); ++i) {
-        grid.PonerTextMatrix(static_cast<int>(i) + 1, columna, textos[i]);
-    }
+    return d;
 }
 
 }  // namespace cuencalia

@@ -1,23 +1,19 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
-#include "frame/controles/flexgrid.h"
+#include "frame/modulo/tabla.h"
 
 namespace cuencalia {
 
-/// The texts of mean, variance, standard deviation and coefficients of variation, skewness and kurtosis, in that order.
-using ColumnaParametros = std::array<std::string, 6>;
-
-/// The empty table of the six parameters, one column of figures for each heading but the first.
-void IniciarTablaParametros(FlexGrid& grid, const std::vector<std::string>& encabezados);
+/// The table of mean, variance, standard deviation and coefficients of variation, skewness and kurtosis, a column of
+/// figures for each heading.
+DescripcionTabla TablaDeParametros(const std::vector<std::string>& encabezados);
 /// Names the rows of the table.
-void RotularParametros(FlexGrid& grid);
-void MostrarParametros(FlexGrid& grid, int columna, const ColumnaParametros& textos);
+void RotularParametros(Tabla& tabla);
 
-/// An empty table with centred columns of the same width.
-void IniciarTabla(FlexGrid& grid, int filas, const std::vector<std::string>& encabezados, int ancho);
+/// The table of the classes of a series, one column for each heading.
+DescripcionTabla TablaDeClases(const std::vector<std::string>& encabezados);
 
 }  // namespace cuencalia

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "frame/modulo/modulocalculo.h"
 #include "frame/reportes/grafico.h"
-#include "frame/modulo/modulo.h"
 
 namespace cuencalia {
 
@@ -10,7 +10,10 @@ class frmRegreLineal : public ModuloCalculo {
   public:
     explicit frmRegreLineal(Aplicacion& app);
 
-    FlexGrid grdecua{*this, "grdecua", "Ecuación de ajuste"};
+    Tabla grdecua{*this,
+                  "grdecua",
+                  "Ecuación de ajuste",
+                  {.filas = 2, .columnas = {{"Correlación", 1050}, {"Ecuación", 3000}, {"R", 1050}, {"R2", 1050}}}};
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
     Frame Frame4{*this, "Frame4", "Aplicar ecuación lineal:"};
     Label lblCalculoY{*this, "lblCalculoY", "Ingresar el valor conocido:", Papel::Encabezado};
@@ -22,26 +25,21 @@ class frmRegreLineal : public ModuloCalculo {
 
     Arreglo<Double, 1, 1550> x, y;
     Double a, b;  ///< Of the last fit, unrounded; 0 as long as there was none.
-    bool calculado = false;
 
-    void InicializarResultados() override { InicializarEcua(); }
-    void InicializarEcua();
-    void bCalcular_Click() override;
     void bGraficar_Click();
     void bCalY_Click();
     void bCalX_Click();
-    void GenerarReporte(Reporte& reporte) override { cargarRegreSimple(reporte); }
-    void cargarRegreSimple(Reporte& reporte);
+    void GenerarReporte(Reporte& reporte) override;
 
   protected:
+    void Calcular() override;
     void LimpiarOtros() override;
     Disposicion Contenido() override;
-    std::vector<Disposicion> BotonesAccion() override;
 
   private:
     /// Empties the result box; says whether the known value was given, with the message and the focus if it was not.
-    bool PrepararEvaluacion(TextBox& conocido, TextBox& resultado, const char* nombreConocido,
-                            const char* nombreResultado);
+    bool PrepararEvaluacion(TextBox& conocido, TextBox& resultado, const std::string& nombreConocido,
+                            const std::string& nombreResultado);
 };
 
 }  // namespace cuencalia

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+
+#include "frame/base/archivoserie.h"
+#include "frame/base/hojas.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/dialogo.h"
+#include "frame/modulo/formatoserie.h"
+
+namespace cuencalia {
+
+class ModuloCalculo;
+
+/// The commands by which a module stores its series, reads it back, and imports it from a sheet.
+class ComandosArchivo {
+  public:
+    /// Without a format the three buttons stay greyed.
+    ComandosArchivo(ModuloCalculo& modulo, const FormatoSerie* formato);
+    ComandosArchivo(const ComandosArchivo&) = delete;
+    ComandosArchivo& operator=(const ComandosArchivo&) = delete;
+
+    CommandButton bCrear, bAccesar, bCargarExcel;
+    CommonDialog cdCrear, cdAccesar, cdCargarExcel;
+
+    /// Stores the grid's columns as Single records; an older file of that name goes without a question.
+    void bCrear_Click();
+    /// Reads a series file into the grid.
+    void bAccesar_Click();
+    /// Reads the first sheet of a workbook, from A1 to the first empty cell of column A, into the grid.
+    void bCargarExcel_Click();
+
+  private:
+    /// Runs a file command under the trap that all three share: a cancelled dialog gives the message with the file's
+    /// name, any other error ends the command in silence with what was done so far.
+    void ConTrampa(const char* mensaje, const std::function<void()>& orden);
+    void Terminar(int filas);
+
+    ModuloCalculo& modulo_;
+    const FormatoSerie* formato_;
+};
+
+}  // namespace cuencalia

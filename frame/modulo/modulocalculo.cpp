@@ -1,0 +1,71 @@
+#include "frame/modulo/modulocalculo.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "frame/base/textos.h"
+
+namespace cuencalia {
+
+ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionModulo descripcion)
+    : MarcoModulo(app, std::move(nombre), descripcion.titulo),
+      datos(*this, StatusBar1, std::move(descripcion.datos)),
+      archivos(*this, descripcion.archivo) {}
+
+void ModuloCalculo::Form_Load() {
+    datos.IniciarGrid();
+    MarcoModulo::Form_Load();
+}
+
+void ModuloCalculo::CargarMatrices() {
+    n = datos.Filas();
+    for (int i = 1; i <= n; ++i) {
+        for (std::size_t c = 0; c < columnas_.size(); ++c) {
+            const Double valor = Val(datos.grdt.TextMatrix(i, static_cast<int>(c) + 1));
+            if (auto* dobles = std::get_if<ArregloBase<Double>*>(&columnas_[c])) {
+                (**dobles)(i) = valor;
+            } else {
+                (*std::get<ArregloBase<Single>*>(columnas_[c]))(i) = CSng(valor);
+            }
+        }
+    }
+}
+
+Registro ModuloCalculo::RegistroDe(int i) const {
+    Registro registro;
+    for (std::size_t c = 0; c < columnas_.size(); ++c) {
+        registro[c] = std::visit([i](const auto* matriz) { return CSng((*matriz)(i)); }, columnas_[c]);
+    }
+    return registro;
+}
+
+int ModuloCalculo::FilasMax() const {
+    int filas = std::numeric_limits<std::int16_t>::max();
+    for (const Matriz& columna : columnas_) {
+        filas = std::min(filas, std::visit([](const auto* matriz) { return matriz->UBound(); }, columna));
+    }
+    return filas;
+}
+
+void ModuloCalculo::LimpiarModulo() {
+    datos.IniciarGrid();
+    LimpiarResultados();
+}
+
+std::vector<BotonConImagen> ModuloCalculo::BotonesResultados() {
+    std::vector<BotonConImagen> botones{{&archivos.bCrear, "crear"}, {&archivos.bAccesar, "accesar"}};
+    for (const BotonConImagen& boton : MarcoModulo::BotonesResultados()) {
+        botones.push_back(boton);
+    }
+    botones.push_back({&archivos.bCargarExcel, "excel"});
+    return botones;
+}
+
+std::vector<Disposicion> ModuloCalculo::ZonaResultados() {
+    return {archivos.bCargarExcel, bReporte, archivos.bCrear, archivos.bAccesar};
+}
+
+Disposicion ModuloCalculo::Cuerpo() { return Fila({datos.Zona(), Contenido().Estira(1)}); }
+
+}  // namespace cuencalia
