@@ -221,39 +221,5 @@ TEST_F(ArchivoSerieTest, ArchivoQueSeAcortaMientrasSeLee) {
     EXPECT_EQ(NumeroDeError([&] { return archivo.Leer(); }), 75);
 }
 
-struct CasoTipo {
-    TipoArchivo tipo;
-    int valores;
-    const char* crear;
-    const char* accesar;
-};
-
-TEST(TipoArchivoTest, RegistrosYFiltros) {
-    const CasoTipo casos[] = {
-        {kArchivoX, 1, "Valores de X|*.X", "Valores X|*.X"},
-        {kArchivoXMaximas, 1, "Valores de X|*.X", "Valores de X|*.X"},
-        {kArchivoQ, 1, "Valores de Q|*.Q", "Valores Q|*.Q"},
-        {kArchivoCD, 1, "Valores de caudales Q|*.CD", "Valores de caudales Q|*.CD"},
-        {kArchivoVE, 1, "Valores mensuales de X|*.VE", "Valores mensuales de X|*.VE"},
-        {kArchivoTM, 1, "Temperaturas mensuales TM|*.TM", "Temperaturas mensuales TM|*.TM"},
-        {kArchivoTB, 1, "Temperaturas mensuales TB|*.TB", "Temperaturas mensuales TB|*.TB"},
-        {kArchivoP, 1, "Valores de precipitación P|*.P", "Valores de precipitación P|*.P"},
-        {kArchivoTP, 2, "Temperaturas y precipitación TP|*.TP", "Temperaturas y precipitación TP|*.TP"},
-        {kArchivoXY, 2, "Pares valores X,Y|*.XY", "Pares valores X,Y|*.XY"},
-        {kArchivoTH, 2, "Pares valores T,H|*.TH", "Pares valores T,H|*.TH"},
-        {kArchivoPA, 2, "Pares valores P, A|*.PA", "Pares valores P, A|*.PA"},
-        {kArchivoIA, 2, "Pares valores I, A|*.IA", "Pares valores I, A|*.IA"},
-        {kArchivoTDI, 3, "Trio valores T,D,I|*.TDI", "Trio valores T,D,I|*.TDI"},
-        {kArchivoXYZ, 3, "Trio valores X,Y,Z|*.XYZ", "Trio valores X,Y,Z|*.XYZ"},
-        {kArchivoLHV, 3, "Trio valores L,h,v|*.LHV", "Trio valores L,h,V|*.LHV"},
-        {kArchivoXSY, 4, "Cuartetos valores XS,Y|*.XSY", "Cuartetos valores XS,Y|*.XSY"},
-    };
-    for (const CasoTipo& caso : casos) {
-        EXPECT_EQ(caso.tipo.valores, caso.valores) << caso.crear;
-        EXPECT_EQ(caso.tipo.FiltroCrear(), caso.crear);
-        EXPECT_EQ(caso.tipo.FiltroAccesar(), caso.accesar);
-    }
-}
-
 }  // namespace
 }  // namespace cuencalia

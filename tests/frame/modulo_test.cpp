@@ -1,48 +1,91 @@
-#include "frame/modulo/modulo.h"
-
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "frame/base/textos.h"
+#include "frame/modulo/cajas.h"
+#include "frame/modulo/meses.h"
+#include "frame/modulo/modulocalculo.h"
 #include "guion/plataformaguion.h"
+#include "tests/archivos_en_disco.h"
 
 namespace cuencalia {
 namespace {
 
+using pruebas::BytesDe;
+using pruebas::Guardar;
 using Textos = std::vector<std::string>;
+using namespace std::string_literals;
 
-/// A module that calculates nothing: it reads its columns and counts what the frame asks of it.
-class ModuloPrueba : public ModuloCalculo {
+constexpr FormatoSerie kArchivoMargen{1, "Crear", "Abrir", "*.M", 1, 1, true, "0.0#", "0.0"};
+
+/// A module of one data column whose files have a trailing record and whose sheets a first row of their own. It reads
+/// into twelve Singles; its grid stands on the second of two tab pages, a box and the results on the first.
+class ModuloFichas : public ModuloCalculo {
   public:
-    ModuloPrueba(Aplicacion& app, const std::string& nombre, const DescripcionModulo& descripcion)
-        : ModuloCalculo(app, nombre, descripcion), arreglos(descripcion.encabezados.size() - 1) {
-        std::vector<ArregloBase<Double>*> columnas;
-        for (Serie& arreglo : arreglos) {
-            columnas.push_back(&arreglo);
-        }
-        LeerEn(columnas);
-        AgregarBoton(bCalcular, "calcular");
-        AgregarBoton(bOtro, "otro");
-        AgregarBoton(bLimpiar, "limpiar");
-        AgregarBoton(bImprimir, "imprimir");
-        AgregarBoton(bMenu, "menu");
-        AgregarBoton(bExtra, "extra");
-        bExtra.Click.Conectar([] {});
+    explicit ModuloFichas(Aplicacion& app)
+        : ModuloCalculo(app, "frmFichas",
+                        {.titulo = "Fichas",
+                         .datos = {.encabezados = {"Mes", "T"}, .etiqueta = MesCorto},
+                         .archivo = &kArchivoMargen}) {
+        LeerEn({&t});
+        DeclararBotones({{&bOtro, "otro"}}, {{&bExtra, "extra"}});
+        DeclararTablas({&tabla});
+        DeclararResultados({&txtr});
+        DeclararEntradas({&txta});
+        AvisarFallos(kDatosInadecuados);
+        SoloNumero(txta);
+        SoloNumero(txtb, Cifras::Enteras);
+        EncadenarEnter({&txta, &txtb}, bExtra);
+        bExtra.Click.Conectar([this] { exigido = Exigir(txta, {"Falta a"}) && ExigirCalculo(); });
     }
 
+    Arreglo<Single, 1, 12> t;
+    SSTab SSTab1{*this, "SSTab1", {"Resultados", "Datos"}};
+    TextBox txta{*this, "txta"}, txtb{*this, "txtb"}, txtr{*this, "txtr"}, txtMargen{*this, "txtMargen"};
     CommandButton bOtro{*this, "bOtro", "Sin orden"}, bExtra{*this, "bExtra", "Extra"};
-    std::vector<Serie> arreglos;
-    std::string pasos;  ///< R: results built, L: the rest cleared.
+    Tabla tabla{*this,
+                "tabla",
+                "Tabla",
+                {.filas = 4, .columnas = {{"N°", 700}, {"v", 900}}, .columnasFijas = 1, .unidades = {"", "(mm)"}}};
+    bool exigido = false;
 
-    void InicializarResultados() override { pasos += 'R'; }
-    void bCalcular_Click() override { CargarMatrices(); }
-    void GenerarReporte(Reporte&) override { pasos += 'I'; }
+    void GenerarReporte(Reporte&) override {}
+    std::vector<Registro> RegistrosDeCola() override { return {{CSng(Val(txtMargen.Text()))}}; }
+    void LeerCola(const std::vector<Registro>& cola) override { txtMargen.Text = Format(cola[0][0], "0.##"); }
+    void LeerCabeza(const Hoja& hoja) override { txtMargen.Text = Format(std::get<Double>(hoja.Cells(1, 1)), "0.0"); }
 
   protected:
-    void LimpiarOtros() override { pasos += 'L'; }
-    Disposicion Contenido() override { return Grupo(Frame7, {bExtra}); }
-    Disposicion ZonaBotones() override { return Grupo(Frame6, {bCalcular, bOtro, bLimpiar, bImprimir, bMenu}); }
+    void Calcular() override {
+        CargarMatrices();
+        tabla.PonerFila(2, {"1", Format(1 / Double(t(1)), "0.0")});
+        txtr.Text = "listo";
+        calculado = true;
+    }
+    void LimpiarOtros() override { calculado = false; }
+    Disposicion Cuerpo() override {
+        return Fichas(SSTab1, {Columna({txta, txtb, txtr, txtMargen, bExtra, bOtro, tabla}), datos.Zona()});
+    }
+};
+
+/// Columns as told; it calculates nothing but the reading of its arrays.
+class ModuloColumnas : public ModuloCalculo {
+  public:
+    ModuloColumnas(Aplicacion& app, const std::string& nombre, const DescripcionGrid& grid)
+        : ModuloCalculo(app, nombre, {.titulo = nombre, .datos = grid, .archivo = &kArchivoX}),
+          arreglos(grid.encabezados.size() - 1) {
+        std::vector<Matriz> columnas;
+        for (Serie& arreglo : arreglos) {
+            columnas.emplace_back(&arreglo);
+        }
+        LeerEn(columnas);
+        DeclararBotones({});
+    }
+
+    std::vector<Serie> arreglos;
+
+    void GenerarReporte(Reporte&) override {}
+
+  protected:
+    void Calcular() override { CargarMatrices(); }
 };
 
 class MenuPrueba : public Formulario {
@@ -50,25 +93,32 @@ class MenuPrueba : public Formulario {
     explicit MenuPrueba(Aplicacion& app) : Formulario(app, "frmCuencalia", "Menú") {}
 };
 
-/// One column, four columns, a month form, four columns with selection columns and widths of their own.
 TablaFormas Formas() {
-    const auto modulo = [](const std::string& nombre, const DescripcionModulo& descripcion) {
-        return [nombre, descripcion](Aplicacion& a) { return std::make_unique<ModuloPrueba>(a, nombre, descripcion); };
+    const auto columnas = [](const std::string& nombre, const DescripcionGrid& grid) {
+        return [=](Aplicacion& a) { return std::make_unique<ModuloColumnas>(a, nombre, grid); };
     };
-    const Textos cuarteto{"Cuarteto", "X1", "X2", "X3", "Y"};
-    return {
-        {"frmCuencalia", [](Aplicacion& a) { return std::make_unique<MenuPrueba>(a); }},
-        {"frmUna", modulo("frmUna", {.titulo = "Una columna", .encabezados = {"N°", "X"}})},
-        {"frmCuatro",
-         modulo("frmCuatro", {.titulo = "Cuatro columnas", .encabezados = cuarteto, .patronEdicion = kPatronEdicionB})},
-        {"frmMes", modulo("frmMes", {.titulo = "Meses", .encabezados = {"Mes", "T"}, .etiquetas = EtiquetaFila::Mes})},
-        {"frmSel", modulo("frmSel", {.titulo = "Selección",
-                                     .encabezados = cuarteto,
-                                     .anchos = {900, 1000, 2000},
-                                     .columnaSel = 1,
-                                     .columnaSelEntrada = 3})},
-    };
+    return {{"frmCuencalia", [](Aplicacion& a) { return std::make_unique<MenuPrueba>(a); }},
+            {"frmFichas", [](Aplicacion& a) { return std::make_unique<ModuloFichas>(a); }},
+            {"frmUna", columnas("frmUna", {.encabezados = {"N°", "X"}})},
+            {"frmTres", columnas("frmTres", {.encabezados = {"Trío", "A", "B", "C"},
+                                             .anchos = {900, 1000},
+                                             .patronEdicion = kPatronEdicionB,
+                                             .columnaSel = 1,
+                                             .columnaSelEntrada = 2})}};
 }
+
+/// File dialogs whose Cancel is an error, where a test asks for it.
+struct PlataformaConCancel : PlataformaGuion {
+    int errorDelDialogo = 0;
+
+    void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                       std::string& nombre) override {
+        if (errorDelDialogo != 0) {
+            throw ErrorEjecucion(errorDelDialogo);
+        }
+        PlataformaGuion::ElegirArchivo(modo, titulo, filtro, nombre);
+    }
+};
 
 class ModuloTest : public testing::Test {
   protected:
@@ -78,614 +128,421 @@ class ModuloTest : public testing::Test {
         app.Despachar([&] { app.ModuloAbrir(nombre); });
         forma = nombre;
     }
+    ModuloCalculo& M() { return dynamic_cast<ModuloCalculo&>(*app.Cargada(forma)); }
+    ModuloFichas& F() { return dynamic_cast<ModuloFichas&>(M()); }
+    FlexGrid& G() { return M().datos.grdt; }
+    TextBox& Caja() { return M().datos.txtt; }
 
-    ModuloPrueba& M() { return dynamic_cast<ModuloPrueba&>(*app.Cargada(forma)); }
-    FlexGrid& G() { return M().grdt; }
-    TextBox& Caja() { return M().txtt; }
-
-    void Teclear(const std::string& texto) {
+    /// Types the characters; these stand for keys: ENTER \n, Escape ^, down v, up A, Backspace <.
+    void Teclas(const std::string& texto) {
         for (const char c : texto) {
-            app.PulsarTecla(0, c);
+            const int codigo = c == '\n'  ? kTeclaEnter
+                               : c == '^' ? kTeclaEscape
+                               : c == 'v' ? kTeclaAbajo
+                               : c == 'A' ? kTeclaArriba
+                               : c == '<' ? kTeclaRetroceso
+                                          : 0;
+            app.PulsarTecla(codigo, codigo == 0 ? c : codigo == kTeclaAbajo || codigo == kTeclaArriba ? 0 : codigo);
         }
     }
-    void Enter() { app.PulsarTecla(kTeclaEnter, kTeclaEnter); }
-    void Escape() { app.PulsarTecla(kTeclaEscape, kTeclaEscape); }
-    void Tecla(int codigo) { app.PulsarTecla(codigo, 0); }
     void Celda(int fila, int columna, BotonRaton boton = kBotonIzquierdo) {
         app.Despachar([&] { G().Presionar(boton, fila, columna); });
     }
-    /// Types each value with its ENTER from where the cursor stands.
-    void Valores(const Textos& valores) {
-        for (const std::string& valor : valores) {
-            Teclear(valor);
-            Enter();
-        }
-    }
-    void MenuFila(const std::string& entrada, int fila) {
+    bool MenuFila(const std::string& entrada, int fila) {
         sistema.entradaEmergente = entrada;
         sistema.entradaElegida = false;
         Celda(fila, 1, kBotonDerecho);
         sistema.entradaEmergente.reset();
+        return sistema.entradaElegida;
+    }
+    /// The rows below the heading, cells joined by commas, and the cursor.
+    std::string Ver() {
+        std::string texto;
+        for (int f = 1; f < G().Rows(); ++f) {
+            for (int c = 0; c < G().Cols(); ++c) {
+                texto += (c == 0 ? "" : ",") + G().TextMatrix(f, c);
+            }
+            texto += "|";
+        }
+        return texto + " @" + std::to_string(G().Row()) + "," + std::to_string(G().Col());
+    }
+    std::string Tras(const std::string& teclas) { return Teclas(teclas), Ver(); }
+    std::string TrasPulsar(Control& boton, const std::string& archivo = "") {
+        if (!archivo.empty()) {
+            sistema.archivo = archivo;
+        }
+        app.Pulsar(boton);
+        return Ver();
+    }
+    /// What was told since the last call: messages, and numbers of run-time errors.
+    Textos Dicho() {
+        Textos dicho;
+        for (const Mensaje& m : sistema.mensajes) {
+            dicho.push_back(m.texto);
+        }
+        for (const ErrorEjecucion& e : sistema.errores) {
+            dicho.push_back(std::to_string(e.Numero()));
+        }
+        sistema.mensajes.clear();
+        sistema.errores.clear();
+        return dicho;
     }
 
-    Textos Columna(int columna) {
-        Textos textos;
-        for (int f = 0; f < G().Rows(); ++f) {
-            textos.push_back(G().TextMatrix(f, columna));
-        }
-        return textos;
-    }
-    Textos Fila(int fila) {
-        Textos textos;
-        for (int c = 0; c < G().Cols(); ++c) {
-            textos.push_back(G().TextMatrix(fila, c));
-        }
-        return textos;
-    }
-    std::string Cursor() { return std::to_string(G().Row()) + "," + std::to_string(G().Col()); }
-
-    PlataformaGuion sistema;
+    PlataformaConCancel sistema;
     Aplicacion app{sistema, Formas()};
     std::string forma;
 };
 
-TEST_F(ModuloTest, AlAbrir) {
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", ""}));
-    EXPECT_EQ(G().FixedRows(), 1);
-    EXPECT_EQ(G().FixedCols(), 1);
-    EXPECT_EQ(G().ColWidth(0), 700);
-    EXPECT_EQ(G().ColWidth(1), 1800);
-    EXPECT_EQ(G().ColAlignment(0), 4);
-    EXPECT_EQ(G().ColAlignment(1), 4);
-    EXPECT_EQ(G().RowHeight(0), 340);
-    EXPECT_EQ(G().BorderStyle(), 1);
-    EXPECT_EQ(G().Width(), 700 + 1800 + 300);
-    EXPECT_EQ(G().Height(), 14 * G().RowHeight(1) + 340);
-    EXPECT_FALSE(Caja().Visible);
-    EXPECT_EQ(app.Foco(), &G());
-    EXPECT_EQ(M().pasos, "R");
-    EXPECT_EQ(M().Caption(), "Una columna");
-    EXPECT_EQ(M().mnuEditInsertar.Caption(), "Insertar Fila");
-    EXPECT_EQ(M().mnuEditEliminar.Caption(), "Eliminar Fila");
-    EXPECT_EQ(M().mnuEdicion.Entradas(),
-              (std::vector<Menu*>{&M().mnuEditInsertar, &M().mnuEditraya1, &M().mnuEditEliminar}));
-
-    Abrir("frmCuatro");
-    EXPECT_EQ(Fila(0), (Textos{"Cuarteto", "X1", "X2", "X3", "Y"}));
-    EXPECT_EQ(G().Width(), 700 + 4 * 1800 + 300);
-    Abrir("frmSel");
+TEST_F(ModuloTest, LoDigitadoEsUnNumeroAlConfirmarlo) {
+    EXPECT_EQ(Ver(), "[?],| @1,1");
+    EXPECT_EQ(Tras("12,5\nabc\n1e2\n0.123456789123\n.5\n7x\n\n"),
+              " 1,12.0| 2,0.0| 3,100.0| 4,0.12345679| 5,0.5| 6,7.0| 7,0.0|[->],| @8,1");
+    Abrir("frmTres");
     EXPECT_EQ(G().ColWidth(0), 900);
-    EXPECT_EQ(G().ColWidth(2), 2000);
-    EXPECT_EQ(G().ColWidth(3), 1800);
-    EXPECT_EQ(G().Width(), 900 + 1000 + 2000 + 1800 + 1800 + 300);
-    Abrir("frmMes");
-    EXPECT_EQ(G().TextMatrix(0, 0), "Mes");
-}
-
-TEST_F(ModuloTest, UnaSerieTecleada) {
-    Valores({"1.5", "20", "-3"});
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", " 2", " 3", "[->]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", "1.5", "20.0", "-3.0", ""}));
-    EXPECT_EQ(Cursor(), "4,1");
-    EXPECT_FALSE(Caja().Visible);
-    EXPECT_EQ(app.Foco(), &G());
-    EXPECT_TRUE(sistema.mensajes.empty());
-}
-
-// What is written becomes a number as soon as it is confirmed: letters are 0, a comma ends the number, the pattern
-// keeps eight decimals.
-TEST_F(ModuloTest, ConfirmarMuestraElNumeroEnLaCelda) {
-    Valores({"12,5", "abc", "1e2", "0.123456789123", ".5", "7x", ""});
-    EXPECT_EQ(Columna(1), (Textos{"X", "12.0", "0.0", "100.0", "0.12345679", "0.5", "7.0", "0.0", ""}));
-
-    Abrir("frmCuatro");
-    Valores({"12,5", "2.50"});
-    EXPECT_EQ(Fila(1), (Textos{"[->]", "12.0", "2.5", "", ""})) << "before the row is committed";
-    EXPECT_EQ(Cursor(), "1,3");
-}
-
-TEST_F(ModuloTest, EnterEnLaFilaDeEntradaVaciaConfirmaCeros) {
-    Enter();
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", "[->]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", "0.0", ""}));
-
-    Abrir("frmCuatro");
-    Enter();
-    EXPECT_EQ(Fila(1), (Textos{"[->]", "", "", "", ""})) << "only the last column commits the row";
-    Enter();
-    Teclear("4");
-    Enter();
-    EXPECT_EQ(Cursor(), "1,4");
-    EXPECT_EQ(G().Rows(), 2);
-    Enter();
-    EXPECT_EQ(Fila(1), (Textos{" 1", "0.0", "0.0", "4.0", "0.0"}));
-    EXPECT_EQ(Fila(2), (Textos{"[->]", "", "", "", ""}));
-    EXPECT_EQ(Cursor(), "2,1");
-}
-
-TEST_F(ModuloTest, MarcasDeLaFilaDeEntrada) {
-    Valores({"1", "2"});
-    Celda(1, 1);
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", " 2", "[?]"}));
-    Celda(3, 1);
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", " 2", "[->]"}));
-    Tecla(kTeclaArriba);
-    EXPECT_EQ(G().TextMatrix(3, 0), "[?]");
-    Tecla(kTeclaAbajo);
-    EXPECT_EQ(G().TextMatrix(3, 0), "[->]");
-    G().HighLight = 0;
+    EXPECT_EQ(G().ColWidth(2), 1800);
+    EXPECT_EQ(Tras("12,5\n2.50\n"), "[->],12.0,2.5,| @1,3") << "only the last column commits the row";
+    EXPECT_EQ(Tras("\n"), " 1,12.0,2.5,0.0|[->],,,| @2,1");
+    EXPECT_EQ(Tras("4\n5"), " 1,12.0,2.5,0.0|[->],4.0,,| @2,2");
     Celda(2, 1);
-    EXPECT_EQ(G().HighLight(), 1);
-}
-
-TEST_F(ModuloTest, LaFilaAMediasSePierdeAlDejarla) {
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5", "6"});
-    ASSERT_EQ(Fila(2), (Textos{"[->]", "5.0", "6.0", "", ""}));
-    Celda(2, 1);
-    EXPECT_EQ(Fila(2), (Textos{"[->]", "5.0", "6.0", "", ""})) << "another cell of the same row";
+    EXPECT_EQ(Ver(), " 1,12.0,2.5,0.0|[->],4.0,5,| @2,1") << "another cell of the same row";
     Celda(1, 3);
-    EXPECT_EQ(Fila(2), (Textos{"[?]", "", "", "", ""}));
-    EXPECT_EQ(Fila(1), (Textos{" 1", "1.0", "2.0", "3.0", "4.0"}));
-
-    Celda(2, 1);
-    Teclear("7");
-    Tecla(kTeclaArriba);  // stores the 7, and leaves the row
-    EXPECT_EQ(Fila(2), (Textos{"[?]", "", "", "", ""}));
-    EXPECT_EQ(Cursor(), "1,1");
+    EXPECT_EQ(Ver(), " 1,12.0,2.5,0.0|[?],,,| @1,3") << "a row left half-way is lost";
+    EXPECT_EQ(Tras("40,9\n"), " 1,12.0,2.5,40.0|[->],,,| @2,3") << "down the same column";
 }
 
-TEST_F(ModuloTest, AbajoYArribaGuardanSinFormato) {
-    Valores({"1", "2", "3"});
+TEST_F(ModuloTest, TeclasDeLaCajaFlotante) {
+    Teclas("1\n2\n3\n");
     Celda(1, 1);
-    Teclear("7");
-    Tecla(kTeclaAbajo);
-    EXPECT_EQ(Cursor(), "2,1");
+    EXPECT_EQ(Tras("7v"), " 1,7| 2,2.0| 3,3.0|[?],| @2,1") << "stored as it was written";
+    EXPECT_EQ(Tras("8,9zA"), " 1,7| 2,8,9z| 3,3.0|[?],| @1,1");
+    EXPECT_EQ(Tras("6A"), " 1,6| 2,8,9z| 3,3.0|[?],| @1,1");
+    EXPECT_EQ(Tras("99^"), " 1,6| 2,8,9z| 3,3.0|[?],| @1,1");
     EXPECT_EQ(app.Foco(), &G());
-    EXPECT_FALSE(Caja().Visible);
-    Teclear("8,9z");
-    Tecla(kTeclaArriba);
-    EXPECT_EQ(Cursor(), "1,1");
-    EXPECT_EQ(Columna(1), (Textos{"X", "7", "8,9z", "3.0", ""}));
-    Teclear("6");
-    Tecla(kTeclaArriba);
-    EXPECT_EQ(Cursor(), "1,1") << "the first data row is the first";
-    EXPECT_EQ(G().Text(), "6");
     Celda(3, 1);
-    Teclear("5");
-    Tecla(kTeclaAbajo);
-    EXPECT_EQ(Cursor(), "4,1") << "from the last data row to the entry row";
-    EXPECT_EQ(G().TextMatrix(4, 0), "[->]");
-    Teclear("4");
-    Tecla(kTeclaAbajo);
-    EXPECT_EQ(Cursor(), "4,1");
-    EXPECT_EQ(Columna(1), (Textos{"X", "6", "8,9z", "5", "4"})) << "stored in the entry row, which is not committed";
-    EXPECT_EQ(G().Rows(), 5);
-
+    EXPECT_EQ(Tras("5v4v"), " 1,6| 2,8,9z| 3,5|[->],4| @4,1");
     app.Pulsar(M().bCalcular);
     EXPECT_EQ(M().n, 3);
-    EXPECT_EQ(M().arreglos[0](2), 8) << "read by Val all the same";
+    EXPECT_EQ(dynamic_cast<ModuloColumnas&>(M()).arreglos[0](2), 8) << "read as a number all the same";
     Celda(4, 1);
-    Enter();
-    EXPECT_EQ(G().TextMatrix(4, 1), "4.0") << "ENTER commits what stands there";
-}
+    EXPECT_EQ(Tras("\n"), " 1,6| 2,8,9z| 3,5| 4,4.0|[->],| @5,1");
 
-TEST_F(ModuloTest, EscapeDejaLaCeldaComoEstaba) {
-    Valores({"1", "2"});
-    Celda(1, 1);
-    Teclear("99");
-    Escape();
-    EXPECT_EQ(Columna(1), (Textos{"X", "1.0", "2.0", ""}));
-    EXPECT_FALSE(Caja().Visible);
-    EXPECT_EQ(app.Foco(), &G());
-    EXPECT_EQ(Cursor(), "1,1");
-    Celda(2, 1);
-    EXPECT_EQ(Columna(1), (Textos{"X", "1.0", "2.0", ""})) << "nor does it come back later";
-}
-
-TEST_F(ModuloTest, UnaTeclaReemplazaLaCelda) {
-    Valores({"5"});
-    Celda(1, 1);
-    EXPECT_FALSE(Caja().Visible) << "a click opens nothing";
-    Teclear("8");
-    EXPECT_TRUE(Caja().Visible);
-    EXPECT_EQ(app.Foco(), &Caja());
-    EXPECT_EQ(Caja().Text(), "8");
-    EXPECT_EQ(Caja().SelStart(), 1);
-    EXPECT_EQ(G().Text(), "5.0") << "the cell waits for the confirmation";
-    Teclear(".25");
-    EXPECT_EQ(Caja().Text(), "8.25");
-    Enter();
-    EXPECT_EQ(G().TextMatrix(1, 1), "8.25");
-
-    // The codes of these characters are those of the arrow keys.
-    Celda(1, 1);
-    Teclear("(");
-    EXPECT_EQ(Caja().Text(), "(");
-    Teclear("&%'");
-    EXPECT_EQ(Caja().Text(), "(&%'");
-    EXPECT_EQ(Cursor(), "1,1");
-}
-
-TEST_F(ModuloTest, ElBlancoEditaLaCeldaComoEsta) {
-    Valores({"5.25"});
-    Celda(1, 1);
-    Teclear(" ");
-    EXPECT_EQ(Caja().Text(), "5.25");
-    EXPECT_EQ(Caja().SelStart(), 0);
-    EXPECT_EQ(Caja().SelLength(), 4) << "offered selected";
-    Tecla(kTeclaFin);
-    Teclear("7");
-    Enter();
-    EXPECT_EQ(G().TextMatrix(1, 1), "5.257");
-    Celda(1, 1);
-    Teclear(" 6");
-    EXPECT_EQ(Caja().Text(), "6") << "typing replaces what is selected";
-    Tecla(kTeclaAbajo);
-    Celda(1, 1);
-    app.PulsarTecla(kTeclaRetroceso, kTeclaRetroceso);  // the codes below the blank do as the blank
-    EXPECT_EQ(Caja().Text(), "6");
-    EXPECT_EQ(Caja().SelLength(), 1);
-}
-
-TEST_F(ModuloTest, LaCajaFlotaSobreLaCelda) {
-    Abrir("frmCuatro");
-    for (int i = 0; i < 12; ++i) {
-        Enter();
+    // A key replaces the cell, the blank and Backspace edit it as it stands, offered selected.
+    Celda(4, 1);
+    EXPECT_EQ(M().StatusBar1.Panel(1), "");
+    for (const auto& [teclas, texto, inicio, largo] : {std::tuple{"(", "(", 1, 0},
+                                                       {"&%'", "&%'", 3, 0},
+                                                       {" ", "4.0", 0, 3},
+                                                       {"<", "4.0", 0, 3},
+                                                       {" 6", "6", 1, 0}}) {
+        Teclas(teclas);
+        EXPECT_EQ(app.Foco(), &Caja());
+        EXPECT_EQ(Caja().Text(), texto);
+        EXPECT_EQ(Caja().SelStart(), inicio);
+        EXPECT_EQ(Caja().SelLength(), largo);
+        EXPECT_EQ(M().StatusBar1.Panel(1), "Para introducir o modificar datos, digitarlos y luego presionar ENTER");
+        Teclas("^");
     }
-    G().Left = 120;
-    G().Top = 450;
-    G().FontName = "Mono";
-    G().FontSize = 12;
-    Celda(3, 2);
-    Teclear("1");
-    EXPECT_EQ(Caja().Left(), 120 + 700 + 1800);
-    EXPECT_EQ(Caja().Top(), 450 + 340 + 2 * G().RowHeight(1));
-    EXPECT_EQ(Caja().Width(), 1800);
-    EXPECT_EQ(Caja().Height(), G().RowHeight(3));
-    EXPECT_EQ(Caja().FontName(), "Mono");
-    EXPECT_EQ(Caja().FontSize(), 12);
-}
-
-TEST_F(ModuloTest, CambiarDeCeldaODesplazarEscondeLaCaja) {
-    Valores({"1", "2", "3"});
-    Celda(1, 1);
-    Teclear("9");
+    EXPECT_EQ(M().StatusBar1.Panel(1), "");
+    app.PulsarTecla(kTeclaF2, 0);
+    EXPECT_TRUE(Caja().Visible);
     app.Despachar([&] { G().DesplazadoPorUsuario(2); });
-    EXPECT_FALSE(Caja().Visible);
-    Celda(2, 1);
-    EXPECT_EQ(Columna(1), (Textos{"X", "1.0", "2.0", "3.0", ""})) << "a hidden box stores nothing";
-
-    Celda(1, 1);
-    Teclear("9");
+    EXPECT_FALSE(Caja().Visible) << "scrolling drops what was being written";
+    EXPECT_EQ(app.Foco(), &G());
+    Teclas("9");
     app.Despachar([&] { G().PonerRow(2); });
-    EXPECT_FALSE(Caja().Visible);
-    EXPECT_EQ(Columna(1), (Textos{"X", "1.0", "2.0", "3.0", ""}));
-
-    Celda(1, 1);
-    Teclear("9");
+    EXPECT_EQ(G().TextMatrix(4, 1), "4.0") << "so does a move by the program";
+    Teclas("9");
     Celda(3, 1);
-    EXPECT_EQ(Columna(1), (Textos{"X", "9", "2.0", "3.0", ""})) << "a click brings the focus first, and that stores";
+    EXPECT_EQ(G().TextMatrix(2, 1), "9") << "a click brings the focus first, and that stores";
 }
 
-TEST_F(ModuloTest, EnterEnUnaFilaDeDatosBajaPorLaMismaColumna) {
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5", "6", "7", "8"});
-    Celda(1, 3);
-    Enter();
-    EXPECT_EQ(Cursor(), "2,3");
-    EXPECT_EQ(Fila(1), (Textos{" 1", "1.0", "2.0", "3.0", "4.0"}));
-    Enter();
-    EXPECT_EQ(Cursor(), "3,3");
-    EXPECT_EQ(G().TextMatrix(3, 0), "[->]");
-    EXPECT_EQ(G().Rows(), 4);
-    Celda(1, 4);
-    Teclear("40,9");
-    Enter();
-    EXPECT_EQ(Cursor(), "2,4");
-    EXPECT_EQ(G().TextMatrix(1, 4), "40.0");
-}
-
-TEST_F(ModuloTest, InsertarFila) {
-    Valores({"10", "20", "30"});
-    MenuFila("mnuEditInsertar", 2);
-    EXPECT_TRUE(sistema.entradaElegida);
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", " 2", " 3", " 4", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", "10.0", "", "20.0", "30.0", ""}));
-    EXPECT_EQ(Cursor(), "2,1") << "on the empty row";
-    app.Pulsar(M().bCalcular);
-    EXPECT_EQ(M().n, 4);
-    EXPECT_EQ(M().arreglos[0](2), 0) << "an empty row counts as 0";
-    EXPECT_EQ(M().arreglos[0](4), 30);
-
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5", "6", "7", "8"});
-    Celda(2, 4);
-    MenuFila("mnuEditInsertar", 1);
-    EXPECT_EQ(Fila(1), (Textos{" 1", "", "", "", ""}));
-    EXPECT_EQ(Fila(2), (Textos{" 2", "1.0", "2.0", "3.0", "4.0"}));
-    EXPECT_EQ(Fila(3), (Textos{" 3", "5.0", "6.0", "7.0", "8.0"}));
-    EXPECT_EQ(Fila(4), (Textos{"[?]", "", "", "", ""}));
-
-    // Both procedures end in the first column, wherever the cursor stood.
-    Celda(2, 3);
-    app.Despachar([&] { M().InsertarFila(); });
-    EXPECT_EQ(Cursor(), "2,1");
-    Celda(2, 3);
-    app.Despachar([&] { M().EliminarFila(); });
-    EXPECT_EQ(Cursor(), "2,1");
-    EXPECT_EQ(Fila(2), (Textos{" 2", "1.0", "2.0", "3.0", "4.0"}));
-}
-
-TEST_F(ModuloTest, InsertarEstaGrisEnLaFilaDeEntrada) {
-    Valores({"10", "20"});
-    MenuFila("mnuEditInsertar", 3);
-    EXPECT_FALSE(sistema.entradaElegida);
-    EXPECT_FALSE(M().mnuEditInsertar.Enabled);
-    EXPECT_EQ(Columna(1), (Textos{"X", "10.0", "20.0", ""}));
-    Celda(3, 1);
-    EXPECT_TRUE(M().mnuEditInsertar.Enabled) << "any later press frees it";
-    app.Despachar([&] { M().InsertarFila(); });
-    EXPECT_EQ(Columna(1), (Textos{"X", "10.0", "20.0", ""}));
-    EXPECT_EQ(Cursor(), "3,1");
-    MenuFila("mnuEditInsertar", 2);
-    EXPECT_TRUE(sistema.entradaElegida);
-}
-
-TEST_F(ModuloTest, EliminarFila) {
-    Valores({"10", "20", "30"});
-    MenuFila("mnuEditEliminar", 2);
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", " 2", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", "10.0", "30.0", ""}));
-    EXPECT_EQ(Cursor(), "2,1");
-    MenuFila("mnuEditEliminar", 2);
-    EXPECT_EQ(Columna(0), (Textos{"N°", " 1", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", "10.0", ""}));
-    EXPECT_EQ(Cursor(), "2,1") << "where the last data row was";
+TEST_F(ModuloTest, MenuDeFila) {
+    Teclas("10\n20\n30\n");
+    EXPECT_TRUE(MenuFila("mnuEditInsertar", 2));
+    EXPECT_EQ(Ver(), " 1,10.0| 2,| 3,20.0| 4,30.0|[?],| @2,1");
+    EXPECT_FALSE(MenuFila("mnuEditInsertar", 5)) << "greyed on the entry row";
+    app.Despachar([&] { M().datos.InsertarFila(); });
+    EXPECT_EQ(Ver(), " 1,10.0| 2,| 3,20.0| 4,30.0|[->],| @5,1");
+    Celda(5, 1);
+    EXPECT_TRUE(M().datos.mnuEditInsertar.Enabled);
+    EXPECT_TRUE(MenuFila("mnuEditEliminar", 4));
+    EXPECT_EQ(Ver(), " 1,10.0| 2,| 3,20.0|[?],| @4,1");
     MenuFila("mnuEditEliminar", 1);
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", ""}));
-    EXPECT_EQ(Cursor(), "1,1");
-    Valores({"5"});
-    EXPECT_EQ(Columna(1), (Textos{"X", "5.0", ""})) << "and the grid takes data again";
-}
+    EXPECT_EQ(Ver(), " 1,| 2,20.0|[?],| @1,1");
+    MenuFila("mnuEditEliminar", 3);
+    EXPECT_EQ(Ver(), "[?],| @1,1") << "on the entry row all the data go";
 
-TEST_F(ModuloTest, EliminarEnLaFilaDeEntradaBorraTodo) {
-    Valores({"10", "20", "30"});
-    MenuFila("mnuEditEliminar", 4);
-    EXPECT_TRUE(sistema.entradaElegida);
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", ""}));
-    EXPECT_EQ(Cursor(), "1,1");
-    EXPECT_TRUE(sistema.mensajes.empty());
-    MenuFila("mnuEditEliminar", 1);
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"})) << "with no data too";
-
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5", "6"});
-    MenuFila("mnuEditEliminar", 2);
-    EXPECT_EQ(Fila(0), (Textos{"Cuarteto", "X1", "X2", "X3", "Y"}));
-    EXPECT_EQ(Fila(1), (Textos{"[?]", "", "", "", ""}));
-    EXPECT_EQ(G().Rows(), 2);
-}
-
-TEST_F(ModuloTest, ElBotonDerechoSeleccionaYElIzquierdoNoAbreElMenu) {
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5", "6", "7", "8"});
+    Abrir("frmTres");
+    Teclas("1\n2\n3\n4\n5\n6\n");
     const auto seleccion = [&](int fila) {
         Celda(fila, 3, kBotonDerecho);
-        return Cursor() + " a " + std::to_string(G().RowSel()) + "," + std::to_string(G().ColSel());
+        return std::to_string(G().Row()) + "," + std::to_string(G().Col()) + " " + std::to_string(G().RowSel()) + "," +
+               std::to_string(G().ColSel());
     };
-    EXPECT_EQ(seleccion(2), "2,1 a 2,4");
-    EXPECT_EQ(seleccion(3), "3,1 a 1,4") << "on the entry row all the data";
-
-    sistema.entradaEmergente = "mnuEditEliminar";
+    EXPECT_EQ(seleccion(2), "2,1 2,1");
+    EXPECT_EQ(seleccion(3), "3,1 1,2");
     Celda(1, 3);
-    EXPECT_TRUE(sistema.entradaEmergente.has_value()) << "no menu asked for it";
-    EXPECT_EQ(Cursor(), "1,3");
-    EXPECT_EQ(G().Rows(), 4);
-    sistema.entradaEmergente.reset();
-
-    Abrir("frmSel");
-    Valores({"1", "2", "3", "4"});
-    EXPECT_EQ(seleccion(1), "1,1 a 1,1");
-    EXPECT_EQ(seleccion(2), "2,1 a 1,3");
+    app.Despachar([&] { M().datos.InsertarFila(); });
+    EXPECT_EQ(Ver(), " 1,,,| 2,1.0,2.0,3.0| 3,4.0,5.0,6.0|[?],,,| @1,1");
+    sistema.entradaEmergente = "mnuEditEliminar";
+    Celda(1, 2);
+    EXPECT_TRUE(sistema.entradaEmergente.has_value()) << "the left button opens no menu";
 }
 
-TEST_F(ModuloTest, MenosCeldasDeLasNecesarias) {
-    const auto cursor = [&](void (ModuloCalculo::*metodo)()) {
+TEST_F(ModuloTest, DondeQuedaElCursor) {
+    const auto tras = [&](void (GridDatos::*metodo)()) {
         app.Despachar([&] { M().bCalcular.SetFocus(); });
-        app.Despachar([&] { (M().*metodo)(); });
-        EXPECT_EQ(app.Foco(), &G());
-        return Cursor();
+        app.Despachar([&] { (M().datos.*metodo)(); });
+        return (app.Foco() == &G() ? "" : "sin foco ") + std::to_string(G().Row()) + "," + std::to_string(G().Col());
     };
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue2Celdas), "1,1") << "no data: Rows is 2";
-    Valores({"1"});
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue2Celdas), "2,1");
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue4Celdas), "2,1") << "Rows is 3: the entry row of a short grid";
-    Valores({"2", "3", "4", "5"});
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue2Celdas), "2,1");
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue4Celdas), "4,1");
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue5Celdas), "5,1");
-    Abrir("frmCuatro");
-    Enter();
-    EXPECT_EQ(cursor(&ModuloCalculo::MenorQue5Celdas), "1,1") << "the column goes back to the first";
-}
+    EXPECT_EQ(tras(&GridDatos::MenorQue2Celdas), "1,1");
+    Teclas("1\n");
+    EXPECT_EQ(tras(&GridDatos::MenorQue4Celdas), "2,1") << "the entry row of a short grid";
+    Teclas("2\n3\n4\n5\n");
+    EXPECT_EQ(tras(&GridDatos::MenorQue2Celdas), "2,1");
+    EXPECT_EQ(tras(&GridDatos::MenorQue4Celdas), "4,1");
+    EXPECT_EQ(tras(&GridDatos::MenorQue5Celdas), "5,1");
 
-TEST_F(ModuloTest, NombresDeLosMeses) {
-    Abrir("frmMes");
-    Valores(Textos(14, "1"));
-    EXPECT_EQ(Columna(0), (Textos{"Mes", "Ene", "Feb", "Mar", "Abr", "May", "Jun", "Jul", "Ago", "Set", "Oct", "Nov",
-                                  "Dic", "Ene", "Feb", "[->]"}));
-    MenuFila("mnuEditEliminar", 3);
-    EXPECT_EQ(Columna(0), (Textos{"Mes", "Ene", "Feb", "Mar", "Abr", "May", "Jun", "Jul", "Ago", "Set", "Oct", "Nov",
-                                  "Dic", "Ene", "[?]"}));
-    MenuFila("mnuEditInsertar", 1);
-    EXPECT_EQ(G().TextMatrix(1, 0), "Ene");
-    EXPECT_EQ(G().TextMatrix(14, 0), "Feb");
-}
-
-TEST_F(ModuloTest, EnterEnLaCuadriculaMantieneLaFilaALaVista) {
-    for (int i = 0; i < 11; ++i) {
-        Enter();
-    }
-    EXPECT_EQ(Cursor(), "12,1");
-    EXPECT_EQ(G().TopRow(), 1);
-    Enter();
-    EXPECT_EQ(G().TopRow(), 1) << "row 13 stands 12 rows below the top";
-    Enter();
-    EXPECT_EQ(G().TopRow(), 2);
-    for (int i = 14; i < 40; ++i) {
-        Enter();
-    }
-    EXPECT_EQ(Cursor(), "40,1");
-    EXPECT_EQ(G().TopRow(), 28);
-    Celda(20, 1);
-    Enter();
-    EXPECT_EQ(Cursor(), "21,1");
-    EXPECT_EQ(G().TopRow(), 9);
-
-    const auto desde = [&](int fila) {
+    // ENTER keeps the row in sight from row 12 on, twelve rows below the top.
+    Celda(6, 1);
+    Teclas(std::string(34, '\n'));
+    const auto arriba = [&](int fila) {
         Celda(fila, 1);
         app.Despachar([&] { G().DesplazadoPorUsuario(5); });
-        Enter();
+        Teclas("\n");
         return G().TopRow();
     };
-    EXPECT_EQ(desde(10), 5) << "up to row 11 the grid stays as the user scrolled it";
-    EXPECT_EQ(desde(11), 1);
-    EXPECT_EQ(desde(12), 1);
-}
-
-TEST_F(ModuloTest, ImagenesDeLosBotones) {
-    const auto sobre = [&](Control& control) { app.Despachar([&] { control.MouseMove(); }); };
-    const std::vector<CommandButton*> botones{&M().bCalcular, &M().bOtro, &M().bLimpiar,
-                                              &M().bImprimir, &M().bMenu, &M().bExtra};
-    // The i-th button has the pictures 2i - 1 at rest and 2i lit: a digit for each, 0 dark and 1 lit.
-    const auto luces = [&] {
-        std::string digitos;
-        for (int i = 1; i <= static_cast<int>(botones.size()); ++i) {
-            const std::string& imagen = botones[static_cast<std::size_t>(i - 1)]->Picture();
-            EXPECT_TRUE(imagen == M().ImageList1.Imagen(2 * i - 1) || imagen == M().ImageList1.Imagen(2 * i)) << i;
-            digitos += imagen == M().ImageList1.Imagen(2 * i) ? '1' : '0';
-        }
-        return digitos;
-    };
-    EXPECT_EQ(luces(), "000000");
-    sobre(M().bCalcular);
-    EXPECT_EQ(luces(), "100000");
-    sobre(M().bOtro);
-    sobre(M().bExtra);
-    EXPECT_EQ(luces(), "110001") << "a button does nothing to the others";
-    sobre(M().Frame6);
-    EXPECT_EQ(luces(), "000001") << "a frame darkens its own";
-    sobre(M().bMenu);
-    sobre(M().Frame7);
-    EXPECT_EQ(luces(), "000010");
-    sobre(M().bExtra);
-    sobre(M());
-    EXPECT_EQ(luces(), "000000") << "the form darkens all";
-}
-
-TEST_F(ModuloTest, BarraDeEstadoMientrasSeEscribe) {
-    EXPECT_EQ(M().StatusBar1.Panel(1), "");
-    Teclear("1");
-    EXPECT_EQ(M().StatusBar1.Panel(1), "Para introducir o modificar datos, digitarlos y luego presionar ENTER");
-    Enter();
-    EXPECT_EQ(M().StatusBar1.Panel(1), "");
-    Teclear("1");
-    Escape();
-    EXPECT_EQ(M().StatusBar1.Panel(1), "");
-}
-
-TEST_F(ModuloTest, CargarMatricesLeeCadaColumna) {
-    app.Pulsar(M().bCalcular);
-    EXPECT_EQ(M().n, 0);
-    Abrir("frmCuatro");
-    Valores({"1", "2", "3", "4", "5.5", "-6", "abc", "8,9", "7"});
-    app.Pulsar(M().bCalcular);
-    EXPECT_EQ(M().n, 2) << "the entry row is no data";
-    const auto fila = [&](int i) {
-        std::vector<double> valores;
-        for (const Serie& arreglo : M().arreglos) {
-            valores.push_back(arreglo(i).valor());
-        }
-        return valores;
-    };
-    EXPECT_EQ(fila(1), (std::vector<double>{1, 2, 3, 4}));
-    EXPECT_EQ(fila(2), (std::vector<double>{5.5, -6, 0, 8}));
-    MenuFila("mnuEditEliminar", 1);
-    EXPECT_EQ(M().n, 2) << "stale until the next reading";
-    app.Pulsar(M().bCalcular);
-    EXPECT_EQ(M().n, 1);
-    EXPECT_EQ(fila(1), (std::vector<double>{5.5, -6, 0, 8}));
+    EXPECT_EQ(G().Row(), 40);
+    EXPECT_EQ(G().TopRow(), 28);
+    EXPECT_EQ(arriba(10), 5);
+    EXPECT_EQ(arriba(11), 1);
+    EXPECT_EQ(arriba(20), 9);
 }
 
 TEST_F(ModuloTest, LaFila1501NoCabe) {
-    for (int i = 0; i < 1500; ++i) {
-        Enter();
-    }
+    app.Despachar([&] { M().datos.EmpezarCarga(1500); });
     app.Pulsar(M().bCalcular);
     EXPECT_EQ(M().n, 1500);
-    EXPECT_TRUE(sistema.errores.empty());
-    Celda(1501, 1);
-    Enter();
+    EXPECT_EQ(Dicho(), Textos{});
+    app.Despachar([&] { M().datos.EmpezarCarga(1501); });
     app.Pulsar(M().bCalcular);
-    ASSERT_EQ(sistema.errores.size(), 1U);
-    EXPECT_EQ(sistema.errores[0].Numero(), 9);
-    EXPECT_TRUE(sistema.mensajes.empty());
-    EXPECT_EQ(G().Rows(), 1503) << "the grid itself keeps what was typed";
+    EXPECT_EQ(Dicho(), Textos{"9"});
+    EXPECT_EQ(G().Rows(), 1503);
 }
 
-TEST_F(ModuloTest, Limpiar) {
-    Valores({"1", "2", "3"});
-    Celda(2, 1);
-    Teclear("9");
-    app.Pulsar(M().bLimpiar);
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"}));
-    EXPECT_EQ(Columna(1), (Textos{"X", ""}));
-    EXPECT_FALSE(Caja().Visible);
-    EXPECT_EQ(M().pasos, "RRL") << "the results are built anew, then the rest is cleared";
-    EXPECT_TRUE(sistema.mensajes.empty());
-    EXPECT_EQ(app.Foco(), &G());
-}
-
-TEST_F(ModuloTest, UnBotonSinOrdenEstaGris) {
-    EXPECT_FALSE(M().bOtro.Enabled);
-    for (const CommandButton* boton : {&M().bCalcular, &M().bLimpiar, &M().bImprimir, &M().bMenu, &M().bExtra}) {
-        EXPECT_TRUE(boton->Enabled) << boton->Nombre();
-    }
-}
-
-TEST_F(ModuloTest, BotonesComunes) {
-    EXPECT_EQ(M().bCalcular.ToolTipText(), "Efectuar cálculos");
-    EXPECT_EQ(M().bLimpiar.Caption(), "&Limpiar");
-    EXPECT_EQ(M().bLimpiar.ToolTipText(), "Limpiar pantalla");
-    EXPECT_EQ(M().bImprimir.Caption(), "&Imprimir");
-    EXPECT_EQ(M().bImprimir.ToolTipText(), "Imprimir pantalla");
-    EXPECT_EQ(M().bMenu.Caption(), "&Menú Principal");
-    EXPECT_EQ(M().bMenu.ToolTipText(), "Retornar menú principal");
-    EXPECT_EQ(M().bReporte.Caption(), "&Reporte");
-    EXPECT_EQ(M().bReporte.ToolTipText(), "Generar reporte");
-    EXPECT_EQ(M().bCalculadora.Caption(), "Calculadora");
-    EXPECT_EQ(M().bCrear.ToolTipText(), "Crear archivo");
-    EXPECT_EQ(M().bAccesar.ToolTipText(), "Cargar archivo");
-    EXPECT_EQ(M().bCargarExcel.ToolTipText(), "Cargar archivo desde Excel");
-    EXPECT_EQ(M().Frame7.Caption(), "Archivos y resultados:");
-    EXPECT_EQ(M().lbl1.Caption(), "Ingreso de datos:");
-    EXPECT_EQ(M().Label2.Caption(), "Nota:");
-    EXPECT_EQ(M().Label1.Caption(), "Una vez que digite el dato, presionar ENTER");
+TEST_F(ModuloTest, BotonesYSusImagenes) {
+    Abrir("frmFichas");
+    const std::vector<CommandButton*> botones{&F().bCalcular,
+                                              &F().bOtro,
+                                              &F().bLimpiar,
+                                              &F().bImprimir,
+                                              &F().bMenu,
+                                              &F().archivos.bCrear,
+                                              &F().archivos.bAccesar,
+                                              &F().bReporte,
+                                              &F().bCalculadora,
+                                              &F().archivos.bCargarExcel,
+                                              &F().bExtra};
+    // The i-th button has the pictures 2i - 1 at rest and 2i lit: a digit for each, 0 dark and 1 lit.
+    const auto tras = [&](Control& bajoElPuntero) {
+        app.Despachar([&] { bajoElPuntero.MouseMove(); });
+        std::string luces;
+        for (int i = 1; i <= static_cast<int>(botones.size()); ++i) {
+            const std::string& imagen = botones[static_cast<std::size_t>(i - 1)]->Picture();
+            luces += imagen == F().ImageList1.Imagen(2 * i - 1) ? '0'
+                     : imagen == F().ImageList1.Imagen(2 * i)   ? '1'
+                                                                : '?';
+        }
+        return luces;
+    };
+    EXPECT_EQ(tras(F().bCalcular), "10000000000");
+    EXPECT_EQ(tras(F().bReporte), "10000001000") << "a button does nothing to the others";
+    EXPECT_EQ(tras(F().Frame6), "00000001000") << "a frame darkens its own";
+    EXPECT_EQ(tras(F().bExtra), "00000001001");
+    EXPECT_EQ(tras(F()), "00000000000") << "the form darkens all";
+    EXPECT_FALSE(F().bOtro.Enabled) << "nothing answers it";
+    EXPECT_FALSE(F().bCalculadora.Enabled) << "the program has no calculator here";
+    EXPECT_TRUE(F().bExtra.Enabled);
 
     app.Pulsar(M().bImprimir);
-    EXPECT_EQ(sistema.impresas, Textos{"frmUna"});
-    Valores({"1"});
+    EXPECT_EQ(sistema.impresas, Textos{"frmFichas"});
     app.Pulsar(M().bMenu);
-    EXPECT_EQ(app.Cargada("frmUna"), nullptr);
+    EXPECT_EQ(app.Cargada("frmFichas"), nullptr);
     EXPECT_EQ(sistema.alFrente, app.Cargada("frmCuencalia"));
+}
+
+TEST_F(ModuloTest, ResultadosFallosYLimpieza) {
+    Abrir("frmFichas");
+    EXPECT_EQ(F().tabla.TextMatrix(1, 1), "(mm)");
+    EXPECT_EQ(F().tabla.FixedRows(), 2);
+    app.Despachar([&] { F().datos.grdt.SetFocus(); });
+    Teclas("4\n");
+    app.Despachar([&] { F().SSTab1.Tab = 0; });
+    app.Pulsar(F().bExtra);
+    EXPECT_EQ(Dicho(), Textos{"Falta a"});
+    EXPECT_EQ(app.Foco(), &F().txta);
+    Teclas("1");
+    app.Pulsar(F().bExtra);
+    EXPECT_EQ(Dicho(), Textos{"Efectuar cálculos antes de graficar"});
+    app.Pulsar(F().bCalcular);
+    app.Pulsar(F().bExtra);
+    EXPECT_TRUE(F().exigido);
+    EXPECT_EQ(F().tabla.TextMatrix(2, 1), "0.3") << "1 / 4 is 0.25";
+    EXPECT_TRUE(F().txtr.Locked);
+    EXPECT_FALSE(F().txta.Locked);
+    app.Pulsar(F().bLimpiar);
+    EXPECT_EQ(Ver(), "[?],| @1,1");
+    EXPECT_EQ(F().tabla.TextMatrix(2, 1) + F().txtr.Text() + F().txta.Text(), "");
+    EXPECT_FALSE(F().calculado);
+
+    app.Despachar([&] { F().datos.EmpezarCarga(1); });
+    app.Pulsar(F().bCalcular);
+    EXPECT_EQ(Dicho(), Textos{"Ingresar datos adecuadamente "}) << "1 / 0, in the module's own words";
+    app.Despachar([&] { F().datos.EmpezarCarga(13); });
+    app.Pulsar(F().bCalcular);
+    EXPECT_EQ(Dicho(), Textos{"Ingresar datos adecuadamente "}) << "a thirteenth month";
+    EXPECT_EQ(F().txtr.Text(), "");
+}
+
+TEST_F(ModuloTest, CajasDeNumeros) {
+    Abrir("frmFichas");
+    app.Despachar([&] { F().txta.SetFocus(); });
+    Teclas("-1a2..5,e<\n");
+    EXPECT_EQ(F().txta.Text(), "12.");
+    EXPECT_EQ(app.Foco(), &F().txtb);
+    Teclas("3.4\n");
+    EXPECT_EQ(F().txtb.Text(), "34");
+    EXPECT_EQ(app.Foco(), &F().bExtra);
+}
+
+// A control on a page behind is out of sight; the focus brings its page to the front, and leaves a page that goes back.
+TEST_F(ModuloTest, Fichas) {
+    Abrir("frmFichas");
+    EXPECT_EQ(F().SSTab1.Tab(), 0) << "building the grid turns no page";
+    EXPECT_EQ(app.Foco(), &F().bCalcular);
+    EXPECT_FALSE(G().EsVisible());
+    EXPECT_TRUE(G().EsMostrable());
+    app.Pulsar(G());
+    EXPECT_NE(app.Foco(), &G()) << "nobody can click what is out of sight";
+    app.Despachar([&] { M().datos.MenorQue2Celdas(); });
+    EXPECT_EQ(F().SSTab1.Tab(), 1);
+    EXPECT_EQ(app.Foco(), &G());
+    EXPECT_EQ(Tras("3\n"), "Ene,3.0|[->],| @2,1");
+    app.Despachar([&] { F().SSTab1.Tab = 0; });
+    EXPECT_EQ(app.Foco(), &F().SSTab1) << "what is typed must not go on to the page behind";
+    app.Despachar([&] {
+        F().SSTab1.Tab = 1;
+        F().txtb.SetFocus();
+    });
+    EXPECT_EQ(F().SSTab1.Tab(), 0);
+    EXPECT_EQ(app.Foco(), &F().txtb);
+}
+
+// 1 = 3F800000, 2 = 40000000, 3 = 40400000, 0.1 = 3DCCCCCD, least byte first.
+const std::string kUno = "\x00\x00\x80\x3F"s;
+const std::string kDos = "\x00\x00\x00\x40"s;
+const std::string kTres = "\x00\x00\x40\x40"s;
+const std::string kDecimo = "\xCD\xCC\xCC\x3D"s;
+
+class ArchivosModuloTest : public ModuloTest {
+  protected:
+    std::string Libro(const std::vector<ValorCelda>& columna) {
+        Hoja hoja;
+        for (std::size_t f = 0; f < columna.size(); ++f) {
+            hoja.Poner(static_cast<int>(f) + 1, 1, columna[f]);
+        }
+        sistema.Hojas().EscribirLibro(carpeta / "serie.xlsx", hoja);
+        return carpeta / "serie.xlsx";
+    }
+
+    pruebas::CarpetaTemporal carpeta;
+    const std::string ruta = carpeta / "serie.X";
+};
+
+TEST_F(ArchivosModuloTest, GuardarYCargar) {
+    ComandosArchivo& a = M().archivos;
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, kUno + kDecimo + kTres + "\x01\x02\x03")),
+              " 1,1.0| 2,0.1| 3,3.0|[->],| @4,1")
+        << "the tail is never read";
+    EXPECT_EQ(M().n, 3);
+    EXPECT_EQ(sistema.filtroDialogo, "Valores X|*.X");
+    Celda(3, 1);
+    Teclas("2zv");
+    TrasPulsar(a.bCrear, Guardar(carpeta / "otra.X", std::string(1000, 'x')));
+    EXPECT_EQ(BytesDe(carpeta / "otra.X"), kUno + kDecimo + kDos) << "no question, and nothing of the old file";
+    EXPECT_EQ(sistema.filtroDialogo, "Valores de X|*.X");
+    // Single values by their shortest digits: 3EAAAAAB, 4B7FFFFF, 322BCC77, 4996B43F (1234567.875), the zero with a
+    // sign.
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, "\xAB\xAA\xAA\x3E\xFF\xFF\x7F\x4B\x77\xCC\x2B\x32\x3F\xB4\x96\x49"s +
+                                                       "\x00\x00\x00\x80"s)),
+              " 1,0.33333334| 2,16777215.0| 3,0.00000001| 4,1234567.9| 5,0.0|[->],| @6,1");
+    EXPECT_EQ(TrasPulsar(a.bAccesar), Ver()) << "a cancelled dialog reads the name of the last use again";
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, "")), "[->],| @1,1");
+    EXPECT_EQ(Dicho(), Textos{});
+
+    app.Pulsar(M().bMenu);
     Abrir("frmUna");
-    EXPECT_EQ(Columna(0), (Textos{"N°", "[?]"})) << "an empty module";
-    EXPECT_EQ(Columna(1), (Textos{"X", ""}));
-    EXPECT_EQ(Cursor(), "1,1");
+    Teclas("1\n");
+    TrasPulsar(M().archivos.bCrear);
+    EXPECT_EQ(BytesDe(ruta), "") << "a module opened anew has no last use";
+}
+
+TEST_F(ArchivosModuloTest, ColaCabezaYEtiquetas) {
+    Abrir("frmFichas");
+    ComandosArchivo& a = F().archivos;
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, kUno + kDecimo + kDos)), "Ene,1.0|Feb,0.1|[->],| @3,1");
+    EXPECT_EQ(F().txtMargen.Text(), "2.");
+    TrasPulsar(a.bCrear, carpeta / "copia.M");
+    EXPECT_EQ(BytesDe(carpeta / "copia.M"), kUno + kDecimo + kDos);
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, kTres)), "[->],| @1,1") << "no data, and the trailing record";
+    EXPECT_EQ(F().txtMargen.Text(), "3.");
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, "")), "[?],| @1,1") << "not even the trailing record";
+
+    const std::vector<ValorCelda> trece(13, Double(1.25));
+    EXPECT_EQ(TrasPulsar(a.bCargarExcel, Libro({Double(7), Double(1.25), "texto", std::monostate(), Double(6)})),
+              "Ene,1.3|Feb,texto|[->],| @3,1")
+        << "up to the gap; a text stands as it is";
+    EXPECT_EQ(F().txtMargen.Text(), "7.0");
+    EXPECT_TRUE(TrasPulsar(a.bCargarExcel, Libro(trece)).ends_with("Dic,1.3|[->],| @13,1"));
+    std::vector<ValorCelda> catorce = trece;
+    catorce.emplace_back(Double(1));
+    EXPECT_EQ(TrasPulsar(a.bCargarExcel, Libro(catorce)), "[?],| @1,1") << "more than the array holds";
+    EXPECT_EQ(TrasPulsar(a.bCargarExcel, Guardar(carpeta / "no.xlsx", "no es un libro")), "[?],| @1,1");
+    EXPECT_EQ(Dicho(), Textos{});
+}
+
+TEST_F(ArchivosModuloTest, FallosCallados) {
+    ComandosArchivo& a = M().archivos;
+    for (const std::string& malo : {carpeta / "falta.X", carpeta / ""}) {
+        Teclas("7\n");
+        EXPECT_EQ(TrasPulsar(a.bAccesar, malo), "[?],| @1,1");
+    }
+    // The second record is no number: what was read before it stays.
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, kUno + "\x00\x00\x80\x7F"s + kTres)), " 1,1.0| 2,|,|,| @1,1");
+    EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 32768, '\0'))), "[?],| @1,1");
+    TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 1501, '\0')));
+    EXPECT_EQ(G().TextMatrix(1501, 0), " 1501") << "the grid has no limit; storing it has";
+    TrasPulsar(a.bCrear, Guardar(carpeta / "otra.X", "intacto"));
+    EXPECT_EQ(BytesDe(carpeta / "otra.X"), "intacto");
+    TrasPulsar(a.bAccesar, Guardar(ruta, kUno + kDos));
+    Celda(2, 1);
+    Teclas("1e39\n");
+    TrasPulsar(a.bCrear, carpeta / "nueva.X");
+    EXPECT_EQ(BytesDe(carpeta / "nueva.X"), kUno) << "beyond a Single: what came before is stored";
+    EXPECT_EQ(Dicho(), Textos{});
+
+    sistema.errorDelDialogo = kDialogoCancelado;
+    const std::string nombre = carpeta / "nueva.X";
+    app.Pulsar(a.bCrear);
+    EXPECT_EQ(TrasPulsar(a.bAccesar), " 1,1.0| 2,1" + std::string(39, '0') + ".0|[->],| @3,1")
+        << "the grid goes after the dialog";
+    EXPECT_EQ(TrasPulsar(a.bCargarExcel), "[?],| @1,1") << "here before it";
+    EXPECT_EQ(Dicho(), (Textos{"Error desconocido al salvar el archivo " + nombre,
+                               "Error desconocido al abrir el archivo " + nombre,
+                               "Error desconocido al abrir el archivo " + nombre}));
+    sistema.errorDelDialogo = 32754;
+    app.Pulsar(a.bCrear);
+    EXPECT_EQ(Dicho(), Textos{});
 }
 
 }  // namespace

@@ -16,8 +16,8 @@
 #include <vector>
 
 #include "frame/base/errores.h"
-#include "frame/reportes/rtf.h"
 #include "frame/base/utf8.h"
+#include "frame/reportes/rtf.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {

@@ -1,0 +1,297 @@
+#include <gtest/gtest.h>
+
+#include "frame/modulo/modulocalculo.h"
+#include "frame/reportes/frmPadre.h"
+#include "frame/reportes/rtf.h"
+#include "guion/plataformaguion.h"
+#include "tests/archivos_en_disco.h"
+
+namespace cuencalia {
+namespace {
+
+using pruebas::Guardar;
+
+/// Writes down what the printer and the file dialogs were asked besides.
+class Sistema : public PlataformaGuion {
+  public:
+    void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override {
+        pedido = titulo + (soloSeleccion ? ": selección de " : ": todo ") + documento.Caption();
+        if (sinImpresora) {
+            throw ErrorEjecucion(kArgumentoNoValido);
+        }
+    }
+    void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
+                       std::string& nombre) override {
+        ++dialogos;
+        pedido = (modo == ModoArchivo::Guardar ? "guardar " : "abrir ") + titulo + " " + filtro;
+        PlataformaGuion::ElegirArchivo(modo, titulo, filtro, nombre);
+    }
+
+    std::string pedido;
+    int dialogos = 0;
+    bool sinImpresora = false;
+};
+
+/// A module whose report is its rows and a last line; it may be stopped before that line.
+class ModuloConReporte : public ModuloCalculo {
+  public:
+    explicit ModuloConReporte(Aplicacion& app)
+        : ModuloCalculo(app, "frmUna", {.titulo = "Módulo de prueba", .datos = {.encabezados = {"N°", "X"}}}) {}
+
+    bool falla = false;
+
+    void GenerarReporte(Reporte& reporte) override {
+        reporte.EscribirTabla(TablaDeSerie("Serie:", {" N°", " X"}, 3), datos.grdt, datos.Filas());
+        if (falla) {
+            throw ErrorEjecucion(kSubindiceFuera);
+        }
+        reporte.ReporteLinea("fin");
+    }
+
+  protected:
+    void Calcular() override {}
+};
+
+template <typename Forma>
+std::unique_ptr<Formulario> Hacer(Aplicacion& app) {
+    return std::make_unique<Forma>(app);
+}
+
+const std::string kCabecera = "Resultados\n\nMódulo de prueba\n\n\n";
+const std::string kVacio = kCabecera + "Serie:\n\n---\n N°\t\t X\t\t\n---\n---\n\nfin\n";
+
+class ReportesTest : public testing::Test {
+  protected:
+    ReportesTest() {
+        app.Despachar([&] { app.ModuloAbrir("frmUna"); });
+        Reportar();
+    }
+
+    ModuloConReporte& M() { return dynamic_cast<ModuloConReporte&>(*app.Cargada("frmUna")); }
+    frmPadre& Padre() { return dynamic_cast<frmPadre&>(*app.Cargada("frmPadre")); }
+    EditorTextoRico& Texto() { return Padre().ActiveForm()->rtfText.Editor(); }
+    std::string Titulo() { return Padre().ActiveForm() == nullptr ? "ninguno" : Padre().ActiveForm()->Caption(); }
+    void Reportar() { app.Pulsar(M().bReporte); }
+    void Elegir(Menu& entrada, const std::string& archivo = "") {
+        if (!archivo.empty()) {
+            sistema.archivo = archivo;
+        }
+        app.Despachar([&] { entrada.Elegir(); });
+    }
+    void CerrarTodos() {
+        while (Padre().ActiveForm() != nullptr) {
+            app.CerrarVentana(*Padre().ActiveForm());
+        }
+    }
+    void Teclear(const std::string& texto) {
+        app.Despachar([&] { Padre().ActiveForm()->rtfText.SetFocus(); });
+        for (const char c : texto) {
+            app.PulsarTecla(0, c == '\n' ? int{kTeclaEnter} : c);
+        }
+    }
+    static std::string TextoGuardado(const std::string& ruta) {
+        EditorTextoRico editor;
+        editor.LoadFile(ruta);
+        return editor.Text();
+    }
+    std::vector<int> Errores() const {
+        std::vector<int> numeros;
+        for (const ErrorEjecucion& error : sistema.errores) {
+            numeros.push_back(error.Numero());
+        }
+        return numeros;
+    }
+
+    pruebas::CarpetaTemporal carpeta;
+    Sistema sistema;
+    Aplicacion app{sistema,
+                   {{"frmCuencalia", Hacer<ModuloConReporte>},
+                    {"frmPadre", Hacer<frmPadre>},
+                    {"frmUna", Hacer<ModuloConReporte>}}};
+};
+
+// (width - length) / 2 blanks on each side, a half going to the even number.
+TEST(ReporteTest, CeldasYTablas) {
+    struct Caso {
+        const char* texto;
+        int ancho;
+        std::size_t blancos;
+    };
+    static constexpr Caso kCasos[] = {{"abc", 25, 11}, {"3.0000", 25, 10}, {"12.5", 25, 10}, {"1", 18, 8},
+                                      {"8.0", 18, 8},  {"", 25, 12},       {"años", 18, 7},  {"x", 2, 0},
+                                      {"xx", 2, 0},    {"xxxx", 2, 0}};
+    for (const Caso& caso : kCasos) {
+        EXPECT_EQ(Relleno(caso.texto, caso.ancho).size(), caso.blancos) << caso.texto;
+    }
+    EditorTextoRico documento;
+    Reporte reporte(documento);
+    PlataformaGuion sistema;
+    Aplicacion app(sistema, {});
+    Formulario forma(app, "f", "f");
+    FlexGrid grid(forma, "g");
+    grid.PonerRows(3);
+    grid.PonerCols(3);
+    for (int c = 0; c < 3; ++c) {
+        grid.PonerTextMatrix(1, c, std::to_string(c));
+        grid.PonerTextMatrix(2, c, std::to_string(10 + c));
+    }
+    reporte.EscribirTabla({.titulo = "T:",
+                           .regla = 2,
+                           .encabezado = UnirEncabezados({"a", "b"}, "\t"),
+                           .celda = CeldaCentrada(4, [](int fila, int) { return fila == 1 ? 1 : 0; }),
+                           .primeraColumna = 1,
+                           .columnas = 1,
+                           .reglaFinal = 3},
+                          grid, 2);
+    EXPECT_EQ(documento.Text(), "T:\n\n--\na\tb\t\n--\n   1  \n 11 \n---\n\n") << "(4 - 1) / 2 is 1.5, so 2";
+    EXPECT_EQ(grid.Col(), 1) << "the cursor stays";
+}
+
+TEST_F(ReportesTest, SeAcumulanDondeEstaElCursor) {
+    EXPECT_EQ(Titulo(), "Documento 1");
+    EXPECT_EQ(Texto().Text(), kVacio);
+    EXPECT_EQ(Texto().Alineaciones(), (std::vector<int>{2, 2, 2, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+    Teclear("despues");
+    app.PulsarTecla(kTeclaInicio, 0);
+    Teclear("antes\n");
+    Reportar();
+    EXPECT_EQ(Texto().Text(), "antes\n" + kVacio + kVacio + "despues");
+
+    Elegir(Padre().mnuFileNew);
+    Teclear("nota\n");
+    M().falla = true;
+    Reportar();
+    EXPECT_EQ(Texto().Text(), "nota\n" + kVacio.substr(0, kVacio.find("fin"))) << "what was written stays";
+    const auto& parrafos = Texto().Documento().parrafos;
+    EXPECT_EQ(parrafos[0].formato.sangriaIzquierda, 0) << "what the user typed keeps its margin";
+    for (std::size_t i = 1; i < parrafos.size(); ++i) {
+        EXPECT_EQ(parrafos[i].formato.sangriaIzquierda, 200) << i;
+        EXPECT_EQ(parrafos[i].formato.sangriaDerecha, 200) << i;
+    }
+    CerrarTodos();
+    M().falla = false;
+    Reportar();
+    ASSERT_EQ(sistema.mensajes.size(), 2U) << "stopped half-way, and no document at all";
+    for (const Mensaje& aviso : sistema.mensajes) {
+        EXPECT_EQ(aviso.texto, "No se puede editar el reporte: Módulo de prueba");
+        EXPECT_EQ(aviso.icono, 64);
+        EXPECT_EQ(aviso.titulo, "Mensaje de error");
+    }
+    EXPECT_EQ(Titulo(), "ninguno");
+    EXPECT_EQ(Errores(), std::vector<int>{});
+}
+
+// The table is what the grid shows, also what was left in it without ENTER; reading it moves the grid's cursor.
+TEST_F(ReportesTest, TablaDeLaCuadricula) {
+    app.Despachar([&] { M().datos.grdt.Presionar(kBotonIzquierdo, 1, 1); });
+    for (const char c : std::string("1\n2\n3\n")) {
+        app.PulsarTecla(c == '\n' ? int{kTeclaEnter} : 0, c == '\n' ? int{kTeclaEnter} : c);
+    }
+    M().datos.grdt.PonerTextMatrix(2, 1, "z");
+    Elegir(Padre().mnuFileNew);
+    Reportar();
+    EXPECT_EQ(Texto().Text(), kCabecera +
+                                  "Serie:\n\n---\n N°\t\t X\t\t\n---\n 1\t\t1.0\t\t\n 2\t\tz\t\t\n 3\t\t3.0\t\t\n"
+                                  "---\n\nfin\n");
+    EXPECT_EQ(M().datos.grdt.Row(), 3);
+    EXPECT_EQ(M().datos.grdt.TextMatrix(4, 0), "[?]");
+}
+
+TEST_F(ReportesTest, DocumentosYSuVentana) {
+    Elegir(Padre().mnuFileNew);
+    EXPECT_EQ(Titulo(), "Documento 2");
+    app.CerrarVentana(*Padre().ActiveForm());
+    EXPECT_EQ(Titulo(), "Documento 1") << "the one that was active before";
+    Padre().Left = -150.5;
+    Padre().Height = 9000;
+    Elegir(Padre().mnuFileExit);
+    EXPECT_EQ(app.Cargada("frmPadre"), nullptr);
+    EXPECT_FALSE(sistema.terminado);
+    const std::map<std::string, std::string> guardado{
+        {"MainLeft", "-150.5"}, {"MainTop", "1000"}, {"MainWidth", "6500"}, {"MainHeight", "9000"}};
+    EXPECT_EQ(sistema.ajustes, guardado);
+    Reportar();
+    EXPECT_EQ(Titulo(), "Documento 3") << "the numbers carry on";
+    EXPECT_EQ(Texto().Text(), kVacio);
+    EXPECT_EQ(Padre().Left(), -150.5);
+    Padre().Minimizada = true;
+    Padre().Left = -30000;
+    app.CerrarVentana(Padre());
+    EXPECT_EQ(sistema.ajustes, guardado) << "a minimised window leaves them as they were";
+    EXPECT_TRUE(sistema.mensajes.empty()) << "nobody asks about what was not saved";
+}
+
+TEST_F(ReportesTest, GuardarYAbrir) {
+    Elegir(Padre().mnuFileNew);
+    Texto().SelText("Año 1998");
+    for (const std::string archivo : {"uno.rtf", "dos.rtf"}) {
+        Elegir(Padre().mnuFileSave, carpeta / archivo);
+        EXPECT_EQ(TextoGuardado(carpeta / archivo), "Año 1998");
+        EXPECT_EQ(sistema.pedido, "guardar Guardar Archivos (*.RTF)|*.RTF");
+    }
+    EXPECT_EQ(Titulo(), "Documento 2") << "so it is asked for again";
+    // The first 8 characters alone tell.
+    Padre().ActiveForm()->Caption = "Documents/serie.rtf";
+    Elegir(Padre().mnuFileSave);
+    EXPECT_EQ(sistema.dialogos, 3);
+    Elegir(Padre().mnuFileSaveAs);
+    EXPECT_EQ(Titulo(), "Documents/serie.rtf") << "cancelled";
+    Elegir(Padre().mnuFileSaveAs, carpeta / "tres.rtf");
+    EXPECT_EQ(sistema.pedido, "guardar Guardar como Archivos RTF(*.RTF)|*.RTF");
+    EXPECT_EQ(Titulo(), carpeta / "tres.rtf");
+    Texto().SelText("!");
+    Elegir(Padre().mnuFileSave);
+    EXPECT_EQ(sistema.dialogos, 5) << "its name is known now";
+    EXPECT_EQ(TextoGuardado(carpeta / "tres.rtf"), "Año 1998!");
+
+    Elegir(Padre().mnuFileOpen, Guardar(carpeta / "serie.rtf", R"({\rtf1\pard\qc a\'f1o\par})"));
+    EXPECT_EQ(sistema.pedido, "abrir Abrir Archivos (*.RTF)|*.RTF");
+    EXPECT_EQ(Texto().Text(), "año");
+    EXPECT_EQ(Texto().SelAlignment(), 2);
+    EXPECT_EQ(Titulo(), carpeta / "serie.rtf");
+    Elegir(Padre().mnuFileOpen, carpeta / "no hay.rtf");
+    Elegir(Padre().mnuFileSaveAs, carpeta / "no/hay.rtf");
+    EXPECT_EQ(Titulo(), carpeta / "no/hay.rtf") << "set before the file is written";
+    EXPECT_EQ(Texto().Text(), "año");
+    CerrarTodos();
+    Elegir(Padre().mnuFileSave);
+    EXPECT_EQ(Errores(), (std::vector<int>{kArchivoNoEncontrado, kRutaNoEncontrada, kObjetoNoEstablecido}));
+    Elegir(Padre().mnuFileOpen);
+    EXPECT_EQ(Titulo(), "Documento 3") << "made first, also when the dialog is cancelled then";
+}
+
+TEST_F(ReportesTest, PortapapelesEImpresora) {
+    Elegir(Padre().mnuFileNew);
+    Elegir(Padre().mnuFilePrint);
+    EXPECT_EQ(sistema.pedido, "Imprimir: todo Documento 2");
+    Texto().SelRTF(R"({\rtf1\pard\qc uno\par\pard\b dos\b0  tres})");
+    const TextoRico antes = Texto().Documento();
+    Texto().SelStart(4);
+    Texto().SelLength(5);
+    sistema.sinImpresora = true;
+    Elegir(Padre().mnuFilePrint);
+    EXPECT_EQ(sistema.pedido, "Imprimir: selección de Documento 2");
+    Elegir(Padre().mnuEditCopy);
+    EXPECT_EQ(LeerRtf(sistema.portapapeles, ClaseRtf::kFragmento).Texto(), "dos t");
+    sistema.portapapeles.clear();
+    Elegir(Padre().mnuEditCut);
+    ASSERT_TRUE(EsRtf(sistema.portapapeles));
+    EXPECT_EQ(Texto().Text(), "uno\nres");
+    Elegir(Padre().mnuEditPaste);
+    EXPECT_EQ(Texto().Documento(), antes);
+    sistema.portapapeles = "ñ\n";
+    Elegir(Padre().mnuEditPaste);
+    EXPECT_EQ(Texto().Text(), "uno\ndos tñ\nres");
+
+    CerrarTodos();
+    sistema.pedido.clear();
+    for (Menu* entrada : {&Padre().mnuFileSaveAs, &Padre().mnuFilePrint, &Padre().mnuEditCut, &Padre().mnuEditCopy,
+                          &Padre().mnuEditPaste}) {
+        Elegir(*entrada);
+    }
+    EXPECT_EQ(sistema.pedido + sistema.portapapeles, "ñ\n");
+    EXPECT_TRUE(sistema.errores.empty()) << "a printer that fails and a missing document are no errors";
+}
+
+}  // namespace
+}  // namespace cuencalia
