@@ -1,8 +1,5 @@
 #include "hojas/armador.h"
 
-#include <glib.h>
-
-#include <array>
 #include <cmath>
 
 #include "hojas/errores_libro.h"
@@ -55,14 +52,6 @@ Hoja ArmadorHoja::Terminar() const {
         }
     }
     return datos;
-}
-
-void AgregarCaracter(std::string& texto, char32_t codigo) {
-    constexpr char32_t kReemplazo = 0xFFFD;
-    std::array<char, 6> bytes;
-    const char32_t valido = g_unichar_validate(codigo) ? codigo : kReemplazo;
-    const int cuantos = g_unichar_to_utf8(valido, bytes.data());
-    texto.append(bytes.data(), static_cast<std::size_t>(cuantos));
 }
 
 }  // namespace cuencalia

@@ -46,7 +46,4 @@ class ArmadorHoja {
 /// The text that stands for a logical value.
 inline std::string TextoLogico(bool valor) { return valor ? "Verdadero" : "Falso"; }
 
-/// Appends the character as UTF-8; a code that no character has becomes the replacement character.
-void AgregarCaracter(std::string& texto, char32_t codigo);
-
 }  // namespace cuencalia

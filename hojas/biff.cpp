@@ -1,14 +1,15 @@
 #include "hojas/biff.h"
 
-#include <glib.h>
+#include <iconv.h>
 
 #include <algorithm>
 #include <bit>
-#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "frame/base/utf8.h"
 #include "hojas/errores_libro.h"
 #include "hojas/ole.h"
 
@@ -40,6 +41,7 @@ enum TipoRegistro : std::uint16_t {
 enum VersionBiff : std::uint16_t { kBiff5 = 0x0500, kBiff8 = 0x0600 };
 constexpr std::uint16_t kSubflujoGlobal = 0x0005;
 constexpr std::uint16_t kSubflujoHoja = 0x0010;
+constexpr unsigned kMacRoman = 10000;
 
 // Little-endian fields of the data of a record and of those that continue it.
 class Campos {
@@ -109,20 +111,20 @@ std::string CaracteresUnicode(Campos& campos, std::size_t cuantos, bool anchos) 
         const char32_t unidad = anchos ? campos.Palabra() : campos.Byte();
         const bool esBajo = unidad >= 0xDC00 && unidad < 0xE000;
         if (alto != 0 && !esBajo) {
-            AgregarCaracter(texto, alto);
+            AgregarUtf8(texto, alto);
         }
         if (alto != 0 && esBajo) {
-            AgregarCaracter(texto, 0x10000 + ((alto - 0xD800) << 10) + (unidad - 0xDC00));
+            AgregarUtf8(texto, 0x10000 + ((alto - 0xD800) << 10) + (unidad - 0xDC00));
             alto = 0;
         } else {
             alto = unidad >= 0xD800 && unidad < 0xDC00 ? unidad : 0;
             if (alto == 0) {
-                AgregarCaracter(texto, unidad);
+                AgregarUtf8(texto, unidad);
             }
         }
     }
     if (alto != 0) {
-        AgregarCaracter(texto, alto);
+        AgregarUtf8(texto, alto);
     }
     return texto;
 }
@@ -138,20 +140,37 @@ std::string CadenaUnicode(Campos& campos) {
     return texto;
 }
 
+// Text of a code page as UTF-8. Error 1004 for a page that the system does not know, and for bytes that it lacks.
+std::string DePagina(std::string crudo, unsigned pagina) {
+    const std::string nombre = pagina == kMacRoman ? "MACINTOSH" : "CP" + std::to_string(pagina);
+    const iconv_t conversor = iconv_open("UTF-8", nombre.c_str());
+    if (conversor == reinterpret_cast<iconv_t>(-1)) {
+        FallarDanado();
+    }
+    constexpr std::size_t kMaximoPorByte = 4;
+    std::string texto(kMaximoPorByte * (crudo.size() + 1), '\0');
+    char* entrada = crudo.data();
+    char* salida = texto.data();
+    std::size_t faltan = crudo.size();
+    std::size_t caben = texto.size();
+    constexpr auto kFallo = static_cast<std::size_t>(-1);
+    // The second call takes out what a page of combining characters holds back.
+    const bool convertido = iconv(conversor, &entrada, &faltan, &salida, &caben) != kFallo &&
+                            iconv(conversor, nullptr, nullptr, &salida, &caben) != kFallo;
+    iconv_close(conversor);
+    if (!convertido) {
+        FallarDanado();
+    }
+    texto.resize(texto.size() - caben);
+    return texto;
+}
+
 std::string CadenaDePagina(Campos& campos, unsigned pagina) {
     std::string crudo;
     for (std::size_t quedan = campos.Palabra(); quedan > 0; --quedan) {
         crudo += static_cast<char>(campos.Byte());
     }
-    const std::string nombre = "CP" + std::to_string(pagina);
-    gsize largo = 0;
-    const std::unique_ptr<char, decltype(&g_free)> texto(
-        g_convert(crudo.data(), static_cast<gssize>(crudo.size()), "UTF-8", nombre.c_str(), nullptr, &largo, nullptr),
-        g_free);
-    if (texto == nullptr) {
-        FallarDanado();
-    }
-    return {texto.get(), largo};
+    return DePagina(std::move(crudo), pagina);
 }
 
 // 30 bits of a whole number, or the upper 30 bits of a real; the lowest bit divides by 100 ([MS-XLS] 2.5.217).
@@ -251,7 +270,7 @@ void AnotarHoja(Campos campos, Globales& globales) {
 unsigned PaginaDeCodigos(std::uint16_t declarada) {
     constexpr std::uint16_t kAppleRoman = 0x8000;
     constexpr std::uint16_t kWindows = 0x8001;
-    return declarada == kAppleRoman ? 10000U : declarada == kWindows ? 1252U : declarada;
+    return declarada == kAppleRoman ? kMacRoman : declarada == kWindows ? 1252U : declarada;
 }
 
 Globales LeerGlobales(Bytes flujo) {

@@ -1,4 +1,3 @@
-#include <glib.h>
 #include <locale.h>
 #include <unistd.h>
 #include <xlsxwriter.h>
@@ -9,6 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "frame/base/utf8.h"
 #include "hojas/errores_libro.h"
 #include "hojas/libros.h"
 
@@ -117,9 +117,8 @@ void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const Valo
         }
         error = worksheet_write_number(hoja, fila, columna, numero->valor(), nullptr);
     } else if (const auto* texto = std::get_if<std::string>(&valor)) {
-        const bool esUtf8 = g_utf8_validate(texto->data(), static_cast<gssize>(texto->size()), nullptr) != 0;
-        error = esUtf8 ? worksheet_write_string(hoja, fila, columna, texto->c_str(), nullptr)
-                       : LXW_ERROR_PARAMETER_VALIDATION;
+        error = EsUtf8SinNulos(*texto) ? worksheet_write_string(hoja, fila, columna, texto->c_str(), nullptr)
+                                       : LXW_ERROR_PARAMETER_VALIDATION;
     }
     if (error != LXW_NO_ERROR) {
         FallarCelda();

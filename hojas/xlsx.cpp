@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/base/utf8.h"
 #include "hojas/errores_libro.h"
 #include "hojas/xml.h"
 #include "hojas/zip.h"
@@ -180,7 +181,7 @@ std::string DescifrarTexto(std::string_view cifrado) {
         unsigned valor = 0;
         const bool completo = codigo.size() == kLargoCodigo && codigo.back() == '_';
         if (completo && std::from_chars(codigo.data() + 2, codigo.data() + 6, valor, 16).ptr == codigo.data() + 6) {
-            AgregarCaracter(texto, valor);
+            AgregarUtf8(texto, valor);
             cifrado.remove_prefix(kLargoCodigo);
         } else {
             texto += cifrado.substr(0, 1);

@@ -5,6 +5,8 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "frame/base/utf8.h"
+
 namespace cuencalia {
 
 namespace {
@@ -170,20 +172,6 @@ bool EsUnoOMas(std::string_view numero) {
     return leido.ec == std::errc{} ? orden + exponente > 0 : !texto_exponente.starts_with('-');
 }
 
-bool EsContinuacion(char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; }
-
-/// Bytes of the first character of a UTF-8 text that is not empty. A byte that starts no well-formed character is one
-/// by itself, so that a damaged text still has a length.
-std::size_t AnchoPrimero(std::string_view texto) {
-    const auto guia = static_cast<unsigned char>(texto.front());
-    const std::size_t ancho = guia >= 0xF8 ? 1 : guia >= 0xF0 ? 4 : guia >= 0xE0 ? 3 : guia >= 0xC0 ? 2 : 1;
-    if (ancho > texto.size()) {
-        return 1;
-    }
-    const auto resto = texto.substr(1, ancho - 1);
-    return std::all_of(resto.begin(), resto.end(), EsContinuacion) ? ancho : 1;
-}
-
 }  // namespace
 
 Double Val(std::string_view texto) {
@@ -240,13 +228,7 @@ std::string Format(Double valor, std::string_view patron) { return Escribir(EnDe
 std::string Format(Single valor, std::string_view patron) { return Escribir(EnDecimal(valor), patron); }
 std::string Format(std::string_view texto, std::string_view) { return std::string(texto); }
 
-int Len(std::string_view texto) {
-    int caracteres = 0;
-    for (; !texto.empty(); ++caracteres) {
-        texto.remove_prefix(AnchoPrimero(texto));
-    }
-    return caracteres;
-}
+int Len(std::string_view texto) { return static_cast<int>(ContarUtf8(texto)); }
 
 std::string Trim(std::string_view texto) {
     texto.remove_prefix(std::min(texto.find_first_not_of(' '), texto.size()));
@@ -254,50 +236,26 @@ std::string Trim(std::string_view texto) {
 }
 
 std::string Chr(int codigo) {
-    const bool sustituto = codigo >= 0xD800 && codigo <= 0xDFFF;
-    if (codigo < 0 || codigo > 0x10FFFF || sustituto) {
+    if (!EsCodigoDeCaracter(static_cast<char32_t>(codigo))) {
         throw ErrorEjecucion(kArgumentoNoValido);
     }
-    const auto byte = [](int bits) { return static_cast<char>(static_cast<unsigned char>(bits)); };
-    const auto cola = [&](int desplazamiento) { return byte(0x80 | ((codigo >> desplazamiento) & 0x3F)); };
-    if (codigo < 0x80) {
-        return {byte(codigo)};
-    }
-    if (codigo < 0x800) {
-        return {byte(0xC0 | (codigo >> 6)), cola(0)};
-    }
-    if (codigo < 0x10000) {
-        return {byte(0xE0 | (codigo >> 12)), cola(6), cola(0)};
-    }
-    return {byte(0xF0 | (codigo >> 18)), cola(12), cola(6), cola(0)};
+    std::string texto;
+    AgregarUtf8(texto, static_cast<char32_t>(codigo));
+    return texto;
 }
 
 int Asc(std::string_view texto) {
     if (texto.empty()) {
         throw ErrorEjecucion(kArgumentoNoValido);
     }
-    const std::size_t ancho = AnchoPrimero(texto);
-    const int guia = static_cast<unsigned char>(texto.front());
-    if (ancho == 1) {
-        return guia;
-    }
-    int codigo = guia & (0x7F >> ancho);
-    for (const char c : texto.substr(1, ancho - 1)) {
-        codigo = codigo << 6 | (static_cast<unsigned char>(c) & 0x3F);
-    }
-    return codigo;
+    const CaracterUtf8 primero = LeerUtf8(texto, 0);
+    return primero.valido ? static_cast<int>(primero.codigo) : static_cast<unsigned char>(texto.front());
 }
 
 std::string Subtexto(std::string_view texto, int inicio, int cuantos) {
-    const auto saltar = [](std::string_view resto, int caracteres) {
-        for (int i = 0; i < caracteres && !resto.empty(); ++i) {
-            resto.remove_prefix(AnchoPrimero(resto));
-        }
-        return resto;
-    };
-    const auto desde = saltar(texto, inicio);
-    const auto despues = saltar(desde, cuantos);
-    return std::string(desde.substr(0, desde.size() - despues.size()));
+    const auto caracteres = [](int n) { return static_cast<std::size_t>(std::max(0, n)); };
+    texto.remove_prefix(ByteDeCaracter(texto, caracteres(inicio)));
+    return std::string(texto.substr(0, ByteDeCaracter(texto, caracteres(cuantos))));
 }
 
 std::string Space(int cuantos) { return std::string(static_cast<std::size_t>(std::max(0, cuantos)), ' '); }

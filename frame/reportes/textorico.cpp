@@ -12,8 +12,8 @@
 #include <utility>
 
 #include "frame/base/errores.h"
-#include "frame/reportes/rtf.h"
 #include "frame/base/utf8.h"
+#include "frame/reportes/rtf.h"
 
 namespace cuencalia {
 
@@ -50,8 +50,6 @@ std::string SoloLegible(std::string_view texto) {
     }
     return legible;
 }
-
-bool EsLegible(std::string_view texto) { return texto.find('\0') == std::string_view::npos && EsUtf8(texto); }
 
 std::string LeerArchivo(const std::string& ruta) {
     std::error_code error;
@@ -180,7 +178,7 @@ std::string TextoRico::Texto() const {
 }
 
 TextoRico DeTextoPlano(std::string_view texto, const FormatoCaracter& caracter, const FormatoParrafo& parrafo) {
-    if (!EsLegible(texto)) {
+    if (!EsUtf8SinNulos(texto)) {
         return DeTextoPlano(SoloLegible(texto), caracter, parrafo);
     }
     TextoRico rico;
@@ -272,7 +270,7 @@ std::string EditorTextoRico::SelText() const { return Seleccion().Texto(); }
 void EditorTextoRico::SelText(std::string_view texto) {
     BorrarSeleccion();
     if (texto.find_first_of("\r\n") == std::string_view::npos) {
-        InsertarTramo({EsLegible(texto) ? std::string(texto) : SoloLegible(texto), formato_});
+        InsertarTramo({EsUtf8SinNulos(texto) ? std::string(texto) : SoloLegible(texto), formato_});
     } else {
         InsertarParrafos(DeTextoPlano(texto, formato_, ParrafoActual().formato).parrafos);
     }
