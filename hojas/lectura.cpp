@@ -1,9 +1,6 @@
-#include <array>
-#include <filesystem>
-#include <fstream>
 #include <string_view>
-#include <vector>
 
+#include "frame/base/archivos.h"
 #include "hojas/biff.h"
 #include "hojas/errores_libro.h"
 #include "hojas/libros.h"
@@ -16,34 +13,6 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::size_t kMaxArchivo = std::size_t{256} << 20;
-
-std::vector<std::byte> LeerArchivo(const std::string& ruta) {
-    std::error_code error;
-    const auto estado = std::filesystem::status(ruta, error);
-    if (estado.type() == std::filesystem::file_type::not_found) {
-        throw ErrorEjecucion(kArchivoNoEncontrado);
-    }
-    std::ifstream archivo;
-    if (std::filesystem::is_regular_file(estado)) {
-        archivo.open(ruta, std::ios::binary);
-    }
-    if (!archivo.is_open()) {
-        throw ErrorEjecucion(kAccesoRuta);
-    }
-    std::vector<std::byte> contenido;
-    std::array<char, 65536> trozo;
-    while (archivo.read(trozo.data(), trozo.size()) || archivo.gcount() > 0) {
-        const auto leidos = std::as_bytes(std::span(trozo)).first(static_cast<std::size_t>(archivo.gcount()));
-        if (contenido.size() + leidos.size() > kMaxArchivo) {
-            FallarDemasiadoGrande();
-        }
-        contenido.insert(contenido.end(), leidos.begin(), leidos.end());
-    }
-    if (archivo.bad()) {
-        throw ErrorEjecucion(kAccesoRuta);
-    }
-    return contenido;
-}
 
 }  // namespace
 
@@ -63,7 +32,11 @@ Hoja LeerLibro(std::span<const std::byte> contenido, int columnas, int filasMax)
 }
 
 Hoja LibrosDeCalculo::LeerPrimeraHoja(const std::string& ruta, int columnas, int filasMax) {
-    return LeerLibro(LeerArchivo(ruta), columnas, filasMax);
+    const std::string contenido = LeerArchivo(ruta, kMaxArchivo + 1);
+    if (contenido.size() > kMaxArchivo) {
+        FallarDemasiadoGrande();
+    }
+    return LeerLibro(std::as_bytes(std::span(contenido)), columnas, filasMax);
 }
 
 }  // namespace cuencalia

@@ -7,29 +7,18 @@
 #include <bit>
 #include <cerrno>
 #include <cstdint>
+#include <string_view>
+
+#include "frame/base/archivos.h"
 
 namespace cuencalia {
 
 namespace {
 
 constexpr std::size_t kAnchoSingle = 4;
+constexpr std::size_t kMaximoRegistros = INT16_MAX;
 
 using Bytes = std::array<unsigned char, 4 * kAnchoSingle>;
-
-[[noreturn]] void Fallar(int codigo) {
-    switch (codigo) {
-        case ENOENT:
-            throw ErrorEjecucion(kArchivoNoEncontrado);
-        case ENOTDIR:
-            throw ErrorEjecucion(kRutaNoEncontrada);
-        case ENOSPC:
-        case EFBIG:
-        case EDQUOT:
-            throw ErrorEjecucion(kDiscoLleno);
-        default:
-            throw ErrorEjecucion(kAccesoRuta);
-    }
-}
 
 /// Bytes in the file's order, whatever the machine's.
 void Poner(Bytes& bytes, std::size_t donde, float valor) {
@@ -39,10 +28,10 @@ void Poner(Bytes& bytes, std::size_t donde, float valor) {
     }
 }
 
-float Tomar(const Bytes& bytes, std::size_t donde) {
+float Tomar(std::string_view bytes) {
     std::uint32_t bits = 0;
     for (std::size_t i = 0; i < kAnchoSingle; ++i) {
-        bits |= static_cast<std::uint32_t>(bytes[donde + i]) << (8 * i);
+        bits |= static_cast<std::uint32_t>(static_cast<unsigned char>(bytes[i])) << (8 * i);
     }
     return std::bit_cast<float>(bits);
 }
@@ -52,40 +41,20 @@ std::size_t Ancho(int valores) { return static_cast<std::size_t>(valores) * kAnc
 }  // namespace
 
 LectorSerie::LectorSerie(const std::string& ruta, int valores)
-    // A pipe must not keep the program waiting for somebody to write to it.
-    : archivo_(::open(ruta.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)), valores_(valores) {
-    if (archivo_ < 0) {
-        Fallar(errno);
-    }
-    struct stat datos {};
-    const bool legible = ::fstat(archivo_, &datos) == 0 && S_ISREG(datos.st_mode);
-    const auto registros = static_cast<std::uint64_t>(legible ? datos.st_size : 0) / Ancho(valores);
-    if (!legible || registros > INT16_MAX) {
-        ::close(archivo_);
-        throw ErrorEjecucion(legible ? kDesbordamiento : kAccesoRuta);
-    }
-    registros_ = Integer(registros);
-}
-
-LectorSerie::~LectorSerie() { ::close(archivo_); }
+    : bytes_(LeerArchivo(ruta, (kMaximoRegistros + 1) * Ancho(valores))),
+      valores_(valores),
+      registros_(bytes_.size() / Ancho(valores)) {}
 
 Registro LectorSerie::Leer() {
-    Bytes bytes{};
-    std::size_t leidos = 0;
-    while (leidos < Ancho(valores_)) {
-        const ssize_t parte = ::read(archivo_, bytes.data() + leidos, Ancho(valores_) - leidos);
-        if (parte < 0 && errno == EINTR) {
-            continue;
-        }
-        if (parte <= 0) {
-            throw ErrorEjecucion(kAccesoRuta);
-        }
-        leidos += static_cast<std::size_t>(parte);
+    const std::string_view resto = std::string_view(bytes_).substr(leidos_);
+    if (resto.size() < Ancho(valores_)) {
+        throw ErrorEjecucion(kAccesoRuta);
     }
     Registro registro;
     for (std::size_t i = 0; i < static_cast<std::size_t>(valores_); ++i) {
-        registro[i] = Tomar(bytes, i * kAnchoSingle);
+        registro[i] = Tomar(resto.substr(i * kAnchoSingle));
     }
+    leidos_ += Ancho(valores_);
     return registro;
 }
 
@@ -95,11 +64,7 @@ EscritorSerie::EscritorSerie(const std::string& ruta, int valores) : archivo_(-1
     }
     archivo_ = ::open(ruta.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666);
     if (archivo_ < 0) {
-        const int codigo = errno;
-        if (codigo == ENOENT) {
-            throw ErrorEjecucion(kRutaNoEncontrada);
-        }
-        Fallar(codigo);
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
     }
     struct stat datos {};
     if (::fstat(archivo_, &datos) != 0 || !S_ISREG(datos.st_mode) || ::ftruncate(archivo_, 0) != 0) {
@@ -122,7 +87,7 @@ void EscritorSerie::Escribir(const Registro& registro) {
             continue;
         }
         if (parte < 0) {
-            Fallar(errno);
+            FallarPorSistema(errno, UsoArchivo::kEscribir);
         }
         escritos += static_cast<std::size_t>(parte);
     }

@@ -11,22 +11,20 @@ namespace cuencalia {
 /// The values of one record of a series file; those beyond the record's width are 0.
 using Registro = std::array<Single, 4>;
 
-/// A headerless file of fixed records of one to four little-endian IEEE-754 Singles, open for reading from its first
-/// record on. Its length alone tells the number of records; a tail shorter than a record is never read.
+/// A headerless file of fixed records of one to four little-endian IEEE-754 Singles, read from its first record on. Its
+/// length alone tells the number of records; a tail shorter than a record is never read.
 class LectorSerie {
   public:
     /// Error 53: no such file (also for an empty name); 75: no access, or no regular file; 6: more than 32767 records.
     LectorSerie(const std::string& ruta, int valores);
-    ~LectorSerie();
-    LectorSerie(const LectorSerie&) = delete;
-    LectorSerie& operator=(const LectorSerie&) = delete;
 
     int Registros() const { return registros_.valor(); }
-    /// The next record. Error 75 when the file cannot be read on.
+    /// The next record. Error 75 after the last.
     Registro Leer();
 
   private:
-    int archivo_;
+    std::string bytes_;
+    std::size_t leidos_ = 0;
     int valores_;
     Integer registros_;
 };

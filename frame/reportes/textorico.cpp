@@ -1,16 +1,10 @@
 #include "frame/reportes/textorico.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
-#include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <utility>
 
+#include "frame/base/archivos.h"
 #include "frame/base/errores.h"
 #include "frame/base/utf8.h"
 #include "frame/reportes/rtf.h"
@@ -18,8 +12,6 @@
 namespace cuencalia {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Takes away and returns what follows the place.
 std::vector<Tramo> CortarDesde(Parrafo& parrafo, std::size_t tramo, std::size_t byte) {
@@ -50,99 +42,6 @@ std::string SoloLegible(std::string_view texto) {
     }
     return legible;
 }
-
-std::string LeerArchivo(const std::string& ruta) {
-    std::error_code error;
-    const fs::file_status estado = fs::status(ruta, error);
-    if (estado.type() == fs::file_type::not_found) {
-        throw ErrorEjecucion(kArchivoNoEncontrado);
-    }
-    if (!fs::is_regular_file(estado)) {
-        throw ErrorEjecucion(kAccesoRuta);
-    }
-    std::ifstream archivo(ruta, std::ios::binary);
-    std::string contenido;
-    std::array<char, 1 << 16> trozo;
-    while (archivo.read(trozo.data(), trozo.size()), archivo.gcount() > 0) {
-        contenido.append(trozo.data(), static_cast<std::size_t>(archivo.gcount()));
-    }
-    if (!archivo.eof()) {
-        throw ErrorEjecucion(kAccesoRuta);
-    }
-    return contenido;
-}
-
-[[noreturn]] void FallarEscritura(int error) {
-    switch (error) {
-        case ENOSPC:
-        case EFBIG:
-        case EDQUOT:
-            throw ErrorEjecucion(kDiscoLleno);
-        case ENOENT:
-        case ENOTDIR:
-            throw ErrorEjecucion(kRutaNoEncontrada);
-        default:
-            throw ErrorEjecucion(kAccesoRuta);
-    }
-}
-
-/// A new file in a folder, gone again unless it is moved to its place.
-class ArchivoNuevo {
-  public:
-    explicit ArchivoNuevo(const fs::path& carpeta) {
-        constexpr int kIntentos = 100;
-        for (int i = 0; i < kIntentos && archivo_ == nullptr; ++i) {
-            ruta_ = carpeta / (".reporte-" + std::to_string(i) + ".tmp");
-            archivo_ = std::fopen(ruta_.c_str(), "wbx");
-            if (archivo_ == nullptr && errno != EEXIST) {
-                break;
-            }
-        }
-        if (archivo_ == nullptr) {
-            FallarEscritura(errno);
-        }
-    }
-    ArchivoNuevo(const ArchivoNuevo&) = delete;
-    ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
-    ~ArchivoNuevo() {
-        if (archivo_ != nullptr) {
-            std::fclose(archivo_);
-        }
-        if (!movido_) {
-            std::error_code ignorado;
-            fs::remove(ruta_, ignorado);
-        }
-    }
-
-    void Escribir(std::string_view contenido) {
-        // The name must not reach the disk before the contents: a crash would leave an empty report.
-        const bool escrito = std::fwrite(contenido.data(), 1, contenido.size(), archivo_) == contenido.size() &&
-                             std::fflush(archivo_) == 0 && fsync(fileno(archivo_)) == 0;
-        const int error = errno;
-        const bool cerrado = std::fclose(std::exchange(archivo_, nullptr)) == 0;
-        if (!escrito || !cerrado) {
-            FallarEscritura(escrito ? errno : error);
-        }
-    }
-
-    void MoverA(const fs::path& destino) {
-        std::error_code error;
-        const fs::file_status viejo = fs::status(destino, error);
-        if (fs::exists(viejo)) {
-            fs::permissions(ruta_, viejo.permissions(), error);
-        }
-        fs::rename(ruta_, destino, error);
-        if (error) {
-            FallarEscritura(error.value());
-        }
-        movido_ = true;
-    }
-
-  private:
-    fs::path ruta_;
-    std::FILE* archivo_ = nullptr;
-    bool movido_ = false;
-};
 
 }  // namespace
 
@@ -308,18 +207,9 @@ void EditorTextoRico::LoadFile(const std::string& ruta) {
 }
 
 void EditorTextoRico::SaveFile(const std::string& ruta) const {
-    const std::string contenido = EscribirRtf(documento_, ClaseRtf::kDocumento, base_.fuente);
-    // A link stays a link: what it points to is replaced.
-    std::error_code error;
-    fs::path destino = fs::canonical(ruta, error);
-    if (error) {
-        destino = fs::absolute(ruta, error);
-    } else if (!fs::is_regular_file(destino) || access(destino.c_str(), W_OK) != 0) {
-        throw ErrorEjecucion(kAccesoRuta);
-    }
-    ArchivoNuevo nuevo(destino.parent_path());
-    nuevo.Escribir(contenido);
-    nuevo.MoverA(destino);
+    ReemplazoDeArchivo archivo(ruta);
+    archivo.Escribir(EscribirRtf(documento_, ClaseRtf::kDocumento, base_.fuente));
+    archivo.Publicar();
 }
 
 EditorTextoRico::Punto EditorTextoRico::Avanzar(Punto desde, int caracteres) const {

@@ -1,0 +1,186 @@
+#include "frame/base/archivos.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+#include "frame/base/errores.h"
+
+namespace cuencalia {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A pipe must not keep the program waiting for its other end. Null, with errno, when there is nothing to open.
+ArchivoAbierto Abrir(const fs::path& ruta, int modo, mode_t permisos = 0) {
+    const int descriptor = ::open(ruta.c_str(), modo | O_CLOEXEC | O_NONBLOCK, permisos);
+    return ArchivoAbierto(descriptor < 0 ? nullptr
+                                         : ::fdopen(descriptor, (modo & O_ACCMODE) == O_RDONLY ? "rb" : "wb"));
+}
+
+/// Error 75 when it is no regular file.
+struct stat DatosDe(const ArchivoAbierto& archivo) {
+    struct stat datos {};
+    if (::fstat(::fileno(archivo.get()), &datos) != 0 || !S_ISREG(datos.st_mode)) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    return datos;
+}
+
+/// Follows links, also one to a file that is not there yet. Of links in a circle one is left, which nobody can open.
+fs::path SeguirEnlaces(fs::path ruta) {
+    constexpr int kMaximoEnlaces = 40;
+    std::error_code error;
+    for (int i = 0; i < kMaximoEnlaces && fs::is_symlink(fs::symlink_status(ruta, error)); ++i) {
+        ruta = ruta.parent_path() / fs::read_symlink(ruta, error);
+    }
+    return ruta;
+}
+
+fs::path CarpetaDe(const fs::path& ruta) { return ruta.has_parent_path() ? ruta.parent_path() : "."; }
+
+/// True when the folder, not the file, refuses: it takes no new files, or the file is mounted by itself.
+bool LoImpideLaCarpeta(int causa) {
+    constexpr std::array kCausas{EACCES, EPERM, EROFS, EBUSY, EXDEV};
+    return std::find(kCausas.begin(), kCausas.end(), causa) != kCausas.end();
+}
+
+/// Brings the new name to the disk. Not every file system can, and the file is in its place already.
+void SincronizarCarpeta(const fs::path& carpeta) {
+    const int descriptor = ::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        ::fsync(descriptor);
+        ::close(descriptor);
+    }
+}
+
+}  // namespace
+
+void FallarPorSistema(int causa, UsoArchivo uso) {
+    switch (causa) {
+        case ENOENT:
+        case ENOTDIR:
+            throw ErrorEjecucion(uso == UsoArchivo::kLeer ? kArchivoNoEncontrado : kRutaNoEncontrada);
+        case ENOSPC:
+        case EDQUOT:
+        case EFBIG:
+            throw ErrorEjecucion(kDiscoLleno);
+        default:
+            throw ErrorEjecucion(kAccesoRuta);
+    }
+}
+
+std::string LeerArchivo(const std::string& ruta, std::size_t maximo) {
+    const ArchivoAbierto archivo = Abrir(ruta, O_RDONLY);
+    if (archivo == nullptr) {
+        FallarPorSistema(errno, UsoArchivo::kLeer);
+    }
+    DatosDe(archivo);
+    std::string contenido;
+    std::array<char, 1 << 16> trozo;
+    while (contenido.size() < maximo) {
+        const std::size_t pedidos = std::min(trozo.size(), maximo - contenido.size());
+        const std::size_t leidos = std::fread(trozo.data(), 1, pedidos, archivo.get());
+        contenido.append(trozo.data(), leidos);
+        if (leidos < pedidos) {
+            break;
+        }
+    }
+    if (std::ferror(archivo.get()) != 0) {
+        throw ErrorEjecucion(kAccesoRuta);
+    }
+    return contenido;
+}
+
+ReemplazoDeArchivo::ReemplazoDeArchivo(const std::string& ruta) : destino_(SeguirEnlaces(ruta)) {
+    viejo_ = Abrir(destino_, O_WRONLY);
+    if (destino_.empty() || (viejo_ == nullptr && errno != ENOENT)) {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+    if (viejo_ != nullptr) {
+        DatosDe(viejo_);
+    }
+    CrearProvisional(CarpetaDe(destino_));
+    if (nuevo_ == nullptr && viejo_ != nullptr && LoImpideLaCarpeta(errno)) {
+        std::error_code error;
+        CrearProvisional(fs::temp_directory_path(error));
+    }
+    if (nuevo_ == nullptr) {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+}
+
+ReemplazoDeArchivo::~ReemplazoDeArchivo() {
+    if (!provisional_.empty()) {
+        ::unlink(provisional_.c_str());
+    }
+}
+
+void ReemplazoDeArchivo::CrearProvisional(const fs::path& carpeta) {
+    constexpr int kIntentos = 100;
+    // What belongs in a private file is private before it is there, too.
+    const mode_t permisos = viejo_ == nullptr ? 0666 : 0600;
+    const std::string nombre = ".cuencalia-" + std::to_string(::getpid()) + "-";
+    for (int i = 0; i < kIntentos && nuevo_ == nullptr; ++i) {
+        const std::string ruta = carpeta / (nombre + std::to_string(i));
+        nuevo_ = Abrir(ruta, O_WRONLY | O_CREAT | O_EXCL, permisos);
+        if (nuevo_ != nullptr) {
+            provisional_ = ruta;
+        } else if (errno != EEXIST) {
+            return;
+        }
+    }
+}
+
+void ReemplazoDeArchivo::Escribir(std::string_view bytes) {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), nuevo_.get()) != bytes.size()) {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+}
+
+void ReemplazoDeArchivo::Publicar() {
+    const int descriptor = ::fileno(nuevo_.get());
+    if (viejo_ != nullptr) {
+        const struct stat viejo = DatosDe(viejo_);
+        // Only the administrator may give a file away, and not every file system knows permissions.
+        [[maybe_unused]] int ignorado = ::fchown(descriptor, viejo.st_uid, viejo.st_gid);
+        ignorado = ::fchmod(descriptor, viejo.st_mode);
+    }
+    // A name that is on the disk before the contents would be an empty file after a crash.
+    if (std::ferror(nuevo_.get()) != 0 || std::fflush(nuevo_.get()) != 0 || ::fsync(descriptor) != 0 ||
+        std::fclose(nuevo_.release()) != 0) {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+    if (::rename(provisional_.c_str(), destino_.c_str()) == 0) {
+        provisional_.clear();
+        SincronizarCarpeta(CarpetaDe(destino_));
+    } else if (viejo_ != nullptr && LoImpideLaCarpeta(errno)) {
+        CopiarAlViejo();
+    } else {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+}
+
+void ReemplazoDeArchivo::CopiarAlViejo() {
+    const std::string contenido = LeerArchivo(provisional_);
+    const auto largo = static_cast<off_t>(contenido.size());
+    const off_t largoViejo = DatosDe(viejo_).st_size;
+    const int descriptor = ::fileno(viejo_.get());
+    const int causa = largo > largoViejo ? ::posix_fallocate(descriptor, largoViejo, largo - largoViejo) : 0;
+    if (causa != 0) {
+        [[maybe_unused]] const int ignorado = ::ftruncate(descriptor, largoViejo);
+        FallarPorSistema(causa, UsoArchivo::kEscribir);
+    }
+    if (std::fwrite(contenido.data(), 1, contenido.size(), viejo_.get()) != contenido.size() ||
+        std::fflush(viejo_.get()) != 0 || ::ftruncate(descriptor, largo) != 0 || ::fsync(descriptor) != 0 ||
+        std::fclose(viejo_.release()) != 0) {
+        FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+}
+
+}  // namespace cuencalia
