@@ -8,6 +8,8 @@
 #include "frame/base/utf8.h"
 #include "hojas/errores_libro.h"
 #include "hojas/libros.h"
+#include "hojas/xml.h"
+#include "hojas/zip.h"
 
 namespace cuencalia {
 
@@ -56,6 +58,23 @@ void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const Valo
     }
 }
 
+// A disk that fills up while the library gathers its parts in temporary files of its own cuts them, and it packs them
+// as they are: a part without its end tells.
+void ExigirCompleto(const std::string& ruta) {
+    const std::string contenido = LeerArchivo(ruta);
+    try {
+        const ArchivoZip libro(std::as_bytes(std::span(contenido)));
+        for (const std::string& parte : libro.Partes()) {
+            LectorXml lector("");
+            libro.Recorrer(parte, contenido.max_size(),
+                           [&](std::span<const std::byte> trozo) { return lector.Alimentar(trozo); });
+            lector.Concluir();
+        }
+    } catch (const ErrorEjecucion&) {
+        throw ErrorEjecucion(kDiscoLleno);
+    }
+}
+
 }  // namespace
 
 void LibrosDeCalculo::EscribirLibro(const std::string& ruta, const Hoja& hoja) {
@@ -78,6 +97,7 @@ void LibrosDeCalculo::EscribirLibro(const std::string& ruta, const Hoja& hoja) {
     if (workbook_close(libro) != LXW_NO_ERROR) {
         FallarPorSistema(errno, UsoArchivo::kEscribir);
     }
+    ExigirCompleto(archivo.RutaProvisional());
     archivo.Publicar();
 }
 

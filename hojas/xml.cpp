@@ -136,8 +136,8 @@ void LectorXml::Analizar(std::span<const std::byte> trozo, bool ultimo) {
 
 void LectorXml::Abrir(std::string_view nombreCompleto, const char** atributos) {
     const Nombre nombre = Partir(nombreCompleto);
-    const bool esRaiz = ++profundidad_ == 1;
-    if (profundidad_ > kMaxProfundidad || (esRaiz && (!EsPropio(nombre) || nombre.local != raiz_))) {
+    const bool exigida = ++profundidad_ == 1 && !raiz_.empty();
+    if (profundidad_ > kMaxProfundidad || (exigida && (!EsPropio(nombre) || nombre.local != raiz_))) {
         FallarDanado();
     }
     if (ajenos_ > 0 || (!EsPropio(nombre) && !EsTransparente(nombre))) {

@@ -35,7 +35,7 @@ class AtributosXml {
 /// nesting.
 class LectorXml {
   public:
-    /// `raiz` is the name of the root that the part must have.
+    /// `raiz` is the name of the root that the part must have; empty when any root will do.
     explicit LectorXml(std::string raiz);
     LectorXml(const LectorXml&) = delete;
     LectorXml& operator=(const LectorXml&) = delete;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <mutex>
+#include <string_view>
 
 #include "hojas/errores_libro.h"
 
@@ -36,6 +37,59 @@ GsfInput* HijoLlamado(GsfInput* carpeta, const std::string& nombre) {
     return nullptr;
 }
 
+std::string EnMinusculas(std::string nombre) {
+    std::ranges::transform(nombre, nombre.begin(), g_ascii_tolower);
+    return nombre;
+}
+
+std::uint32_t Entero(std::string_view bytes, std::size_t lugar, std::size_t largo) {
+    std::uint32_t valor = 0;
+    for (std::size_t i = largo; i-- > 0;) {
+        valor = valor << 8 | static_cast<unsigned char>(bytes.at(lugar + i));
+    }
+    return valor;
+}
+
+// The checksums that the index at the end of the archive gives for its parts (APPNOTE.TXT 4.3.12 and 4.3.16): the
+// library does not look at them. What is not in the index, the library does not find either.
+std::map<std::string, std::uint32_t> LeerSumas(std::string_view archivo) {
+    constexpr std::size_t kLargoFinal = 22;
+    constexpr std::size_t kLargoEntrada = 46;
+    std::map<std::string, std::uint32_t> sumas;
+    const std::size_t final = archivo.rfind("PK\5\6");
+    if (final == std::string_view::npos || archivo.size() - final < kLargoFinal) {
+        return sumas;
+    }
+    std::size_t lugar = Entero(archivo, final + 16, 4);
+    while (lugar < final && final - lugar >= kLargoEntrada && archivo.substr(lugar, 4) == "PK\1\2") {
+        const std::size_t nombre = Entero(archivo, lugar + 28, 2);
+        sumas[EnMinusculas(std::string(archivo.substr(lugar + kLargoEntrada, nombre)))] =
+            Entero(archivo, lugar + 16, 4);
+        lugar += kLargoEntrada + nombre + Entero(archivo, lugar + 30, 2) + Entero(archivo, lugar + 32, 2);
+    }
+    return sumas;
+}
+
+constexpr std::array<std::uint32_t, 256> kTablaCrc = [] {
+    std::array<std::uint32_t, 256> tabla{};
+    for (std::uint32_t i = 0; i < tabla.size(); ++i) {
+        std::uint32_t resto = i;
+        for (int bit = 0; bit < 8; ++bit) {
+            resto = (resto & 1) != 0 ? resto >> 1 ^ 0xEDB88320 : resto >> 1;
+        }
+        tabla[i] = resto;
+    }
+    return tabla;
+}();
+
+// CRC-32 of the bytes so far and these, complemented.
+std::uint32_t Sumar(std::uint32_t suma, std::span<const std::byte> bytes) {
+    for (const std::byte b : bytes) {
+        suma = kTablaCrc[(suma ^ std::to_integer<std::uint32_t>(b)) & 0xFF] ^ suma >> 8;
+    }
+    return suma;
+}
+
 }  // namespace
 
 void ArchivoZip::Soltar::operator()(void* objeto) const { g_object_unref(objeto); }
@@ -49,6 +103,15 @@ ArchivoZip::ArchivoZip(std::span<const std::byte> bytes) {
     if (raiz_ == nullptr) {
         FallarDanado();
     }
+    sumas_ = LeerSumas({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+std::vector<std::string> ArchivoZip::Partes() const {
+    std::vector<std::string> partes;
+    for (const auto& [parte, suma] : sumas_) {
+        partes.push_back(parte);
+    }
+    return partes;
 }
 
 ArchivoZip::Objeto ArchivoZip::Abrir(const std::string& parte) const {
@@ -71,18 +134,27 @@ void ArchivoZip::Recorrer(const std::string& parte, std::size_t limite, const Re
     GsfInput* entrada = GSF_INPUT(objeto.get());
     std::array<std::byte, 16384> trozo;
     std::size_t leidos = 0;
+    bool recibe = true;
+    std::uint32_t suma = ~std::uint32_t{0};
     for (gsf_off_t quedan = gsf_input_remaining(entrada); quedan > 0; quedan = gsf_input_remaining(entrada)) {
         const std::size_t pedidos = std::min<std::size_t>(trozo.size(), static_cast<std::size_t>(quedan));
         if (gsf_input_read(entrada, pedidos, reinterpret_cast<guint8*>(trozo.data())) == nullptr) {
             FallarDanado();
         }
         leidos += pedidos;
-        if (leidos > limite) {
+        if (leidos > limite && recibe) {
             FallarDemasiadoGrande();
         }
-        if (!recibir(std::span(trozo).first(pedidos))) {
+        if (leidos > limite) {
             return;
         }
+        const auto leido = std::span(trozo).first(pedidos);
+        suma = Sumar(suma, leido);
+        recibe = recibe && recibir(leido);
+    }
+    const auto esperada = sumas_.find(EnMinusculas(parte));
+    if (esperada != sumas_.end() && esperada->second != ~suma) {
+        FallarDanado();
     }
 }
 

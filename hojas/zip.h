@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace cuencalia {
 
@@ -20,8 +23,12 @@ class ArchivoZip {
     /// Part names have '/' between folders, none in front, and do not tell capitals from small letters.
     bool Tiene(const std::string& parte) const;
 
+    /// The names of all parts, in small letters.
+    std::vector<std::string> Partes() const;
+
     /// Hands over the unpacked bytes of a part, piece by piece. Error 1004 when the part is missing or damaged, or goes
-    /// on beyond `limite` bytes: what the file declares as its size is not trusted.
+    /// on beyond `limite` bytes: what the file declares as its size is not trusted. A damage that shows in the checksum
+    /// alone is told at the end, also when the receiver had seen enough before, unless the limit ends the part.
     void Recorrer(const std::string& parte, std::size_t limite, const Receptor& recibir) const;
 
   private:
@@ -33,6 +40,7 @@ class ArchivoZip {
     Objeto Abrir(const std::string& parte) const;
 
     Objeto raiz_;
+    std::map<std::string, std::uint32_t> sumas_;  ///< CRC-32 by part.
 };
 
 }  // namespace cuencalia
