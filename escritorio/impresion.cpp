@@ -19,7 +19,7 @@
 #include "escritorio/escritorio.h"
 #include "escritorio/vistatextorico.h"
 #include "frame/reportes/rtf.h"
-#include "frame/reportes/textorico.h"
+#include "frame/reportes/editortextorico.h"
 
 namespace cuencalia {
 

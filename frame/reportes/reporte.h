@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "frame/controles/flexgrid.h"
-#include "frame/reportes/textorico.h"
+#include "frame/reportes/editortextorico.h"
 
 namespace cuencalia {
 

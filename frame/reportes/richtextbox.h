@@ -4,7 +4,7 @@
 #include <string>
 
 #include "frame/controles/control.h"
-#include "frame/reportes/textorico.h"
+#include "frame/reportes/editortextorico.h"
 
 namespace cuencalia {
 

@@ -14,16 +14,12 @@ enum class ClaseRtf { kDocumento, kFragmento };
 /// True for RTF source, by its beginning.
 bool EsRtf(std::string_view texto);
 
-/// RTF 1.x source, in ASCII. `fuenteBase` is the font that a reader takes for text without a font.
-std::string EscribirRtf(const TextoRico& texto, ClaseRtf clase = ClaseRtf::kDocumento,
-                        std::string_view fuenteBase = kFuenteReporte);
+/// RTF 1.x source, in ASCII.
+std::string EscribirRtf(const TextoRico& texto, ClaseRtf clase = ClaseRtf::kDocumento);
 
 /// Reads RTF source as Rich Text Format 1.9.1 defines it (Microsoft, 2008). Pictures, headers, notes on the
 /// document and unknown optional groups are passed over; table cells are parted by tabs, their rows by line breaks.
 /// Source that is cut or makes no sense is read as far as it goes; text that is not RTF source is taken as it stands.
 TextoRico LeerRtf(std::string_view fuente, ClaseRtf clase = ClaseRtf::kDocumento);
-
-/// Text in Windows-1252 as UTF-8.
-std::string DeWindows1252(std::string_view bytes);
 
 }  // namespace cuencalia

@@ -1,4 +1,4 @@
-#include "frame/reportes/textorico.h"
+#include "frame/reportes/editortextorico.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

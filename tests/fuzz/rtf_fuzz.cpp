@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "frame/reportes/rtf.h"
-#include "frame/reportes/textorico.h"
 #include "frame/base/utf8.h"
+#include "frame/reportes/editortextorico.h"
+#include "frame/reportes/rtf.h"
 
 using namespace cuencalia;
 
