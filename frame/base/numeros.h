@@ -154,7 +154,6 @@ class ArregloBase {
     T& operator()(int i) { return datos_[Posicion(i)]; }
     const T& operator()(int i) const { return datos_[Posicion(i)]; }
 
-    int LBound() const { return minimo_; }
     int UBound() const { return minimo_ + static_cast<int>(datos_.size()) - 1; }
 
   private:

@@ -126,7 +126,6 @@ TEST(Numeros, Potencias) {
 
 TEST(Numeros, SubindicesComprobados) {
     Arreglo<int, -2, 2> a;
-    EXPECT_EQ(a.LBound(), -2);
     EXPECT_EQ(a.UBound(), 2);
     for (int i = -2; i <= 2; ++i) {
         EXPECT_EQ(a(i), 0);

@@ -156,7 +156,7 @@ TEST_F(ArchivosDeHojas, UnFalloAlEscribirDejaElArchivoAnterior) {
     ASSERT_EQ(mkfifo(Ruta("tubo").c_str(), 0600), 0);
     EXPECT_EQ(ErrorAlEscribir(Ruta("tubo"), con("a")), kAccesoRuta);
     EXPECT_EQ(ErrorAlLeer(Ruta("tubo")), kAccesoRuta);
-    EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx/libro.xlsx"), con("a")), kAccesoRuta);
+    EXPECT_EQ(ErrorAlEscribir(Ruta("viejo.xlsx/libro.xlsx"), con("a")), kRutaNoEncontrada);
 
     EXPECT_EQ(Archivos(), 2U);  // nothing half-written beside the old workbook and the pipe
     EXPECT_EQ(libros_.LeerPrimeraHoja(Ruta("viejo.xlsx"), 1, 10).Cells(1, 1), ValorCelda("viejo"));
