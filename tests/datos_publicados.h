@@ -1,12 +1,17 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <cmath>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-#include "frame/base/numeros.h"
+#include "modules/estadistica/momentos.h"
+#include "modules/estadistica/orden.h"
 
 namespace cuencalia {
 
@@ -20,78 +25,44 @@ inline std::vector<std::string> LineasDe(const std::string& archivo) {
     }
     std::vector<std::string> lineas;
     for (std::string linea; std::getline(entrada, linea);) {
-        lineas.push_back(linea.substr(0, linea.find('\r')));
+        lineas.push_back(linea);
     }
     return lineas;
 }
 
-/// The rows below the heading of a comma-separated file, as texts; lines that start with # are comments.
-inline std::vector<std::vector<std::string>> LeerCsv(const std::string& archivo) {
-    std::vector<std::vector<std::string>> filas;
-    for (const std::string& linea : LineasDe(archivo)) {
-        if (linea.empty() || linea.front() == '#') {
-            continue;
-        }
-        std::vector<std::string> campos;
-        std::istringstream partes(linea);
-        for (std::string campo; std::getline(partes, campo, ',');) {
-            campos.push_back(campo);
-        }
-        filas.push_back(campos);
-    }
-    if (!filas.empty()) {
-        filas.erase(filas.begin());
-    }
-    return filas;
-}
-
-/// Column `columna` (from 0) of a comma-separated file, as numbers.
+/// Column `columna` (from 0) of the lines that are numbers; of a NIST reference set those after its last line "Data:".
 inline std::vector<double> LeerColumna(const std::string& archivo, std::size_t columna = 0) {
     std::vector<double> valores;
-    for (const auto& fila : LeerCsv(archivo)) {
-        valores.push_back(std::stod(fila.at(columna)));
+    for (const std::string& linea : LineasDe(archivo)) {
+        std::istringstream numeros(linea);
+        const std::vector<double> fila{std::istream_iterator<double>(numeros), {}};
+        if (linea.starts_with("Data:")) {
+            valores.clear();
+        } else if (columna < fila.size()) {
+            valores.push_back(fila[columna]);
+        }
     }
     return valores;
 }
 
-/// Data rows of a NIST reference set: the lines of numbers after its last line "Data:".
-inline std::vector<std::vector<double>> LeerNist(const std::string& conjunto) {
-    std::vector<std::vector<double>> filas;
-    for (const std::string& linea : LineasDe("nist/" + conjunto + ".dat")) {
-        if (linea.starts_with("Data:")) {
-            filas.clear();
-            continue;
-        }
-        std::istringstream numeros(linea);
-        std::vector<double> fila;
-        for (double valor; numeros >> valor;) {
-            fila.push_back(valor);
-        }
-        if (!fila.empty()) {
-            filas.push_back(fila);
+/// The field that follows the fields `clave` at the beginning of a line, as it was printed.
+inline std::string Figura(const std::string& archivo, const std::string& clave) {
+    for (const std::string& linea : LineasDe(archivo)) {
+        if (linea.starts_with(clave + ",")) {
+            return linea.substr(clave.size() + 1, linea.find(',', clave.size() + 1) - clave.size() - 1);
         }
     }
-    return filas;
+    throw std::runtime_error("Figura: no " + clave);
 }
 
 /// Certified value of a NIST reference set.
 inline double CertificadoNist(const std::string& conjunto, const std::string& parametro) {
-    for (const auto& fila : LeerCsv("nist/nist_certificados.csv")) {
-        if (fila.at(0) == conjunto && fila.at(1) == parametro) {
-            return std::stod(fila.at(2));
-        }
-    }
-    throw std::runtime_error("CertificadoNist: no " + conjunto + " " + parametro);
+    return std::stod(Figura("nist/nist_certificados.csv", conjunto + "," + parametro));
 }
 
 /// Published figure of esperados.csv.
 inline double Publicado(const std::string& conjunto, const std::string& metodo, const std::string& magnitud) {
-    for (const auto& fila : LeerCsv("esperados.csv")) {
-        if (fila.at(0) == conjunto && fila.at(1) == metodo && fila.at(2) == magnitud) {
-            return std::stod(fila.at(3));
-        }
-    }
-    throw std::runtime_error("Publicado: no " + conjunto + ", " + metodo + ", " + magnitud);
+    return std::stod(Figura("esperados.csv", conjunto + "," + metodo + "," + magnitud));
 }
 
 /// A series with these values from x(1) on.
@@ -101,6 +72,27 @@ inline Serie EnSerie(const std::vector<double>& valores) {
         x(static_cast<int>(i) + 1) = valores[i];
     }
     return x;
+}
+
+/// L-moments of a published sample.
+inline MomentosLineales LinealesDe(const std::string& muestra) {
+    const std::vector<double> valores = LeerColumna(muestra + ".csv");
+    Serie x = EnSerie(valores);
+    OrdenarSerie(x, static_cast<int>(valores.size()));
+    return CalcularMomentosLineales(x, static_cast<int>(valores.size()));
+}
+
+/// The figure of esperados.csv behind `clave`; the tolerance is half a unit of the last decimal that was printed.
+inline void EsperarPublicado(const std::string& clave, Double obtenido) {
+    const std::string impreso = Figura("esperados.csv", clave);
+    const std::size_t decimales = impreso.size() - 1 - std::min(impreso.find('.'), impreso.size() - 1);
+    EXPECT_NEAR(obtenido.valor(), std::stod(impreso), 0.5 / std::pow(10, decimales)) << clave;
+}
+
+inline constexpr double kRedondeo = 0x1p-53;  ///< The relative rounding of one operation.
+
+inline void EsperarRelativo(Double obtenido, double esperado, double tolerancia) {
+    EXPECT_NEAR(obtenido.valor(), esperado, tolerancia * std::fabs(esperado));
 }
 
 }  // namespace cuencalia
