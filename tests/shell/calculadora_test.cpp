@@ -1,478 +1,234 @@
-#include <gtest/gtest.h>
-
 #include <sstream>
 
 #include "frame/base/textos.h"
-#include "shell/formas.h"
 #include "shell/frmCalculadora.h"
-#include "guion/plataformaguion.h"
+#include "tests/forma_en_uso.h"
 
 namespace cuencalia {
 namespace {
 
-struct Caso {
-    const char* teclas;
-    const char* pantalla;
-};
+const std::string kFlecha = " → ";
 
-class CalculadoraTest : public testing::Test {
+std::vector<std::string> Partes(const std::string& lista) {
+    std::vector<std::string> partes;
+    std::istringstream entrada(lista);
+    for (std::string parte; std::getline(entrada >> std::ws, parte, ';');) {
+        partes.push_back(parte);
+    }
+    return partes;
+}
+
+class CalculadoraTest : public pruebas::FormaEnUso<frmCalculadora> {
   protected:
-    CalculadoraTest() : app(sistema, FormasDelPrograma()) { Abrir(); }
+    CalculadoraTest() : FormaEnUso("frmCalculadora") {}
 
-    void Abrir() {
-        app.Despachar([&] { app.ModuloAbrir("frmCalculadora"); });
-    }
-    frmCalculadora& F() { return dynamic_cast<frmCalculadora&>(*app.Cargada("frmCalculadora")); }
     std::string Pantalla() { return F().BBCalc1.lblDisplay.Caption; }
-    std::string Tag() { return F().BBCalc1.PicDisplay.Tag; }
-
-    void Pulsar(const std::string& nombre) {
-        Control* tecla = F().Controls(nombre);
-        ASSERT_NE(tecla, nullptr) << nombre;
-        app.Pulsar(*tecla);
+    CommandButton* Tecla(const std::string& caption) {
+        for (Control* control : F().Controles()) {
+            auto* tecla = dynamic_cast<CommandButton*>(control);
+            if (tecla != nullptr && tecla->Caption() == caption) {
+                return tecla;
+            }
+        }
+        return nullptr;
     }
-
-    /// Presses keys of the pad. A word is a number, typed with its sign last; "op4", "sci0" or "mem2" for an element of
-    /// an array; or a key by the short name below.
+    /// Presses keys: a word is what stands on one, or a number, whose sign is typed last.
     void Marcar(const std::string& teclas) {
         std::istringstream palabras(teclas);
-        for (std::string p; palabras >> p;) {
-            const std::string codigo = "(" + p.substr(p.find_last_not_of("0123456789") + 1) + ")";
-            if (p == "=" || p == "back" || p == "neg" || p == "C" || p == "CE") {
-                Pulsar(p == "="      ? "cmdEquals"
-                       : p == "back" ? "cmdBackSpace"
-                       : p == "neg"  ? "cmdValue"
-                       : p == "C"    ? "cmdClear(0)"
-                                     : "cmdClear(1)");
-            } else if (p.starts_with("op")) {
-                Pulsar("cmdOp" + codigo);
-            } else if (p.starts_with("sci")) {
-                Pulsar("cmdSci" + codigo);
-            } else if (p.starts_with("mem")) {
-                Pulsar("cmdMem" + codigo);
+        for (std::string palabra; palabras >> palabra;) {
+            if (Tecla(palabra) != nullptr) {
+                app.Pulsar(*Tecla(palabra));
+            } else if (palabra.starts_with('-')) {
+                Marcar(palabra.substr(1) + " ±");
             } else {
-                MarcarNumero(p);
+                for (const char c : palabra) {
+                    app.Pulsar(*Tecla(std::string(1, c)));
+                }
             }
         }
     }
-    void MarcarNumero(const std::string& numero) {
-        for (const char c : numero) {
-            if (c != '-') {
-                Pulsar(c == '.' ? std::string("cmdDecimal") : std::string("cmdNum(") + c + ")");
+    std::string Tras(const std::string& teclas) {
+        Marcar("C " + teclas);
+        EsperarSilencio();
+        return Pantalla();
+    }
+    /// Keys and what the display shows then: to the letter, or as a number within a tolerance.
+    void Comprobar(const std::string& cuentas, double tolerancia = 0) {
+        for (const std::string& cuenta : Partes(cuentas)) {
+            const std::size_t flecha = cuenta.find(kFlecha);
+            const std::string pantalla = Tras(cuenta.substr(0, flecha)),
+                              esperada = cuenta.substr(flecha + kFlecha.size());
+            if (tolerancia == 0) {
+                EXPECT_EQ(pantalla, esperada) << cuenta;
             }
-        }
-        if (numero.starts_with('-')) {
-            Pulsar("cmdValue");
+            const double valor = Val(esperada).valor();
+            EXPECT_NEAR(Val(pantalla).valor(), valor, tolerancia * std::max(1.0, std::abs(valor))) << cuenta;
         }
     }
-
-    void Comprobar(const std::vector<Caso>& casos) {
-        for (const Caso& caso : casos) {
-            Pulsar("cmdClear(0)");
-            Marcar(caso.teclas);
-            EXPECT_EQ(Pantalla(), caso.pantalla) << caso.teclas;
-        }
-        EXPECT_TRUE(sistema.mensajes.empty());
-        EXPECT_TRUE(sistema.errores.empty());
-    }
-
-    /// Exactly one message, and it is the calculator's own; afterwards the calculator adds as ever.
-    void ComprobarFallo(const std::string& que) {
-        ASSERT_EQ(sistema.mensajes.size(), 1U) << que;
-        EXPECT_EQ(sistema.mensajes[0].texto, "No se puede cumplir con su petición.\nEsta operación ha sido cancelada.");
-        EXPECT_EQ(sistema.mensajes[0].icono, 16);
-        EXPECT_EQ(sistema.mensajes[0].titulo, "Error en cálculo");
+    /// The last key brings exactly one message, the calculator's own; afterwards the calculator adds as ever.
+    void ComprobarFallo(const std::string& teclas) {
+        const std::size_t ultima = teclas.rfind(' ');
+        Tras(teclas.substr(0, ultima));
+        EsperarMensaje(*Tecla(teclas.substr(ultima + 1)),
+                       "No se puede cumplir con su petición.\nEsta operación ha sido cancelada.", kIconoError,
+                       "Error en cálculo");
         sistema.mensajes.clear();
-        EXPECT_EQ(Pantalla(), ".0") << que;
-        Marcar("2 op4 3 =");
-        EXPECT_EQ(Pantalla(), "5.") << que;
-        EXPECT_TRUE(sistema.mensajes.empty()) << que;
-        EXPECT_TRUE(sistema.errores.empty()) << que;
+        EXPECT_EQ(Pantalla(), ".0") << teclas;
+        Marcar("2 + 3 =");
+        EXPECT_EQ(Pantalla(), "5.") << teclas;
     }
-
-    PlataformaGuion sistema;
-    Aplicacion app;
 };
 
-TEST_F(CalculadoraTest, OperacionesBinarias) {
-    Comprobar({
-        {"7 op1 2 =", "3.5"},
-        {"6 op1 -3 =", "2."},  // the quotient loses its sign
-        {"-6 op1 3 =", "2."},
-        {"2.5 op2 -4 =", "-10."},
-        {"3 op3 5 =", "-2."},
-        {"1.5 op4 1.5 =", "3."},
-        {"30 op6 300 =", "10."},
-        {"-30 op6 300 =", "-10."},  // only the division loses it
-        {"2 op8 10 =", "1024."},
-        {"2 op8 -1 =", "0.5"},
-        {"-2 op8 3 =", "-8."},
-        {"16 op11 5 =", "1."},
-        {"74 op11 10 =", "4."},
-        {"-16 op11 5 =", "-1."},
-        {"16.5 op11 5 =", "1."},  // 16.5 rounds to the even 16
-        {"17.5 op11 5 =", "3."},  // 17.5 rounds to the even 18
-        {"32 op13 5 =", "2."},
-        {"4 op13 -2 =", "0.5"},
-    });
+TEST_F(CalculadoraTest, Operaciones) {
+    // The quotient loses its sign, the percentage does not. mod rounds its operands, a half to the even number.
+    Comprobar(
+        "7 ÷ 2 = → 3.5; 6 ÷ -3 = → 2.; -6 ÷ 3 = → 2.; 2.5 × -4 = → -10.; 3 − 5 = → -2.; 1.5 + 1.5 = → 3.;"
+        "30 % 300 = → 10.; -30 % 300 = → -10.; 2 x^y 10 = → 1024.; -2 x^y 3 = → -8.; 32 ⁿ√ 5 = → 2.; 4 ⁿ√ -2 = → 0.5;"
+        "16 mod 5 = → 1.; -16 mod 5 = → -1.; 16.5 mod 5 = → 1.; 17.5 mod 5 = → 3.; 2.7 int → 2.; -2.5 int → -3.;"
+        "2 √ → 1.4142135623731; -8 1/x → -0.125; -3 x³ → -27.; 1.5 x² → 2.25; 3 x² x² → 81.; 27 ∛ → 3.");
+    // In a chain. The root waits for the sum; the second operand is 0 until it is typed; the sign key takes what is on
+    // the display, 6 - (-6).
+    Comprobar(
+        "2 + 3 × → 5.; 2 + 3 × 4 = → 20.; 7 + 2 √ → 3.; 2 + 3 = × 4 = → 20.; 2 + 3 = 7 × 2 = → 14.; 2 + 3 = = → 5.;"
+        "9 √ = → 3.; 5 + = → 5.; 5 + 7 + = → 12.; 5 + 7 = × = → .0; 6 − ± = → 12.; 2 + 30 sin = → 2.5;"
+        "1 ÷ 2 = sin-1 → 30.; 30 sin 7 → 7.; pi × 2 = → 6.28318530717958");
 }
 
-TEST_F(CalculadoraTest, OperacionesUnarias) {
-    Comprobar({
-        {"2 op5", "1.4142135623731"},  // 1.41421356237310 in 15 digits
-        {"8 op7", "0.125"},
-        {"-8 op7", "-0.125"},
-        {"-3 op9", "-27."},
-        {"1.5 op10", "2.25"},
-        {"2.7 op12", "2."},
-        {"-2.5 op12", "-3."},
-        {"27 op14", "3."},
-        {"0 op5", ".0"},
-        {"3 op10 op10", "81."},
-    });
-}
-
-TEST_F(CalculadoraTest, Cadenas) {
-    Comprobar({
-        {"2 op4 3 op2", "5."},
-        {"2 op4 3 op2 4 =", "20."},
-        {"7 op4 2 op5", "3."},  // the sum first, then the root of 9
-        {"2 op4 3 = op2 4 =", "20."},
-        {"2 op4 3 = 7 op2 2 =", "14."},  // a digit behind a result begins a new number
-        {"2 op4 3 = =", "5."},           // nothing waits any more
-        {"5 =", "5."},
-        {"9 op5 =", "3."},
-        {"5 op4 =", "5."},  // the second operand is 0 until it is typed
-        {"5 op2 =", ".0"},
-        {"6 op3 neg =", "12."},  // the sign key takes the number on the display: 6 - (-6)
-    });
+TEST_F(CalculadoraTest, EntradaYLimpieza) {
+    EXPECT_EQ(Pantalla(), ".0");
+    Comprobar(
+        "007 → 7.; . → .0; .05 → .05; 2.50 → 2.50; 1.5.2 → 1.52; 1234567890123456 → 123456789012345.;"
+        "2.50 ± → -2.50; 2.50 ± ± → 2.50; 0 ± → .0; 2 ± 5 → -25.; 2 + 3 = ± → -5.; 10 x^y 20 = × 2 = → 2.E+20;"
+        "12.3 ← → 12.; 12.3 ← ← 4 → 124.; -5 ← → .0; ← → .0; 2 + 3 = ← → 5.; pi ← → 3.14159265358979");
+    // CE takes back the number typed last, then the operation.
+    Comprobar(
+        "2 + 3 C 7 = → 7.; 2 + 7 CE → .0; 2 + 7 CE 3 = → 5.; 2 + 7 CE CE → 2.; 2 + 7 CE CE 9 = → 9.; 2 + CE = → 2.;"
+        "5 CE → .0; 2 + 3 = CE → .0");
+    for (const auto& [teclas, tag] : {std::pair{"5.", "5."}, {"0", ""}, {"2 + 3", "3"}, {"2 +", ""}, {"2 + 3 =", ""}}) {
+        Tras(teclas);
+        EXPECT_EQ(F().BBCalc1.PicDisplay.Tag(), tag) << teclas;
+    }
 }
 
 TEST_F(CalculadoraTest, Fallos) {
-    for (const char* teclas : {
-             "5 op1 0 =",
-             "5 op1 =",
-             "0 op1 0 =",
-             "-1 op5",
-             "5 op6 0 =",
-             "0 op7",
-             "-8 op14",
-             "-2 op8 0.5 =",
-             "0 op8 -1 =",
-             "-8 op13 3 =",
-             "2 op13 0 =",
-             "5 op11 0.4 =",         // the divisor rounds to 0
-             "3000000000 op11 7 =",  // beyond a Long
-             "10 op8 400 =",         // beyond a Double
-             "10 op8 308 op2 10 =",
-             "10 op8 308 = op9",
-             "5 op1 0 op4",
-             "5 op1 0 op7",      // the fault of the operation that waited cancels the new one as well
-             "3000000000 sci0",  // beyond a Long of whole degrees
-             "-1 sci3",
-             "-1 sci4",  // the formula divides by Sqr(1 - 1)
-         }) {
-        Marcar("C");
-        Marcar(teclas);
+    // Divisions by 0 (0.4 rounds to it), powers that are not real, numbers beyond a Long or a Double; the fault of an
+    // operation that waited cancels the new one as well.
+    for (const std::string& teclas :
+         Partes("5 ÷ 0 =; 5 ÷ =; 0 ÷ 0 =; 5 % 0 =; 0 1/x; 2 ⁿ√ 0 =; 5 mod 0.4 =; -1 √; -8 ∛; -2 x^y 0.5 =; -8 ⁿ√ 3 =;"
+                "0 x^y -1 =; -1 sin-1; -1 cos-1; 3000000000 mod 7 =; 3000000000 sin; 10 x^y 400 =; 10 x^y 308 × 10 =;"
+                "5 ÷ 0 +; 5 ÷ 0 1/x")) {
         ComprobarFallo(teclas);
     }
+    // 9E+307 fits in a Double; twice as much is above its largest, 1.7977E+308. The memory stays as it was.
+    ComprobarFallo("10 x^y 308 = × 0.9 = MS M+");
+    EXPECT_EQ(Tras("MR"), "9.E+307");
 }
 
-TEST_F(CalculadoraTest, LaMemoriaSobreviveAlFallo) {
-    // 9E+307 fits in a Double; twice as much is above its largest, 1.7977E+308.
-    Marcar("10 op8 308 = op2 0.9 = mem2");
-    EXPECT_TRUE(sistema.mensajes.empty());
-    Marcar("mem3");
-    ComprobarFallo("M+");
-    Marcar("mem1");
-    EXPECT_EQ(Pantalla(), "9.E+307");
-}
-
-struct CasoTrig {
-    const char* teclas;
-    double valor;
-};
-
-class TrigonometriaTest : public CalculadoraTest {
-  protected:
-    /// The display shows 15 digits, and the degrees' pi has 15: a few units of the last one.
-    void ComprobarCerca(const std::vector<CasoTrig>& casos) {
-        for (const CasoTrig& caso : casos) {
-            Pulsar("cmdClear(0)");
-            Marcar(caso.teclas);
-            const double tolerancia = 5e-15 * std::max(1.0, std::abs(caso.valor));
-            EXPECT_NEAR(Val(Pantalla()).valor(), caso.valor, tolerancia) << caso.teclas;
-        }
-        EXPECT_TRUE(sistema.mensajes.empty());
-    }
-};
-
-TEST_F(TrigonometriaTest, Grados) {
-    EXPECT_TRUE(F().OptDegree.Value);
-    ComprobarCerca({
-        {"30 sci0", 0.5},
-        {"-30 sci0", 0.5},                 // the sign of the angle is lost
-        {"390 sci0", 0.5},                 // 390 mod 360 = 30
-        {"30.7 sci0", 0.515038074910054},  // sin 31°
-        {"30.5 sci0", 0.5},                // rounds to the even 30
-        {"60 sci1", 0.5},
-        {"-120 sci1", -0.5},
-        {"45 sci2", 1},
-        {"-45 sci2", 1},
-        {"0.5 sci3", 30},
-        {"-0.5 sci3", -30},
-        {"0.5 sci4", 60},
-        {"-0.5 sci4", 120},
-        {"0 sci4", 90},
-        {"1 sci5", 45},
-        {"-1 sci5", -45},
-    });
-    Marcar("C 30 sci0");
-    EXPECT_EQ(Pantalla(), "0.5");
+TEST_F(CalculadoraTest, Trigonometria) {
+    // Some functions miss a unit or two of the 15th digit, which is that of the degrees' pi, too.
+    constexpr double kTolerancia = 5e-15;
+    // Degrees lose their sign, go round after 360 and become whole: sin 31°, and the even 30 for 30.5.
+    Comprobar(
+        "-30 sin → 0.5; 390 sin → 0.5; 30.7 sin → 0.515038074910054; 30.5 sin → 0.5; 60 cos → 0.5; -120 cos → -0.5;"
+        "-45 tan → 1; -0.5 sin-1 → -30; 0.5 cos-1 → 60; -0.5 cos-1 → 120; -1 tan-1 → -45",
+        kTolerancia);
     // The degrees' pi is 3.2E-15 short, so cos 90° is half of it rather than 0 (and not the 6.1E-17 of a full pi).
-    Marcar("C 90 sci1");
-    EXPECT_NEAR(Val(Pantalla()).valor(), 1.62e-15, 0.12e-15);
-}
-
-TEST_F(TrigonometriaTest, Radianes) {
-    Pulsar("OptRadian");
-    ComprobarCerca({
-        {"1 sci0", 0.841470984807897},
-        {"-30 sci0", 0.988031624092862},  // of -30 rad: here the sign counts
-        {"30.7 sci0", -0.656316756177790},
-        {"1 sci1", 0.540302305868140},
-        {"1 sci2", 1.557407724654902},
-        {"0.5 sci3", 0.523598775598299},   // pi / 6
-        {"0.5 sci4", 1.047197551196598},   // pi / 3
-        {"-0.5 sci4", 2.094395102393195},  // 2 pi / 3
-        {"1 sci5", 0.785398163397448},     // pi / 4
-    });
-    Pulsar("OptDegree");
-    Marcar("C 30 sci0");
-    EXPECT_EQ(Pantalla(), "0.5");
-}
-
-TEST_F(TrigonometriaTest, PiYAleatorio) {
-    for (const char* modo : {"OptDegree", "OptRadian"}) {
-        Pulsar(modo);
-        Marcar("C sci6");
-        EXPECT_EQ(Pantalla(), "3.14159265358979") << modo;
-    }
-    bool conFraccion = false;
+    EXPECT_NEAR(Val(Tras("90 cos")).valor(), 1.62e-15, 0.12e-15);
+    app.Pulsar(F().OptRadian);  // -30 rad keep their sign; pi / 6, 2 pi / 3, pi / 4
+    Comprobar(
+        "-30 sin → 0.988031624092862; 30.7 sin → -0.656316756177790; 1 cos → 0.540302305868140;"
+        "1 tan → 1.557407724654902; 0.5 sin-1 → 0.523598775598299; -0.5 cos-1 → 2.094395102393195;"
+        "1 tan-1 → 0.785398163397448",
+        kTolerancia);
+    app.Pulsar(F().OptDegree);
+    EXPECT_EQ(Tras("30 sin"), "0.5");
     for (int i = 0; i < 20; ++i) {
-        Marcar("sci7");
-        const Double valor = F().BBCalc1.Valor();
-        EXPECT_TRUE(valor >= Double(1) && valor < Double(1001)) << Pantalla();
-        conFraccion = conFraccion || valor != Int(valor);
-    }
-    EXPECT_TRUE(conFraccion) << "it is not rounded";
-}
-
-TEST_F(TrigonometriaTest, EnUnaCadena) {
-    Comprobar({
-        {"2 op4 30 sci0 =", "2.5"},  // the sine is the second operand
-        {"1 op1 2 = sci3", "30."},   // of the result on the display
-        {"30 sci0 7", "7."},         // a digit begins a new number
-        {"30 sci0 sci3", "30."},
-        {"sci6 op2 2 =", "6.28318530717958"},
-    });
-}
-
-TEST_F(TrigonometriaTest, ArcosSoloEnSuRango) {
-    const std::vector<std::pair<const char*, bool>> casos = {
-        {"C", true},      {"1", false},   {"0.99", true},    {"-1", true},           {"-1.01", false},
-        {"5 op7", true},  {"5", false},   {"2 op4 0", true}, {"2 op4 0 back", true}, {"2 op3 4 =", false},
-        {"1 op4", false}, {"5 CE", true}, {"0 sci1", false},
-    };
-    for (const auto& [teclas, habilitadas] : casos) {
-        Marcar("C");
-        Marcar(teclas);
-        EXPECT_EQ(F().Controls("cmdSci(3)")->Enabled(), habilitadas) << teclas;
-        EXPECT_EQ(F().Controls("cmdSci(4)")->Enabled(), habilitadas) << teclas;
-    }
-    EXPECT_TRUE(F().Controls("cmdSci(5)")->Enabled());
-}
-
-TEST_F(CalculadoraTest, Entrada) {
-    EXPECT_EQ(Pantalla(), ".0");
-    Comprobar({
-        {"1234567890", "1234567890."},
-        {"007", "7."},
-        {".", ".0"},
-        {".05", ".05"},
-        {"2.50", "2.50"},
-        {"1.5.2", "1.52"},
-        {"1234567890123456", "123456789012345."},  // 15 digits
-        {"2.50 neg", "-2.50"},
-        {"2.50 neg neg", "2.50"},
-        {"0 neg", ".0"},
-        {"2 neg 5", "-25."},
-        {"12.3 back", "12."},
-        {"12.3 back back 4", "124."},
-        {"-5 back", ".0"},
-        {"back", ".0"},
-        {"2 op4 3 = back", "5."},  // a result is not typed: it stays
-        {"sci6 back", "3.14159265358979"},
-        {"2 op4 3 = neg", "-5."},
-        {"10 op8 20 =", "1.E+20"},
-        {"10 op8 20 = op2 2 =", "2.E+20"},
-    });
-}
-
-TEST_F(CalculadoraTest, TextoDeLaEntradaEnTag) {
-    const std::vector<Caso> casos = {
-        {"1.5", "1.5"},   {"5.", "5."},           {"0", ""},
-        {"C", ""},        {"2 op4 3 =", ""},      {"2 op4", ""},
-        {"2 op4 3", "3"}, {"7 mem2 C mem1", "7"}, {"sci6", "3.14159265358979"},
-    };
-    for (const Caso& caso : casos) {
-        Marcar("C");
-        Marcar(caso.teclas);
-        EXPECT_EQ(Tag(), caso.pantalla) << caso.teclas;
+        const Double azar = Val(Tras("ran"));
+        EXPECT_TRUE(azar >= 1 && azar < 1001 && azar != Int(azar)) << Pantalla();
     }
 }
 
-TEST_F(CalculadoraTest, Limpiar) {
-    Comprobar({
-        {"2 op4 3 C", ".0"},
-        {"2 op4 3 C 7 =", "7."},
-        {"2 op4 7 CE", ".0"},
-        {"2 op4 7 CE 3 =", "5."},  // only the number typed last goes
-        {"2 op4 7 CE CE", "2."},   // then the operation
-        {"2 op4 7 CE CE 9 =", "9."},
-        {"2 op4 CE =", "2."},
-        {"5 CE", ".0"},
-        {"2 op4 3 = CE", ".0"},
-    });
+// From -1 to below 1, whatever put the number on the display.
+TEST_F(CalculadoraTest, ArcosSoloEnSuRango) {
+    for (const auto& [numeros, habilitadas] :
+         {std::pair{"C; 0.99; -1; 5 1/x; 2 + 0; 5 CE", true}, {"1; -1.01; 5; 2 − 4 =; 0 cos", false}}) {
+        for (const std::string& teclas : Partes(numeros)) {
+            Tras(teclas);
+            EXPECT_EQ(Tecla("sin-1")->Enabled(), habilitadas) << teclas;
+            EXPECT_EQ(Tecla("cos-1")->Enabled(), habilitadas) << teclas;
+        }
+    }
 }
 
-TEST_F(CalculadoraTest, Memoria) {
+// C leaves the memory, a number that was stored is finished, and it is the first operand that is stored.
+TEST_F(CalculadoraTest, MemoriaYSuSenal) {
     EXPECT_FALSE(F().Image1.Visible);
-    Marcar("5 mem2");
+    Comprobar(
+        "5 MS → 5.; MR → 5.; 2 + MR = → 7.; MR × MR = → 25.; 1.5 M+ C MR → 6.5; 9 MS 4 → 4.; 2 + 3 MS = → 5.; MR → 2.;"
+        "-7 M+ C MR → -5.");
     EXPECT_TRUE(F().Image1.Visible);
-    Comprobar({
-        {"mem1", "5."},  // C leaves it
-        {"2 op4 mem1 =", "7."},
-        {"mem1 op2 mem1 =", "25."},
-        {"1.5 mem3 C mem1", "6.5"},
-        {"9 mem2 4", "4."},  // a number that was stored is finished
-        {"2 op4 3 mem2 =", "5."},
-    });
-    Marcar("C mem1");
-    EXPECT_EQ(Pantalla(), "2.") << "what is stored is the first operand";
-    Marcar("mem0");
-    EXPECT_FALSE(F().Image1.Visible);
-    EXPECT_EQ(Pantalla(), "2.");
-    Marcar("mem1");
-    EXPECT_EQ(Pantalla(), ".0");
-    Marcar("3 mem3 mem3 2 neg mem3 C mem1");
-    EXPECT_EQ(Pantalla(), "4.");
-    Marcar("neg mem3");
+    Marcar("C 5 M+");
     EXPECT_FALSE(F().Image1.Visible) << "a sum of 0 leaves nothing in it";
+    Marcar("MS MC");
+    EXPECT_FALSE(F().Image1.Visible);
+    EXPECT_EQ(Tras("MR"), ".0");
 }
 
 TEST_F(CalculadoraTest, Portapapeles) {
-    Menu& copiar = F().mnuEditCopy;
-    Menu& pegar = F().mnuEditPaste;
-    EXPECT_EQ(F().Controls("mnuEdit(0)"), &copiar);
-    EXPECT_EQ(F().Controls("mnuEdit(1)"), &pegar);
     const auto elegir = [&](Menu& entrada) { app.Despachar([&] { entrada.Elegir(); }); };
-
-    Marcar("3 op3 5.5 =");
-    elegir(copiar);
+    Marcar("3 − 5.5 =");
+    elegir(F().mnuEditCopy);
     EXPECT_EQ(sistema.portapapeles, "-2.5");
-    Marcar("C 12");
-    elegir(copiar);
-    EXPECT_EQ(sistema.portapapeles, "12.");
-
-    Marcar("C 100 op3");
-    elegir(pegar);
-    EXPECT_EQ(Pantalla(), "12.");
-    Marcar("=");
-    EXPECT_EQ(Pantalla(), "88.");
-
-    for (const auto& [texto, vale] : std::vector<std::pair<std::string, bool>>{
-             {"7.25", true}, {"12a", false}, {"-3", false}, {"1,5", false}, {" 1", false}, {"", false}, {".5", true}}) {
+    const auto pegar = [&](const std::string& texto) {
         sistema.portapapeles = texto;
-        EXPECT_EQ(F().BBCalc1.CanPaste(), vale) << texto;
-        app.Despachar([&] { F().mnuEditbase.Click(); });
-        EXPECT_EQ(pegar.Enabled(), vale) << texto;
-        Marcar("C 1");
+        Marcar("C 100 −");
         F().BBCalc1.ClipboardAction(1);
-        EXPECT_EQ(F().BBCalc1.Valor(), vale ? Val(texto) : Double(1)) << texto;
+        Marcar("=");
+        app.Despachar([&] { F().mnuEditbase.Click(); });
+        return Pantalla() + (F().mnuEditPaste.Enabled() ? "" : " greyed");
+    };
+    EXPECT_EQ(pegar("7.25"), "92.75");
+    EXPECT_EQ(pegar(".5"), "99.5");
+    for (const char* texto : {"12a", "-3", "1,5", " 1", ""}) {
+        EXPECT_EQ(pegar(texto), "100. greyed") << texto;
     }
+    pegar("12.");
+    elegir(F().mnuEditPaste);
+    EXPECT_EQ(Pantalla(), "12.");
     sistema.portapapeles = std::string(400, '9');
-    elegir(pegar);
-    ComprobarFallo("a number beyond a Double");
+    elegir(F().mnuEditPaste);
+    EXPECT_EQ(sistema.mensajes.size(), 1U) << "a number beyond a Double";
 }
 
 TEST_F(CalculadoraTest, Teclado) {
-    const auto teclear = [&](std::initializer_list<int> codigos) {
-        for (const int codigo : codigos) {
+    for (const std::string& caso : Partes("49 50 57 48 → 1290.; 97 98 105 96 → 1290.; 54 8 55 → 7.; 51 190 53 → 3.5;"
+                                          "51 110 53 → 3.5; 54 106 55 13 → 42.; 54 107 55 13 → 13.; 54 109 55 13 → -1.;"
+                                          "54 111 56 13 → 0.75; 54 65 108 187 32 55 → 67.")) {  // other keys do nothing
+        Marcar("C");
+        std::istringstream codigos(caso);
+        for (int codigo = 0; codigos >> codigo;) {
             app.PulsarTecla(codigo, 0);
         }
-    };
-    EXPECT_TRUE(F().BBCalc1.PicDisplay.TieneFoco());
-    const struct {
-        std::vector<int> codigos;
-        const char* pantalla;
-    } casos[] = {
-        {{49, 50, 57, 48}, "1290."}, {{97, 98, 105, 96}, "1290."},
-        {{54, 8, 55}, "7."},         {{51, 190, 53}, "3.5"},
-        {{51, 110, 53}, "3.5"},      {{54, 106, 55, 13}, "42."},
-        {{54, 107, 55, 13}, "13."},  {{54, 109, 55, 13}, "-1."},
-        {{54, 111, 56, 13}, "0.75"}, {{54, 65, 108, 187, 32, 55}, "67."},  // the other keys do nothing
-    };
-    for (const auto& caso : casos) {
-        Marcar("C");
-        for (const int codigo : caso.codigos) {
-            teclear({codigo});
-        }
-        EXPECT_EQ(Pantalla(), caso.pantalla);
+        EXPECT_TRUE(caso.ends_with(kFlecha + Pantalla())) << caso << ", not " << Pantalla();
     }
-    // Whatever key of the pad was clicked, the keyboard goes on writing on the display.
-    for (const char* tecla : {"cmdNum(7)", "cmdOp(2)", "cmdEquals", "cmdMem(2)", "cmdMem(0)", "cmdSci(6)", "cmdValue",
-                              "cmdBackSpace", "cmdClear(1)", "cmdClear(0)", "OptRadian", "OptDegree"}) {
-        Pulsar(tecla);
+    // Whatever was clicked, the keyboard goes on writing on the display.
+    for (const std::string& tecla : Partes("7; ×; =; MS; MC; pi; ±; ←; CE; C")) {
+        Marcar(tecla);
         EXPECT_TRUE(F().BBCalc1.PicDisplay.TieneFoco()) << tecla;
     }
+    app.Pulsar(F().OptRadian);
+    EXPECT_TRUE(F().BBCalc1.PicDisplay.TieneFoco());
 }
 
 TEST_F(CalculadoraTest, UnaParaTodosLosModulos) {
-    EXPECT_EQ(F().Caption(), "Calculadora científica");
-    frmCalculadora* primera = &F();
-    Marcar("5 mem2 op4 3");
-    Abrir();
-    EXPECT_EQ(&F(), primera);
-    EXPECT_EQ(Pantalla(), "3.");
-    EXPECT_TRUE(F().Image1.Visible);
+    Marcar("5 MS + 3");
+    Abrir("frmCalculadora");
     Marcar("=");
     EXPECT_EQ(Pantalla(), "8.");
-
     app.CerrarVentana(F());
-    Abrir();
+    Abrir("frmCalculadora");
     EXPECT_EQ(Pantalla(), ".0");
     EXPECT_FALSE(F().Image1.Visible);
-}
-
-TEST_F(CalculadoraTest, AyudasDeLasTeclas) {
-    const std::map<std::string, std::string> ayudas = {
-        {"cmdNum(0)", "Entrada numérica"},
-        {"cmdOp(3)", "Operación - subtracción"},
-        {"cmdOp(6)", "Operación - porcentaje - 30 (como) % (de) 300 = 10)"},
-        {"cmdOp(11)", "Operación - (16 mod 5 = 1),(74  mod 10 = 4)"},
-        {"cmdOp(14)", "Operación - raiz cúbica"},
-        {"cmdSci(5)", "Operación trigonométrica"},
-        {"cmdSci(7)", "Número aleatorio"},
-        {"cmdMem(0)", "Limpiar memoria"},
-        {"cmdMem(3)", "Adicionar valor corriente a la memoria"},
-        {"cmdClear(0)", "Resets de constante corriente y valores, cancelando toda operación"},
-        {"cmdEquals", ""},
-    };
-    for (const auto& [nombre, ayuda] : ayudas) {
-        ASSERT_NE(F().Controls(nombre), nullptr) << nombre;
-        EXPECT_EQ(F().Controls(nombre)->ToolTipText(), ayuda) << nombre;
-    }
 }
 
 }  // namespace
