@@ -3,12 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
+#include <regex>
 #include <sstream>
 
 #include "frame/modulo/cajas.h"
 #include "frame/modulo/modulocalculo.h"
 #include "shell/formas.h"
+#include "tests/archivos_en_disco.h"
 
 namespace cuencalia::pruebas {
 namespace {
@@ -192,13 +193,44 @@ TEST(GuionTest, OrdenesYLoQueImprimen) {
     EXPECT_TRUE(salida.str().ends_with("{\"rechazo\":\"el programa terminó\",\"linea\":36}\n")) << salida.str();
 }
 
-std::string Leer(const std::filesystem::path& ruta) {
-    std::ifstream archivo(ruta, std::ios::binary);
-    EXPECT_TRUE(archivo) << ruta;
-    return {std::istreambuf_iterator<char>(archivo), {}};
+/// An output as it is compared: a chart's numbers, which come in full precision, to four decimals, as a calculation by
+/// hand has them; a document's line ends as such, so that a difference shows its line.
+std::string Comparable(const std::string& texto) {
+    static const std::regex kLargo(R"(-?\d+\.\d{5,}(e-\d+)?)");
+    std::string comparable;
+    std::istringstream entrada(texto);
+    for (std::string linea; std::getline(entrada, linea); comparable += '\n') {
+        auto desde = linea.cbegin();
+        const bool grafico = linea.find("\"GraphType\"") != std::string::npos;
+        for (std::smatch numero; grafico && std::regex_search(desde, linea.cend(), numero, kLargo);) {
+            char cifras[32];
+            std::snprintf(cifras, sizeof cifras, "%.4f", std::stod(numero.str()));
+            comparable.append(desde, numero[0].first).append(cifras);
+            desde = numero[0].second;
+        }
+        comparable.append(desde, linea.cend());
+    }
+    return std::regex_replace(comparable, std::regex(R"(\\n)"), "\n");
 }
 
-// Each script stands beside what it must print, written by hand.
+/// A new folder to work in, from which the sample files are reached as ejemplos/.
+class CarpetaDeTrabajo {
+  public:
+    CarpetaDeTrabajo() {
+        std::filesystem::create_directory_symlink(std::filesystem::path(CUENCALIA_DATOS) / "../../ejemplos",
+                                                  nueva_ / "ejemplos");
+        std::filesystem::current_path(nueva_ / "");
+    }
+    ~CarpetaDeTrabajo() { std::filesystem::current_path(anterior_); }
+    CarpetaDeTrabajo(const CarpetaDeTrabajo&) = delete;
+    CarpetaDeTrabajo& operator=(const CarpetaDeTrabajo&) = delete;
+
+  private:
+    CarpetaTemporal nueva_;
+    std::filesystem::path anterior_ = std::filesystem::current_path();
+};
+
+// Each script stands beside what it must print, worked out apart from the program.
 TEST(Guiones, ImprimenLoEsperado) {
     int jugados = 0;
     const std::filesystem::path carpeta = std::filesystem::path(CUENCALIA_DATOS) / "../guion/guiones";
@@ -207,17 +239,19 @@ TEST(Guiones, ImprimenLoEsperado) {
             continue;
         }
         SCOPED_TRACE(entrada.path().filename());
+        const CarpetaDeTrabajo carpetaDeTrabajo;
         std::ostringstream salida;
         Guion guion(FormasDelPrograma(), salida);
-        std::istringstream lineas(Leer(entrada.path()));
+        std::istringstream lineas(BytesDe(entrada.path()));
         for (std::string linea; std::getline(lineas, linea);) {
             guion.Ejecutar(linea);
         }
-        EXPECT_EQ(salida.str(), Leer(std::filesystem::path(entrada.path()).replace_extension(".esperado")));
-        EXPECT_EQ(guion.HuboRechazo(), salida.str().find("{\"rechazo\":") != std::string::npos);
+        EXPECT_EQ(Comparable(salida.str()),
+                  Comparable(BytesDe(std::filesystem::path(entrada.path()).replace_extension(".esperado"))));
+        EXPECT_FALSE(guion.HuboRechazo());
         ++jugados;
     }
-    EXPECT_GE(jugados, 3);
+    EXPECT_GE(jugados, 7);
 }
 
 }  // namespace
