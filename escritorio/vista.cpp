@@ -9,6 +9,16 @@
 
 namespace cuencalia {
 
+int EnUtf16(const QString& texto, int caracteres) {
+    int posicion = 0;
+    for (; caracteres > 0 && posicion < texto.size(); --caracteres) {
+        posicion += texto[posicion].isHighSurrogate() ? 2 : 1;
+    }
+    return posicion;
+}
+
+int EnCaracteres(const QString& texto, int posicion) { return static_cast<int>(texto.left(posicion).toUcs4().size()); }
+
 Vista::Vista(Escritorio& escritorio, Control& control, QWidget* widget)
     : QObject(widget), escritorio_(escritorio), control_(&control), widget_(widget) {
     control.PonerVista(this);
@@ -141,8 +151,7 @@ int CodigoDeTecla(const QKeyEvent& evento) {
         return codigo;
     }
     const bool letraODigito = (evento.key() >= Qt::Key_A && evento.key() <= Qt::Key_Z) ||
-                              (evento.key() >= Qt::Key_0 && evento.key() <= Qt::Key_9) ||
-                              evento.key() == Qt::Key_Space;
+                              (evento.key() >= Qt::Key_0 && evento.key() <= Qt::Key_9) || evento.key() == Qt::Key_Space;
     return letraODigito ? evento.key() : 0;
 }
 
@@ -154,6 +163,11 @@ int CaracterDe(const QKeyEvent& evento) {
     const QList<uint> codigos = evento.text().toUcs4();
     const bool imprimible = codigos.size() == 1 && codigos[0] >= kTeclaEspacio && codigos[0] != 127;
     return imprimible ? static_cast<int>(codigos[0]) : 0;
+}
+
+bool EsOrden(const QKeyEvent& evento) {
+    const Qt::KeyboardModifiers m = evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    return m != Qt::NoModifier && m != (Qt::ControlModifier | Qt::AltModifier);
 }
 
 }  // namespace cuencalia

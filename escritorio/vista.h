@@ -16,6 +16,10 @@ class Escritorio;
 inline QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 inline std::string Std(const QString& texto) { return texto.toStdString(); }
 
+/// The program counts characters, the toolkit units of UTF-16: a place in a text from one to the other.
+int EnUtf16(const QString& texto, int caracteres);
+int EnCaracteres(const QString& texto, int posicion);
+
 /// Shows one control by one widget: tells the widget what changed in the model, and the model what the user did. The
 /// widget owns the view.
 class Vista : public QObject, public VistaControl {
@@ -51,5 +55,7 @@ class Vista : public QObject, public VistaControl {
 /// The key of an event as the controls name it, and its character (0: none).
 int CodigoDeTecla(const QKeyEvent& evento);
 int CaracterDe(const QKeyEvent& evento);
+/// AltGr writes characters; Control and Alt alone give orders.
+bool EsOrden(const QKeyEvent& evento);
 
 }  // namespace cuencalia

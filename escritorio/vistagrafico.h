@@ -1,29 +1,18 @@
 #pragma once
 
-#include <QString>
-
+#include "escritorio/exportargrafico.h"
 #include "escritorio/vista.h"
-#include "frame/reportes/grafico.h"
-
-class QAction;
 
 namespace cuencalia {
 
+class GraficoModulo;
 class LienzoGrafico;
 
 /// Shows a chart. The pointer or the arrow keys tell the values of a point; wheel, plus and minus zoom; dragging moves;
 /// a double click, 0 or Home show all again. The context menu copies and saves the chart.
 class VistaGrafico : public Vista {
   public:
-    enum class Formato { Png, Pdf, Svg };
-
     VistaGrafico(Escritorio& escritorio, GraficoModulo& grafico, QWidget* padre);
-
-    /// Writes what the chart shows, dark on white, in place of the file. When that fails a message says why, the file
-    /// stays as it was and the answer is false.
-    bool Guardar(const QString& archivo, Formato formato);
-    /// Puts a picture of what the chart shows, dark on white, on the clipboard.
-    void Copiar() const;
 
   protected:
     void Mostrar() override;
@@ -32,9 +21,8 @@ class VistaGrafico : public Vista {
 
   private:
     void HacerMenu();
-    void PedirArchivo(const char* filtro, Formato formato);
-    /// Draws the chart on white, as large as on the screen and never cramped.
-    void PonerEnPapel(LienzoGrafico& papel) const;
+    /// Asks for the name of a file and writes the chart there. When that fails a message says why.
+    void Guardar(const char* filtro, FormatoGrafico formato);
     QString Descripcion() const;
 
     GraficoModulo& grafico_;

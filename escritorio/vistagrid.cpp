@@ -278,8 +278,8 @@ void VistaGrid::Mostrar() {
     tabla_->horizontalHeader()->setVisible(grid_.FixedRows() > 0);
     tabla_->horizontalHeader()->setFixedHeight(std::max(alto, grid_.FixedRows() * renglon + 6));
     const int filas = std::clamp(grid_.Rows() - grid_.FixedRows(), 1, kFilasNaturales);
-    const int natural = tabla_->horizontalHeader()->height() +
-                        filas * tabla_->verticalHeader()->defaultSectionSize() + 2 * tabla_->frameWidth() + 2;
+    const int natural = tabla_->horizontalHeader()->height() + filas * tabla_->verticalHeader()->defaultSectionSize() +
+                        2 * tabla_->frameWidth() + 2;
     if (natural != tabla_->altoNatural) {
         tabla_->altoNatural = natural;
         tabla_->updateGeometry();
@@ -300,9 +300,7 @@ bool VistaGrid::Tecla(QKeyEvent& evento) {
         Copiar();
         return true;
     }
-    const bool orden = evento.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const bool altGr = (evento.modifiers() & Qt::ControlModifier) && (evento.modifiers() & Qt::AltModifier);
-    if ((orden && !altGr) || evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) {
+    if (EsOrden(evento) || evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) {
         return false;
     }
     const int codigo = CodigoDeTecla(evento);
@@ -331,18 +329,16 @@ bool VistaGrid::Presionar(QMouseEvent& evento) {
         return true;
     }
     const BotonRaton boton = evento.button() == Qt::RightButton ? kBotonDerecho : kBotonIzquierdo;
-    escritorio_.App().Despachar([&] {
-        grid_.Presionar(boton, indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols());
-    });
+    escritorio_.App().Despachar(
+        [&] { grid_.Presionar(boton, indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols()); });
     return true;
 }
 
 void VistaGrid::Arrastrar(const QMouseEvent& evento) {
     const QModelIndex indice = tabla_->indexAt(evento.position().toPoint());
     if (indice.isValid()) {
-        escritorio_.App().Despachar([&] {
-            grid_.Seleccionar(indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols());
-        });
+        escritorio_.App().Despachar(
+            [&] { grid_.Seleccionar(indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols()); });
     }
 }
 

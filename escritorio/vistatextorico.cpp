@@ -244,26 +244,16 @@ TextoRico LeerDocumento(const QTextDocument& documento) {
     return texto;
 }
 
-/// The program counts characters, the toolkit units of UTF-16; a document has as many of each unless it holds
-/// characters beyond the basic plane.
+/// A document has as many characters as units of UTF-16 unless it holds some beyond the basic plane, and is long: its
+/// text is taken out only where the two differ.
+bool ConSustitutos(const QTextDocument& documento, int longitud) { return documento.characterCount() - 1 != longitud; }
+
 int EnCaracteres(const QTextDocument& documento, int posicion, int longitud) {
-    if (documento.characterCount() - 1 == longitud) {
-        return posicion;
-    }
-    const QString antes = documento.toPlainText().left(posicion);
-    return static_cast<int>(std::count_if(antes.begin(), antes.end(), [](QChar c) { return !c.isLowSurrogate(); }));
+    return ConSustitutos(documento, longitud) ? cuencalia::EnCaracteres(documento.toPlainText(), posicion) : posicion;
 }
 
 int EnUtf16(const QTextDocument& documento, int caracteres, int longitud) {
-    if (documento.characterCount() - 1 == longitud) {
-        return caracteres;
-    }
-    const QString texto = documento.toPlainText();
-    int posicion = 0;
-    for (; caracteres > 0 && posicion < texto.size(); --caracteres) {
-        posicion += texto[posicion].isHighSurrogate() ? 2 : 1;
-    }
-    return posicion;
+    return ConSustitutos(documento, longitud) ? cuencalia::EnUtf16(documento.toPlainText(), caracteres) : caracteres;
 }
 
 std::string RtfDe(const QMimeData& datos) {

@@ -1,0 +1,468 @@
+#include "escritorio/lienzografico.h"
+
+#include <QFontInfo>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "escritorio/estilo.h"
+#include "escritorio/vista.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr QSize kTamanoMinimo(320, 220), kTamanoNatural(480, 320);
+constexpr double kAire = 0.04;  ///< Share of the range left free on either side of the data.
+constexpr double kMayorAcercamiento = 1e-6, kMayorAlejamiento = 1e3;  ///< Shares of the range of all the data.
+constexpr double kMayorValor = 1e200;   ///< Beyond it the axes know no range: such a point is left out.
+constexpr double kAlcancePuntero = 24;  ///< Pixels within which a point answers to the pointer.
+constexpr int kSimbolosTodos = 40;      ///< Points of a line up to which each one has its symbol.
+constexpr int kSimbolosPorLinea = 24;   ///< More would hide the dashes that tell the lines apart.
+constexpr double kGrosor = 1.8, kLadoSimbolo = 7;
+constexpr int kPuntosDensos = 300;                  ///< More are drawn finer: legible, and some fifty times as fast.
+constexpr int kMuestra = 36, kMuestraSimbolo = 14;  ///< Width of a line and of a lone symbol in the legend.
+constexpr int kMargenEjes = 9;                      ///< Left of the numbers and below the title.
+constexpr int kMargenDerecho = 26;                  ///< Holds half of the last number of the axis.
+constexpr int kAlfaRelleno = 90;
+
+/// Colours that eyes without red or green keep apart, dark ones for paper and light ones for a dark screen.
+/// Source: Okabe, M. and Ito, K. (2008), "Color Universal Design", University of Tokyo; the green on dark is lighter.
+constexpr std::array<QRgb, 6> kSobreClaro{0xff0072b2, 0xffd55e00, 0xff009e73, 0xff000000, 0xffcc79a7, 0xffe69f00};
+constexpr std::array<QRgb, 6> kSobreOscuro{0xff56b4e9, 0xffe69f00, 0xff2fb98f, 0xfff2f2f2, 0xffcc79a7, 0xfff0e442};
+
+constexpr std::array kSimbolos{QCPScatterStyle::ssCircle,   QCPScatterStyle::ssSquare,
+                               QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
+                               QCPScatterStyle::ssCross,    QCPScatterStyle::ssTriangleInverted};
+
+/// Dashes and gaps in widths of the line; without any the line is solid.
+const std::array<QVector<qreal>, 6> kRayas{{{}, {5, 2.5}, {7, 2.5, 1.2, 2.5}, {1.2, 2}, {10, 3}, {7, 2, 1, 2, 1, 2}}};
+
+bool EnEjes(double valor) { return std::abs(valor) < kMayorValor; }
+
+/// The points of a set that have both values, in the order in which they were written.
+std::vector<QPointF> PuntosDe(const GraficoModulo::Conjunto& conjunto) {
+    std::vector<QPointF> puntos;
+    for (std::size_t i = 0; i < std::min(conjunto.x.size(), conjunto.y.size()); ++i) {
+        const auto &x = conjunto.x[i], &y = conjunto.y[i];
+        if (x && y && EnEjes(x->valor()) && EnEjes(y->valor())) {
+            puntos.emplace_back(x->valor(), y->valor());
+        }
+    }
+    return puntos;
+}
+
+/// The values with some room on either side; a lone value gets a range around it.
+QCPRange ConAire(double minimo, double maximo) {
+    const double mayor = std::max(std::abs(minimo), std::abs(maximo));
+    const bool uno = maximo - minimo <= 1e-9 * mayor;
+    const double aire = !uno ? kAire * (maximo - minimo) : mayor > 0 ? 0.1 * mayor : 1;
+    return {minimo - aire, maximo + aire};
+}
+
+QString Numero(double valor) { return QString::number(valor, 'g', 7); }
+
+/// Numbers of an axis, with as many decimals as its ticks need and powers of ten only where a number would be too long.
+class Marcas : public QCPAxisTicker {
+  protected:
+    double getTickStep(const QCPRange& rango) override {
+        paso_ = QCPAxisTicker::getTickStep(rango);
+        mayor_ = std::max(std::abs(rango.lower), std::abs(rango.upper));
+        return paso_;
+    }
+
+    QString getTickLabel(double marca, const QLocale& lugar, QChar, int) override {
+        if (std::abs(marca) < 1e-6 * paso_) {
+            return QStringLiteral("0");
+        }
+        const int decimales = Decimales();
+        if (mayor_ < 1e7 && decimales <= kMasDecimales) {
+            return lugar.toString(marca, 'f', decimales);
+        }
+        return lugar.toString(marca, 'g', std::clamp(static_cast<int>(std::log10(mayor_ / paso_)) + 2, 3, 15));
+    }
+
+  private:
+    static constexpr int kMasDecimales = 6;
+
+    int Decimales() const {
+        int decimales = 0;
+        for (double paso = paso_; decimales <= kMasDecimales && std::abs(paso - std::round(paso)) > 1e-6 * paso;) {
+            paso *= 10;
+            ++decimales;
+        }
+        return decimales;
+    }
+
+    double paso_ = 1, mayor_ = 1;
+};
+
+}  // namespace
+
+Tinta Tinta::DePapel() {
+    return {Qt::white, QColor(0x1a, 0x1a, 0x1a), QColor(0x50, 0x50, 0x50), QColor(0xdd, 0xdd, 0xdd), &kSobreClaro};
+}
+
+Tinta Tinta::DePantalla(const QPalette& paleta, bool gris) {
+    const QColor papel = paleta.color(gris ? QPalette::Window : QPalette::Base);
+    const QColor linea = estilo::Linea();
+    const bool oscuro = papel.lightness() < paleta.color(QPalette::Text).lightness();
+    return {papel, paleta.color(QPalette::Text), estilo::TextoTenue(), oscuro ? linea.darker(125) : linea.lighter(112),
+            oscuro ? &kSobreOscuro : &kSobreClaro};
+}
+
+LienzoGrafico::LienzoGrafico(QWidget* padre) : QCustomPlot(padre) {
+    setLocale(QLocale::c());
+    setAntialiasedElements(QCP::aeAll);
+    setAutoAddPlottableToLegend(false);
+    setMinimumSize(kTamanoMinimo);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
+
+    // The legend stands in the middle of a row of its own, where it hides no point.
+    auto* fila = new QCPLayoutGrid;
+    plotLayout()->insertRow(0);
+    plotLayout()->addElement(0, 0, fila);
+    plotLayout()->setRowStretchFactor(0, 0.001);
+    plotLayout()->setRowSpacing(0);
+    fila->expandTo(1, 3);
+    fila->addElement(0, 1, legend);
+    fila->setColumnStretchFactor(1, 0.001);
+    legend->setFillOrder(QCPLegend::foColumnsFirst);
+    legend->setBorderPen(Qt::NoPen);
+    legend->setBrush(Qt::NoBrush);
+
+    legend->setColumnSpacing(16);
+    axisRect()->setMinimumMargins(QMargins(0, kMargenDerecho / 2, kMargenDerecho, 0));
+
+    QFont letra = font();
+    letra.setPixelSize(QFontInfo(letra).pixelSize());  // points would grow with the resolution of a file
+    legend->setFont(letra);
+    for (QCPAxis* eje : {xAxis, yAxis}) {
+        eje->setTicker(QSharedPointer<Marcas>::create());
+        eje->setNumberFormat(QStringLiteral("gbc"));
+        eje->setSubTicks(false);
+        eje->setTickLength(0, 4);
+        eje->setTickLabelFont(letra);
+        eje->setLabelFont(letra);
+        eje->setLabelPadding(6);
+        eje->setPadding(kMargenEjes);
+    }
+    connect(xAxis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
+            [this](const QCPRange& nuevo, const QCPRange& anterior) { Limitar(*xAxis, todoX_, nuevo, anterior); });
+    connect(yAxis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
+            [this](const QCPRange& nuevo, const QCPRange& anterior) { Limitar(*yAxis, todoY_, nuevo, anterior); });
+
+    // What follows the pointer is painted over the finished chart, which need not be drawn again for it.
+    senal_ = new QCPItemTracer(this);
+    senal_->setLayer(QStringLiteral("overlay"));
+    senal_->setStyle(QCPItemTracer::tsCircle);
+    senal_->setSize(12);
+    valores_ = new QCPItemText(this);
+    valores_->setLayer(QStringLiteral("overlay"));
+    valores_->setClipToAxisRect(false);
+    valores_->setFont(letra);
+    valores_->setPadding(QMargins(7, 4, 7, 4));
+    valores_->setTextAlignment(Qt::AlignLeft);
+    valores_->position->setType(QCPItemPosition::ptAbsolute);
+    OcultarSenal();
+}
+
+QSize LienzoGrafico::sizeHint() const { return kTamanoNatural; }
+
+void LienzoGrafico::Entintar(const Tinta& tinta) {
+    setBackground(QBrush(tinta.papel));
+    legend->setTextColor(tinta.texto);
+    for (QCPAxis* eje : {xAxis, yAxis}) {
+        eje->setBasePen(QPen(tinta.eje));
+        eje->setTickPen(QPen(tinta.eje));
+        eje->setTickLabelColor(tinta.texto);
+        eje->setLabelColor(tinta.texto);
+        eje->grid()->setPen(QPen(tinta.rejilla));
+        eje->grid()->setZeroLinePen(QPen(tinta.rejilla));
+    }
+    senal_->setPen(QPen(tinta.texto, 1.6));
+    valores_->setColor(tinta.texto);
+    valores_->setPen(QPen(tinta.eje));
+    valores_->setBrush(QBrush(tinta.papel));
+}
+
+void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
+    trazos_.clear();
+    legend->clearItems();
+    clearPlottables();
+    OcultarSenal();
+    Entintar(tinta);
+    conBorde_ = grafico.BorderStyle == 1;
+    const bool dibujado = grafico.DrawMode == kDibujarGrafico;
+    xAxis->setLabel(dibujado ? Q(grafico.BottomTitle) : QString());
+    bool conTextos = false;
+    if (dibujado) {
+        for (std::size_t c = 0; c < grafico.Conjuntos().size(); ++c) {
+            const std::vector<QPointF> puntos = PuntosDe(grafico.Conjuntos()[c]);
+            if (!puntos.empty()) {
+                AgregarTrazo(puntos, grafico, c, tinta);
+                conTextos = conTextos || !grafico.Conjuntos()[c].leyenda.empty();
+            }
+        }
+    }
+    PonerLeyenda(conTextos, grafico.GraphType == kGraficoLineas && grafico.GraphStyle == kSimbolosSueltos);
+    MedirDatos(grafico.GraphType == kGraficoAreas);
+    Acomodar(size());
+    VerTodo();
+}
+
+void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const GraficoModulo& grafico, std::size_t conjunto,
+                                 const Tinta& tinta) {
+    const std::size_t cual = conjunto % tinta.series->size();
+    const QColor color = (*tinta.series)[cual];
+    const bool area = grafico.GraphType == kGraficoAreas;
+    const bool sueltos = !area && grafico.GraphStyle == kSimbolosSueltos;
+    if (area) {
+        Rellenar(puntos, grafico.PatternData != 0, color);
+    }
+    // A curve keeps the order of the points, which an outline needs: a graph would sort them by x.
+    auto* trazo = new QCPCurve(xAxis, yAxis);
+    QVector<double> x, y;
+    for (const QPointF& punto : puntos) {
+        x << punto.x();
+        y << punto.y();
+    }
+    trazo->setData(x, y);
+    const std::string& leyenda = grafico.Conjuntos()[conjunto].leyenda;
+    trazo->setName(leyenda.empty() ? QStringLiteral("Conjunto %1").arg(conjunto + 1) : Q(leyenda));
+    const int n = static_cast<int>(puntos.size());
+    QPen pluma(color, n > kPuntosDensos ? 1 : kGrosor);
+    pluma.setJoinStyle(Qt::RoundJoin);
+    if (!kRayas[cual].isEmpty()) {
+        pluma.setDashPattern(kRayas[cual]);
+        pluma.setCapStyle(Qt::FlatCap);
+    }
+    trazo->setPen(pluma);
+    trazo->setLineStyle(sueltos ? QCPCurve::lsNone : QCPCurve::lsLine);
+    if (!area) {
+        trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), QBrush(tinta.papel), kLadoSimbolo});
+        trazo->setScatterSkip(sueltos || n <= kSimbolosTodos ? 0 : n / kSimbolosPorLinea);
+    }
+    trazos_.push_back(trazo);
+}
+
+void LienzoGrafico::Rellenar(const std::vector<QPointF>& puntos, bool conTrama, QColor color) {
+    auto* relleno = new QCPCurve(xAxis, yAxis);
+    QVector<double> x{puntos.front().x()}, y{0};
+    for (const QPointF& punto : puntos) {
+        x << punto.x();
+        y << punto.y();
+    }
+    relleno->setData(x << puntos.back().x(), y << 0);
+    relleno->setPen(Qt::NoPen);
+    color.setAlpha(kAlfaRelleno);
+    relleno->setBrush(QBrush(color, conTrama ? Qt::BDiagPattern : Qt::SolidPattern));
+}
+
+void LienzoGrafico::PonerLeyenda(bool conTextos, bool sinLineas) {
+    const bool conLeyenda = trazos_.size() > 1 || conTextos;
+    legend->setIconSize(sinLineas ? kMuestraSimbolo : kMuestra, QFontMetrics(legend->font()).height() + 2);
+    for (QCPCurve* trazo : trazos_) {
+        if (conLeyenda) {
+            trazo->addToLegend();
+        }
+    }
+    legend->setVisible(conLeyenda);
+    legend->setMargins(conLeyenda ? QMargins(4, 6, 4, 2) : QMargins());
+}
+
+void LienzoGrafico::MedirDatos(bool desdeCero) {
+    todoX_ = todoY_ = QCPRange(0, 1);
+    bool primero = true;
+    double x0 = 0, x1 = 0, y0 = 0, y1 = 0;
+    for (const QCPCurve* trazo : trazos_) {
+        for (const QCPCurveData& punto : *trazo->data()) {
+            x0 = primero ? punto.key : std::min(x0, punto.key);
+            x1 = primero ? punto.key : std::max(x1, punto.key);
+            y0 = primero ? punto.value : std::min(y0, punto.value);
+            y1 = primero ? punto.value : std::max(y1, punto.value);
+            primero = false;
+        }
+    }
+    if (primero) {
+        return;
+    }
+    todoX_ = ConAire(x0, x1);
+    todoY_ = desdeCero ? ConAire(std::min(y0, 0.0), std::max(y1, 0.0)) : ConAire(y0, y1);
+    if (desdeCero && y0 >= 0) {
+        todoY_.lower = 0;
+    }
+}
+
+void LienzoGrafico::Acomodar(QSize tamano) {
+    const int ejeX = std::clamp(tamano.width() / 90, 3, 10);
+    const int ejeY = std::clamp(tamano.height() / 55, 3, 10);
+    xAxis->ticker()->setTickCount(ejeX);
+    yAxis->ticker()->setTickCount(ejeY);
+    if (!ConLeyenda()) {
+        return;
+    }
+    int columnas = Trazos();
+    while (columnas > 1 && AnchoLeyenda(columnas) > tamano.width()) {
+        --columnas;
+    }
+    const int filas = (Trazos() + columnas - 1) / columnas;
+    legend->setWrap((Trazos() + filas - 1) / filas);  // rows of much the same length
+    legend->setFillOrder(QCPLegend::foColumnsFirst, true);
+}
+
+int LienzoGrafico::AnchoLeyenda(int columnas) const {
+    std::vector<int> anchos(static_cast<std::size_t>(columnas), 0);
+    for (std::size_t t = 0; t < trazos_.size(); ++t) {
+        const QCPLayoutElement& entrada = *legend->itemWithPlottable(trazos_[t]);
+        int& ancho = anchos[t % anchos.size()];
+        ancho = std::max(ancho, entrada.minimumOuterSizeHint().width());
+    }
+    return std::accumulate(anchos.begin(), anchos.end(), columnas * legend->columnSpacing());
+}
+
+void LienzoGrafico::VerTodo() {
+    xAxis->setRange(todoX_);
+    yAxis->setRange(todoY_);
+}
+
+void LienzoGrafico::VerComo(const LienzoGrafico& otro) {
+    xAxis->setRange(otro.xAxis->range());
+    yAxis->setRange(otro.yAxis->range());
+}
+
+void LienzoGrafico::Acercar(double factor) {
+    xAxis->scaleRange(factor);
+    yAxis->scaleRange(factor);
+    replot();
+}
+
+/// A range too small has no numbers left to tell its ends apart, one too large shows nothing.
+void LienzoGrafico::Limitar(QCPAxis& eje, const QCPRange& todo, const QCPRange& nuevo, const QCPRange& anterior) {
+    OcultarSenal();
+    const double menor = std::max(kMayorAcercamiento * todo.size(), 1e-9 * std::abs(nuevo.center()));
+    if (nuevo.size() < menor || nuevo.size() > kMayorAlejamiento * todo.size()) {
+        eje.setRange(anterior);
+    }
+}
+
+QStringList LienzoGrafico::Nombres() const {
+    QStringList nombres;
+    for (const QCPCurve* trazo : trazos_) {
+        nombres << trazo->name();
+    }
+    return nombres;
+}
+
+int LienzoGrafico::Puntos() const {
+    int puntos = 0;
+    for (const QCPCurve* trazo : trazos_) {
+        puntos += trazo->dataCount();
+    }
+    return puntos;
+}
+
+QPointF LienzoGrafico::Pixel(const Lugar& lugar) const {
+    return trazos_[static_cast<std::size_t>(lugar.trazo)]->dataPixelPosition(lugar.punto);
+}
+
+std::optional<LienzoGrafico::Lugar> LienzoGrafico::MasCercano(QPointF lugar) const {
+    std::optional<Lugar> hallado;
+    double menor = kAlcancePuntero;
+    for (int t = 0; t < Trazos(); ++t) {
+        for (int p = 0; p < trazos_[static_cast<std::size_t>(t)]->dataCount(); ++p) {
+            const QPointF pixel = Pixel({t, p});
+            const double distancia = std::hypot(pixel.x() - lugar.x(), pixel.y() - lugar.y());
+            if (distancia < menor && axisRect()->rect().contains(pixel.toPoint())) {
+                menor = distancia;
+                hallado = Lugar{t, p};
+            }
+        }
+    }
+    return hallado;
+}
+
+void LienzoGrafico::Senalar(QPointF lugar) {
+    if (const auto hallado = MasCercano(lugar)) {
+        Senalar(*hallado);
+    } else {
+        DejarDeSenalar();
+    }
+}
+
+void LienzoGrafico::Senalar(const Lugar& lugar) {
+    senalado_ = lugar;
+    const QCPCurve& trazo = *trazos_[static_cast<std::size_t>(lugar.trazo)];
+    const double x = trazo.dataMainKey(lugar.punto), y = trazo.dataMainValue(lugar.punto);
+    senal_->position->setCoords(x, y);
+    const QString donde = QStringLiteral("x = %1, y = %2").arg(Numero(x), Numero(y));
+    valores_->setText(ConLeyenda() ? trazo.name() + QLatin1Char('\n') + donde : donde);
+
+    // Towards the middle of the chart, where there is room.
+    const QPointF pixel = Pixel(lugar);
+    const bool izquierda = pixel.x() < axisRect()->center().x();
+    const bool arriba = pixel.y() < axisRect()->center().y();
+    valores_->setPositionAlignment((izquierda ? Qt::AlignLeft : Qt::AlignRight) |
+                                   (arriba ? Qt::AlignTop : Qt::AlignBottom));
+    valores_->position->setCoords(pixel + QPointF(izquierda ? 10 : -10, arriba ? 10 : -10));
+    senal_->setVisible(true);
+    valores_->setVisible(true);
+    layer(QStringLiteral("overlay"))->replot();
+}
+
+void LienzoGrafico::Recorrer(int puntos, int conjuntos) {
+    if (trazos_.empty()) {
+        return;
+    }
+    Lugar lugar = senalado_;
+    if (senal_->visible()) {
+        lugar.trazo = std::clamp(lugar.trazo + conjuntos, 0, Trazos() - 1);
+        lugar.punto += puntos;
+    }
+    const QCPCurve& trazo = *trazos_[static_cast<std::size_t>(lugar.trazo)];
+    lugar.punto = std::clamp(lugar.punto, 0, trazo.dataCount() - 1);
+    const double x = trazo.dataMainKey(lugar.punto), y = trazo.dataMainValue(lugar.punto);
+    if (!xAxis->range().contains(x) || !yAxis->range().contains(y)) {
+        xAxis->setRange(x, xAxis->range().size(), Qt::AlignCenter);
+        yAxis->setRange(y, yAxis->range().size(), Qt::AlignCenter);
+        replot();
+    }
+    Senalar(lugar);
+}
+
+void LienzoGrafico::OcultarSenal() {
+    senal_->setVisible(false);
+    valores_->setVisible(false);
+}
+
+void LienzoGrafico::DejarDeSenalar() {
+    if (senal_->visible()) {
+        OcultarSenal();
+        layer(QStringLiteral("overlay"))->replot();
+    }
+}
+
+void LienzoGrafico::paintEvent(QPaintEvent* evento) {
+    QCustomPlot::paintEvent(evento);
+    if (!conBorde_ && !hasFocus()) {
+        return;
+    }
+    QPainter pintor(this);
+    pintor.setPen(hasFocus() ? palette().color(QPalette::Highlight) : estilo::Linea());
+    pintor.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void LienzoGrafico::resizeEvent(QResizeEvent* evento) {
+    OcultarSenal();
+    Acomodar(evento->size());
+    QCustomPlot::resizeEvent(evento);
+}
+
+void LienzoGrafico::leaveEvent(QEvent* evento) {
+    DejarDeSenalar();
+    QCustomPlot::leaveEvent(evento);
+}
+
+}  // namespace cuencalia

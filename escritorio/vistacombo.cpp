@@ -1,0 +1,57 @@
+#include <QComboBox>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/vistas.h"
+#include "frame/controles/controles.h"
+
+namespace cuencalia {
+
+namespace {
+
+class VistaCombo : public Vista {
+  public:
+    VistaCombo(Escritorio& escritorio, ComboBox& combo, QComboBox* widget)
+        : Vista(escritorio, combo, widget), combo_(combo), widget_(widget) {
+        widget_->setEditable(combo.Editable);
+        widget_->setInsertPolicy(QComboBox::NoInsert);
+        connect(widget_, &QComboBox::activated, this,
+                [this](int indice) { escritorio_.App().Despachar([&] { combo_.Elegir(indice); }); });
+        connect(widget_, &QComboBox::editTextChanged, this, [this](const QString& texto) {
+            if (!mostrando_) {
+                escritorio_.App().Despachar([&] { combo_.Text = Std(texto); });
+            }
+        });
+    }
+
+  protected:
+    void Mostrar() override {
+        mostrando_ = true;
+        if (widget_->count() != static_cast<int>(combo_.List().size())) {
+            widget_->clear();
+            for (const std::string& entrada : combo_.List()) {
+                widget_->addItem(Q(entrada));
+            }
+        }
+        if (combo_.Editable) {
+            if (widget_->currentText() != Q(combo_.Text)) {
+                widget_->setEditText(Q(combo_.Text));
+            }
+        } else {
+            widget_->setCurrentIndex(combo_.ListIndex());
+        }
+        mostrando_ = false;
+    }
+
+  private:
+    ComboBox& combo_;
+    QComboBox* widget_;
+    bool mostrando_ = false;
+};
+
+}  // namespace
+
+Vista* NuevaVista(Escritorio& escritorio, ComboBox& combo, QWidget* padre) {
+    return new VistaCombo(escritorio, combo, new QComboBox(padre));
+}
+
+}  // namespace cuencalia

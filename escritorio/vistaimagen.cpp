@@ -1,0 +1,72 @@
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWidget>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
+#include "escritorio/vistas.h"
+#include "frame/controles/controles.h"
+
+namespace cuencalia {
+
+namespace {
+
+/// A picture drawn to the size that it is given.
+class Lamina : public QWidget {
+  public:
+    using QWidget::QWidget;
+    QString imagen;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter pintor(this);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        if (!imagen.isEmpty()) {
+            estilo::PintarFondo(pintor, rect(), imagen);
+        }
+        if (hasFocus()) {
+            pintor.fillRect(rect(), palette().highlight());
+        }
+    }
+};
+
+class VistaImagen : public Vista {
+  public:
+    VistaImagen(Escritorio& escritorio, PictureBox& imagen, Lamina* lamina)
+        : Vista(escritorio, imagen, lamina), imagen_(imagen), lamina_(lamina) {
+        if (imagen.AceptaFoco()) {
+            // It takes the keyboard for the label above it and shows by a line that it does.
+            lamina_->setFocusPolicy(Qt::StrongFocus);
+            lamina_->setFixedHeight(3);
+        } else {
+            lamina_->setMinimumSize(400, 150);
+        }
+    }
+
+  protected:
+    void Mostrar() override {
+        lamina_->imagen = Q(imagen_.Picture);
+        lamina_->update();
+    }
+
+    bool Tecla(QKeyEvent& evento) override {
+        const int codigo = CodigoDeTecla(evento);
+        if (!imagen_.AceptaFoco() || EsOrden(evento) || codigo == 0) {
+            return false;
+        }
+        escritorio_.App().PulsarTecla(codigo, CaracterDe(evento));
+        return true;
+    }
+
+  private:
+    PictureBox& imagen_;
+    Lamina* lamina_;
+};
+
+}  // namespace
+
+Vista* NuevaVista(Escritorio& escritorio, PictureBox& imagen, QWidget* padre) {
+    return new VistaImagen(escritorio, imagen, new Lamina(padre));
+}
+
+}  // namespace cuencalia

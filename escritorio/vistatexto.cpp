@@ -1,0 +1,101 @@
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTableView>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/vistagrid.h"
+#include "escritorio/vistas.h"
+#include "frame/controles/controles.h"
+#include "frame/controles/flexgrid.h"
+
+namespace cuencalia {
+
+namespace {
+
+class VistaTexto : public Vista {
+  public:
+    VistaTexto(Escritorio& escritorio, TextBox& caja, QLineEdit* linea)
+        : Vista(escritorio, caja, linea), caja_(caja), linea_(linea) {
+        linea_->setProperty("flotante", caja.Sobre() != nullptr);
+        if (caja.Sobre() == nullptr) {
+            linea_->setMinimumWidth(linea_->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 11);
+        } else {
+            linea_->setAlignment(Qt::AlignHCenter);
+        }
+        connect(linea_, &QLineEdit::textEdited, this, [this] { Devolver(); });
+        connect(linea_, &QLineEdit::cursorPositionChanged, this, [this] { Devolver(); });
+        connect(linea_, &QLineEdit::selectionChanged, this, [this] { Devolver(); });
+    }
+
+  protected:
+    void Mostrar() override {
+        mostrando_ = true;
+        linea_->setReadOnly(caja_.Locked);
+        const QString texto = Q(caja_.Text);
+        if (linea_->text() != texto) {
+            linea_->setText(texto);
+        }
+        const int inicio = EnUtf16(texto, caja_.SelStart);
+        const int longitud = EnUtf16(texto, caja_.SelStart + caja_.SelLength) - inicio;
+        if (longitud > 0) {
+            if (linea_->selectionStart() != inicio || linea_->selectionLength() != longitud) {
+                linea_->setSelection(inicio, longitud);
+            }
+        } else if (linea_->hasSelectedText() || linea_->cursorPosition() != inicio) {
+            linea_->deselect();
+            linea_->setCursorPosition(inicio);
+        }
+        if (caja_.Sobre() != nullptr && caja_.Visible) {
+            auto* vista = static_cast<VistaGrid*>(caja_.Sobre()->Vista());
+            linea_->setGeometry(vista->CeldaActual());
+            linea_->raise();
+        }
+        mostrando_ = false;
+    }
+
+    /// Characters go through the control's own filter; moving and marking with Shift or Control stay the widget's.
+    bool Tecla(QKeyEvent& evento) override {
+        const bool deMover = evento.key() == Qt::Key_Left || evento.key() == Qt::Key_Right ||
+                             evento.key() == Qt::Key_Home || evento.key() == Qt::Key_End;
+        const bool deSalir = evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab;
+        if (EsOrden(evento) || deMover || deSalir) {
+            return false;
+        }
+        const int codigo = CodigoDeTecla(evento);
+        const int caracter = CaracterDe(evento);
+        if (codigo == 0 && caracter == 0) {
+            return false;
+        }
+        escritorio_.App().PulsarTecla(codigo, caracter);
+        return true;
+    }
+
+  private:
+    /// What the user did in the widget itself: paste, undo, marks, an input method.
+    void Devolver() {
+        if (mostrando_) {
+            return;
+        }
+        const QString texto = linea_->text();
+        const bool marcado = linea_->hasSelectedText();
+        const int inicio = EnCaracteres(texto, marcado ? linea_->selectionStart() : linea_->cursorPosition());
+        const int longitud = marcado ? EnCaracteres(texto, linea_->selectionEnd()) - inicio : 0;
+        escritorio_.App().Despachar([&] { caja_.EscritoPorUsuario(Std(texto), inicio, longitud); });
+    }
+
+    TextBox& caja_;
+    QLineEdit* linea_;
+    bool mostrando_ = false;
+};
+
+}  // namespace
+
+Vista* NuevaVista(Escritorio& escritorio, TextBox& caja, QWidget* padre) {
+    QWidget* sobre = padre;
+    if (caja.Sobre() != nullptr && caja.Sobre()->Vista() != nullptr) {
+        sobre = static_cast<VistaGrid*>(caja.Sobre()->Vista())->Tabla()->viewport();
+    }
+    return new VistaTexto(escritorio, caja, new QLineEdit(sobre));
+}
+
+}  // namespace cuencalia
