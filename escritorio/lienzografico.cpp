@@ -42,12 +42,13 @@ const std::array<QVector<qreal>, 6> kRayas{{{}, {5, 2.5}, {7, 2.5, 1.2, 2.5}, {1
 bool EnEjes(double valor) { return std::abs(valor) < kMayorValor; }
 
 /// The points of a set that have both values, in the order in which they were written.
-std::vector<QPointF> PuntosDe(const GraficoModulo::Conjunto& conjunto) {
+std::vector<QPointF> PuntosDe(const GraficoModulo& grafico, std::size_t conjunto) {
+    const auto& y = grafico.Conjuntos()[conjunto].y;
+    const auto x = grafico.Abscisas(static_cast<int>(conjunto) + 1);
     std::vector<QPointF> puntos;
-    for (std::size_t i = 0; i < std::min(conjunto.x.size(), conjunto.y.size()); ++i) {
-        const auto &x = conjunto.x[i], &y = conjunto.y[i];
-        if (x && y && EnEjes(x->valor()) && EnEjes(y->valor())) {
-            puntos.emplace_back(x->valor(), y->valor());
+    for (std::size_t i = 0; i < y.size(); ++i) {
+        if (x[i] && y[i] && EnEjes(x[i]->valor()) && EnEjes(y[i]->valor())) {
+            puntos.emplace_back(x[i]->valor(), y[i]->valor());
         }
     }
     return puntos;
@@ -200,7 +201,7 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
     bool conTextos = false;
     if (dibujado) {
         for (std::size_t c = 0; c < grafico.Conjuntos().size(); ++c) {
-            const std::vector<QPointF> puntos = PuntosDe(grafico.Conjuntos()[c]);
+            const std::vector<QPointF> puntos = PuntosDe(grafico, c);
             if (!puntos.empty()) {
                 AgregarTrazo(puntos, grafico, c, tinta);
                 conTextos = conTextos || !grafico.Conjuntos()[c].leyenda.empty();

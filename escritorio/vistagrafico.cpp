@@ -14,7 +14,6 @@ namespace cuencalia {
 namespace {
 
 constexpr double kPaso = 0.8;  ///< Of a zoom by key.
-constexpr int kFondoGris = 7;  ///< Background of some modules; all others have the colour of paper.
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "frame/reportes/grafico.h"
 
+#include <algorithm>
+
 namespace cuencalia {
 
 namespace {
@@ -79,8 +81,24 @@ void GraficoModulo::PonerGraphData(Double y) { Escribir(&Conjunto::y, siguienteY
 
 void GraficoModulo::PonerXPosData(Double x) { Escribir(&Conjunto::x, siguienteX_, x); }
 
-void GraficoModulo::LimpiarGrafico() {
-    Background = 11;
+std::vector<std::optional<Double>> GraficoModulo::Abscisas(int conjunto) const {
+    if (conjunto < 1 || conjunto > NumSets()) {
+        throw ErrorEjecucion(kArgumentoNoValido);
+    }
+    for (const Conjunto* de : {&conjuntos_[S(conjunto - 1)], &conjuntos_.front()}) {
+        if (std::any_of(de->x.begin(), de->x.end(), [](const auto& x) { return x.has_value(); })) {
+            return de->x;
+        }
+    }
+    std::vector<std::optional<Double>> numeros;
+    for (int i = 1; i <= puntos_; ++i) {
+        numeros.emplace_back(i);
+    }
+    return numeros;
+}
+
+void GraficoModulo::LimpiarGrafico(int fondo) {
+    Background = fondo;
     BorderStyle = 0;
     DrawMode = kBorrarGrafico;
     Visible = false;
@@ -99,21 +117,22 @@ void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcio
     grafico.Visible = true;
     grafico.BottomTitle = descripcion.titulo;
     grafico.AutoInc = descripcion.autoInc;
-    const int puntos = static_cast<int>(series.at(0).y.size());
-    grafico.PonerNumPoints(puntos);
-    grafico.PonerNumSets(static_cast<int>(series.size()));
-    for (int c = 1; c <= grafico.NumSets(); ++c) {
+    grafico.PonerNumPoints(descripcion.puntos.value_or(static_cast<int>(series.at(0).y.size())));
+    const int dados = static_cast<int>(series.size());
+    grafico.PonerNumSets(descripcion.conjuntos.value_or(dados));
+    for (int c = 1; c <= dados; ++c) {
         grafico.PonerThisSet(c);
         grafico.PonerLegendText(series[S(c - 1)].leyenda);
     }
-    for (int c = 1; c <= grafico.NumSets(); ++c) {
+    for (int c = 1; c <= dados; ++c) {
         const SerieGrafico& serie = series[S(c - 1)];
         grafico.PonerThisSet(c);
-        for (int i = 1; i <= puntos; ++i) {
-            grafico.PonerThisPoint(i);
-            grafico.PonerGraphData(serie.y.at(S(i - 1)));
-            grafico.PonerThisPoint(i);
-            grafico.PonerXPosData(serie.x.at(S(i - 1)));
+        for (std::size_t i = 0; i < serie.y.size(); ++i) {
+            grafico.PonerThisPoint(static_cast<int>(i) + 1);
+            grafico.PonerGraphData(serie.y[i]);
+            if (!serie.x.empty()) {
+                grafico.PonerXPosData(serie.x.at(i));
+            }
         }
     }
     grafico.DrawMode = kDibujarGrafico;

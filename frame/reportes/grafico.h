@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/controles/control.h"
 #include "frame/base/numeros.h"
+#include "frame/controles/control.h"
 
 namespace cuencalia {
 
@@ -13,6 +13,7 @@ namespace cuencalia {
 enum TipoGrafico : int { kGraficoLineas = 6, kGraficoAreas = 8 };
 enum EstiloGrafico : int { kLineasUnidas = 0, kSimbolosSueltos = 1 };
 enum ModoDibujo : int { kBorrarGrafico = 1, kDibujarGrafico = 2 };
+enum FondoGrafico : int { kFondoGris = 7, kFondoPapel = 11 };
 
 /// A chart of NumSets data sets of NumPoints points each, in the units of the module that draws it. It is hidden until
 /// the module draws on it.
@@ -28,7 +29,7 @@ class GraficoModulo : public Control {
     Propiedad<int> FontUse{*this};
     Propiedad<int> GraphType{*this, kGraficoLineas};
     Propiedad<int> GraphStyle{*this, kLineasUnidas};
-    Propiedad<int> Background{*this, 11};
+    Propiedad<int> Background{*this, kFondoPapel};
     Propiedad<int> BorderStyle{*this};
     Propiedad<int> PatternData{*this};
     Propiedad<int> AutoInc{
@@ -56,12 +57,15 @@ class GraficoModulo : public Control {
     void PonerXPosData(Double x);
 
     const std::vector<Conjunto>& Conjuntos() const { return conjuntos_; }
+    /// The x with which each point of a set (from 1) is drawn, empty for a point that has none. A set without positions
+    /// takes those of the first set, and without those its points stand at 1 to n. Error 5 for a set that is not there.
+    std::vector<std::optional<Double>> Abscisas(int conjunto) const;
 
     /// The keyboard reads the points one by one.
     bool AceptaFoco() const override { return true; }
 
     /// Hides the chart; what it showed is not shown again, as the next drawing begins by emptying it.
-    void LimpiarGrafico();
+    void LimpiarGrafico(int fondo = kFondoPapel);
 
   private:
     struct Lugar {
@@ -81,19 +85,21 @@ class GraficoModulo : public Control {
 struct DescripcionGrafico {
     int tipo = kGraficoLineas;
     int estilo = kLineasUnidas;
-    int fondo = 11;
+    int fondo = kFondoPapel;
     bool conTrama = false;  ///< Whether PatternData is set.
     std::string titulo{};   ///< Under the axis.
     int autoInc = 1;
+    std::optional<int> puntos{};     ///< NumPoints, where it is not the length of the first set.
+    std::optional<int> conjuntos{};  ///< NumSets, where it is not the number of the sets.
 };
 
-/// One data set of a chart.
+/// One data set of a chart; without x its positions are not written.
 struct SerieGrafico {
     std::string leyenda{};
     std::vector<Double> x, y;
 };
 
-/// Draws the sets, all of the same number of points, and shows the chart.
+/// Draws the sets and shows the chart. Error 5 for more sets or points than it has room for.
 void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcion,
                     const std::vector<SerieGrafico>& series);
 
