@@ -1,13 +1,13 @@
-#include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
+#include "escritorio/programa.h"
 #include "shell/formas.h"
 
 int main(int argc, char** argv) {
-    QApplication programa(argc, argv);
+    cuencalia::Programa programa(argc, argv);
     QApplication::setApplicationName(QStringLiteral("cuencalia"));
     QApplication::setOrganizationName(QStringLiteral("cuencalia"));
     QGuiApplication::setDesktopFileName(QStringLiteral("cuencalia"));
@@ -20,6 +20,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(cuencalia::estilo::Icono(QStringLiteral("cuencalia")));
 
     cuencalia::Escritorio escritorio(cuencalia::FormasDelPrograma());
+    programa.alFallar = [&escritorio](const cuencalia::ErrorEjecucion& error) { escritorio.MostrarError(error); };
     escritorio.App().Despachar([&] { escritorio.App().ModuloAbrir("frmCuencalia"); });
     return QApplication::exec();
 }
