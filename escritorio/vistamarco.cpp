@@ -1,4 +1,6 @@
+#include <QEvent>
 #include <QGroupBox>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include "escritorio/escritorio.h"
@@ -26,9 +28,10 @@ class VistaFichas : public Vista {
   public:
     VistaFichas(Escritorio& escritorio, SSTab& fichas, QTabWidget* widget)
         : Vista(escritorio, fichas, widget), fichas_(fichas), widget_(widget) {
+        widget_->tabBar()->installEventFilter(this);
         connect(widget_, &QTabWidget::currentChanged, this, [this](int pagina) {
             if (pagina >= 0 && pagina != fichas_.Tab) {
-                escritorio_.App().Despachar([&] { fichas_.Tab = pagina; });
+                escritorio_.App().Despachar([&] { Elegir(pagina); });
             }
         });
     }
@@ -36,7 +39,22 @@ class VistaFichas : public Vista {
   protected:
     void Mostrar() override { widget_->setCurrentIndex(fichas_.Tab); }
 
+    /// The row of tabs has the keyboard for the whole.
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        return Vista::eventFilter(evento->type() == QEvent::FocusIn ? widget_ : objeto, evento);
+    }
+
   private:
+    void Elegir(int pagina) {
+        fichas_.Tab = pagina;
+        // What had the keyboard may stand on the page that went.
+        const Control* foco = escritorio_.App().Foco();
+        const auto* vista = foco == nullptr ? nullptr : static_cast<Vista*>(foco->Vista());
+        if (vista != nullptr && !vista->Widget()->isVisible()) {
+            fichas_.SetFocus();
+        }
+    }
+
     SSTab& fichas_;
     QTabWidget* widget_;
 };
