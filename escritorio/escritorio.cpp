@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QSettings>
 #include <QTemporaryFile>
 #include <QUrl>
@@ -31,11 +32,6 @@ Escritorio::~Escritorio() {
     app_.reset();
 }
 
-Ventana* Escritorio::VentanaDe(const Formulario& forma) const {
-    const auto hallada = ventanas_.find(&forma);
-    return hallada == ventanas_.end() ? nullptr : hallada->second;
-}
-
 void Escritorio::Ensuciar(Vista* vista) {
     if (std::find(sucias_.begin(), sucias_.end(), vista) == sucias_.end()) {
         sucias_.push_back(vista);
@@ -48,14 +44,13 @@ void Escritorio::Pintar() {
     if (pintando_) {
         return;
     }
-    pintando_ = true;
+    const QScopedValueRollback<bool> pintando(pintando_, true);
     while (!sucias_.empty()) {
         Vista* vista = sucias_.front();
         sucias_.erase(sucias_.begin());
         vista->Actualizar();
     }
     DarFoco();
-    pintando_ = false;
 }
 
 /// The widget of the control that has the focus has it too. Hiding a widget makes the toolkit choose another one, so
@@ -86,8 +81,7 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
 }
 
 void Escritorio::MostrarError(const ErrorEjecucion& error) {
-    MsgBox("Se produjo el error " + std::to_string(error.Numero()) +
-               ":\n\n" + error.Texto() +
+    MsgBox("Se produjo el error " + std::to_string(error.Numero()) + ":\n\n" + error.Texto() +
                "\n\nLa operación se detuvo en ese punto. Los datos escritos se conservan.",
            kIconoError, "Error en tiempo de ejecución");
 }
@@ -148,8 +142,8 @@ void Escritorio::MenuEmergente(Menu& menu) {
 }
 
 void Escritorio::ImprimirForma(Formulario& forma) {
-    if (Ventana* ventana = VentanaDe(forma)) {
-        ImprimirImagen(*this, *ventana);
+    if (const auto hallada = ventanas_.find(&forma); hallada != ventanas_.end()) {
+        ImprimirImagen(*this, *hallada->second);
     }
 }
 
@@ -232,7 +226,8 @@ void Escritorio::GuardarAjuste(const std::string& clave, const std::string& valo
 
 std::string Escritorio::CarpetaInstalacion() const {
     const QDir programa(QCoreApplication::applicationDirPath());
-    // An installed program keeps its files in share/; one that runs from its build folder finds them in the source tree.
+    // An installed program keeps its files in share/; one that runs from its build folder finds them in the source
+    // tree.
     for (const char* lugar : {"../share/cuencalia", "../../..", ".."}) {
         if (programa.exists(QLatin1String(lugar) + QStringLiteral("/ayuda"))) {
             return Std(QDir::cleanPath(programa.filePath(QLatin1String(lugar))));

@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QScopedValueRollback>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vistas.h"
@@ -25,26 +26,28 @@ class VistaCombo : public Vista {
 
   protected:
     void Mostrar() override {
-        mostrando_ = true;
-        if (widget_->count() != static_cast<int>(combo_.List().size())) {
+        const QScopedValueRollback<bool> mostrando(mostrando_, true);
+        if (mostrada_ != combo_.List()) {
+            mostrada_ = combo_.List();
             widget_->clear();
-            for (const std::string& entrada : combo_.List()) {
+            for (const std::string& entrada : mostrada_) {
                 widget_->addItem(Q(entrada));
             }
         }
         if (combo_.Editable) {
             if (widget_->currentText() != Q(combo_.Text)) {
+                widget_->setCurrentIndex(combo_.ListIndex());  // where the arrow keys go on from
                 widget_->setEditText(Q(combo_.Text));
             }
         } else {
             widget_->setCurrentIndex(combo_.ListIndex());
         }
-        mostrando_ = false;
     }
 
   private:
     ComboBox& combo_;
     QComboBox* widget_;
+    std::vector<std::string> mostrada_;  ///< The list as the widget has it.
     bool mostrando_ = false;
 };
 

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
 #include <numeric>
@@ -266,7 +267,7 @@ void VistaGrid::MostrarDesplazamiento() {
 }
 
 void VistaGrid::Mostrar() {
-    mostrando_ = true;
+    const QScopedValueRollback<bool> mostrando(mostrando_, true);
     const bool reiniciado = modelo_->PonerAlDia();
     if (reiniciado) {
         anchos_.clear();
@@ -292,7 +293,6 @@ void VistaGrid::Mostrar() {
     tabla_->viewport()->update();
     tabla_->verticalHeader()->viewport()->update();
     tabla_->horizontalHeader()->viewport()->update();
-    mostrando_ = false;
 }
 
 bool VistaGrid::Tecla(QKeyEvent& evento) {

@@ -1,5 +1,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QTableView>
 
 #include "escritorio/escritorio.h"
@@ -29,7 +30,7 @@ class VistaTexto : public Vista {
 
   protected:
     void Mostrar() override {
-        mostrando_ = true;
+        const QScopedValueRollback<bool> mostrando(mostrando_, true);
         linea_->setReadOnly(caja_.Locked);
         const QString texto = Q(caja_.Text);
         if (linea_->text() != texto) {
@@ -50,7 +51,6 @@ class VistaTexto : public Vista {
             linea_->setGeometry(vista->CeldaActual());
             linea_->raise();
         }
-        mostrando_ = false;
     }
 
     /// Characters go through the control's own filter; moving and marking with Shift or Control stay the widget's.
