@@ -21,8 +21,6 @@ class Escritorio : public Plataforma {
     ~Escritorio() override;
 
     Aplicacion& App() { return *app_; }
-    /// The window of a loaded form, or null.
-    Ventana* VentanaDe(const Formulario& forma) const;
 
     /// A view to bring up to date when the event that changed its control has ended.
     void Ensuciar(Vista* vista);

@@ -17,13 +17,13 @@ namespace cuencalia::estilo {
 namespace {
 
 struct Colores {
-    QRgb ventana, base, alterna, texto, tenue, linea, encabezado, entrada, acento, sobreAcento, boton, botonLuz;
+    QRgb ventana, base, alterna, texto, tenue, linea, encabezado, acento, sobreAcento, boton, botonLuz;
 };
 
-constexpr Colores kClaro{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff5b6876, 0xffc9d1da, 0xffe6ebf1,
-                         0xfffff8e6, 0xff2f6db5, 0xffffffff, 0xfffbfcfd, 0xffe3edf8};
-constexpr Colores kOscuro{0xff20252b, 0xff191d22, 0xff1e2328, 0xffe4e9ee, 0xffa3afbb, 0xff3d4650, 0xff2b323a,
-                          0xff33301f, 0xff356fb5, 0xffffffff, 0xff2b323a, 0xff35424f};
+constexpr Colores kClaro{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff5b6876, 0xffc9d1da,
+                         0xffe6ebf1, 0xff2f6db5, 0xffffffff, 0xfffbfcfd, 0xffe3edf8};
+constexpr Colores kOscuro{0xff20252b, 0xff191d22, 0xff1e2328, 0xffe4e9ee, 0xffa3afbb, 0xff3d4650,
+                          0xff2b323a, 0xff356fb5, 0xffffffff, 0xff2b323a, 0xff35424f};
 
 Colores colores = kClaro;
 
@@ -64,7 +64,6 @@ QToolButton:focus, QPushButton:focus { border: 2px solid @acento; padding: 4px 5
 QToolButton:disabled, QPushButton:disabled { color: @tenue; background: transparent; }
 QGroupBox { border: 1px solid @linea; border-radius: 6px; margin-top: 9px; padding: 6px 4px 2px 4px; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: @tenue; }
-QGroupBox[sinTitulo="true"] { margin-top: 9px; }
 QLineEdit, QComboBox {
     background: @base; color: @texto; border: 1px solid @linea; border-radius: 4px; padding: 3px 6px;
     selection-background-color: @acento; selection-color: @sobre;
@@ -76,7 +75,6 @@ QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea
     selection-background-color: @luz; selection-color: @texto; }
 QTableView:focus { border: 1px solid @acento; }
 QTableView[lectura="true"]:!focus { selection-background-color: @base; }
-QTableView[sinBorde="true"] { border: none; border-top: 1px solid @linea; border-left: 1px solid @linea; }
 QHeaderView { background: @encabezado; }
 QHeaderView::section { background: @encabezado; color: @texto; border: none; border-right: 1px solid @linea;
     border-bottom: 1px solid @linea; padding: 1px 6px; }
@@ -104,8 +102,8 @@ QMenu::separator { height: 1px; background: @linea; margin: 4px 8px; }
 QToolTip { background: @base; color: @texto; border: 1px solid @linea; padding: 3px; }
 )");
     const std::pair<const char*, QRgb> nombres[] = {
-        {"@ventana", colores.ventana}, {"@base", colores.base},   {"@encabezado", colores.encabezado},
-        {"@texto", colores.texto},     {"@tenue", colores.tenue}, {"@linea", colores.linea},
+        {"@ventana", colores.ventana}, {"@base", colores.base},         {"@encabezado", colores.encabezado},
+        {"@texto", colores.texto},     {"@tenue", colores.tenue},       {"@linea", colores.linea},
         {"@acento", colores.acento},   {"@sobre", colores.sobreAcento}, {"@boton", colores.boton},
         {"@luz", colores.botonLuz}};
     for (const auto& [nombre, color] : nombres) {
@@ -161,12 +159,10 @@ void Aplicar(QApplication& app, Esquema esquema) {
     app.setStyleSheet(Hoja());
 }
 
-QColor FondoEncabezado() { return colores.encabezado; }
-QColor FondoEntrada() { return colores.entrada; }
 QColor Linea() { return colores.linea; }
 QColor TextoTenue() { return colores.tenue; }
 
-int Pixeles(int twips) { return twips / 15; }
+int Pixeles(int twips) { return static_cast<int>(twips / kTwipsPorPixel); }
 
 QIcon Icono(const QString& nombre) {
     static QHash<QString, QIcon> iconos;
@@ -174,7 +170,8 @@ QIcon Icono(const QString& nombre) {
     if (hallado != iconos.constEnd()) {
         return *hallado;
     }
-    const QIcon icono = nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
+    const QIcon icono =
+        nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
     iconos.insert(nombre, icono);
     return icono;
 }

@@ -24,12 +24,11 @@ enum class Esquema { Claro, Oscuro };
 void Aplicar(QApplication& app);
 void Aplicar(QApplication& app, Esquema esquema);
 
-QColor FondoEncabezado();  ///< Of fixed cells and headings.
-QColor FondoEntrada();     ///< Of the entry row of a data grid.
-QColor Linea();            ///< Grid lines and borders.
-QColor TextoTenue();       ///< Notes.
+QColor Linea();       ///< Grid lines and borders.
+QColor TextoTenue();  ///< Notes.
 
-/// Pixels of a length in twips (1/1440 inch) at 96 pixels an inch; the screen's own scale comes on top.
+inline constexpr double kTwipsPorPixel = 15;  ///< 1440 twips and 96 pixels make an inch.
+/// Pixels of a length in twips; the screen's own scale comes on top.
 int Pixeles(int twips);
 
 /// A picture of the program by its name, sharp at any size; an empty icon when there is none.

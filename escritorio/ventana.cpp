@@ -62,11 +62,11 @@ class VistaFormulario : public Vista {
     std::string titulo_;
 };
 
-/// A status bar at the foot of a window is its lower margin.
-bool TieneBarraDeEstado(const Formulario& forma) {
+template <typename Clase>
+bool Tiene(const Formulario& forma) {
     const auto controles = EnOrden(forma.Distribucion());
     return std::any_of(controles.begin(), controles.end(),
-                       [](const Control* c) { return dynamic_cast<const StatusBar*>(c) != nullptr; });
+                       [](const Control* c) { return dynamic_cast<const Clase*>(c) != nullptr; });
 }
 
 /// A menu entry shows whether it is greyed.
@@ -111,9 +111,8 @@ void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo) {
         QAction* accion = nullptr;
         if (entrada->Entradas().empty()) {
             accion = menu.addAction(QString());
-            QObject::connect(accion, &QAction::triggered, accion, [&escritorio, entrada] {
-                escritorio.App().Despachar([entrada] { entrada->Elegir(); });
-            });
+            QObject::connect(accion, &QAction::triggered, accion,
+                             [&escritorio, entrada] { escritorio.App().Despachar([entrada] { entrada->Elegir(); }); });
         } else {
             QMenu* submenu = menu.addMenu(QString());
             LlenarMenu(escritorio, *submenu, *entrada);
@@ -139,7 +138,8 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     }
     if (!lienzo->fondo.isEmpty()) {
         caja->setContentsMargins(36, 30, 28, 28);
-    } else if (!TieneBarraDeEstado(forma)) {
+    } else if (!Tiene<StatusBar>(forma)) {
+        // A status bar at the foot of a window is its lower margin.
         caja->setContentsMargins(estilo::kMargen, estilo::kMargen, estilo::kMargen, estilo::kMargen);
     }
     if (forma.Padre() != nullptr) {
@@ -168,14 +168,10 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
         interior->invalidate();
     }
     const QSize pantalla = screen()->availableSize();
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(EsModulo() ? QSize(940, 720) : QSize(0, 0)) : QSize(960, 580);
+    // A window with grids opens with room for them.
+    const QSize deModulo = Tiene<FlexGrid>(forma) ? QSize(940, 720) : QSize(0, 0);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(960, 580);
     resize(propio.boundedTo(pantalla));
-}
-
-bool Ventana::EsModulo() const {
-    const auto controles = EnOrden(forma_->Distribucion());
-    return std::any_of(controles.begin(), controles.end(),
-                       [](const Control* c) { return dynamic_cast<const FlexGrid*>(c) != nullptr; });
 }
 
 QWidget* Ventana::Marco() {

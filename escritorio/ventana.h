@@ -32,8 +32,6 @@ class Ventana : public QMainWindow {
     void closeEvent(QCloseEvent* evento) override;
 
   private:
-    /// A window with grids opens with room for them.
-    bool EsModulo() const;
     void HacerMenus();
     /// Puts the controls of the tree into the layout.
     void Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre);

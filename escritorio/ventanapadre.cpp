@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
 #include "escritorio/vista.h"
 #include "frame/controles/aplicacion.h"
 
@@ -22,14 +23,13 @@ namespace cuencalia {
 
 namespace {
 
-constexpr double kTwipsPorPixel = 15;
 constexpr int kMiradaAlReloj = 5000;  // ms
 const QSize kMinimo(320, 240);        // the menus, some lines and the status bar
 
 /// A setting may hold any number.
 int EnPixeles(double twips) {
     constexpr double kLimite = 1e5;
-    return static_cast<int>(std::clamp(twips / kTwipsPorPixel, -kLimite, kLimite));
+    return static_cast<int>(std::clamp(twips / estilo::kTwipsPorPixel, -kLimite, kLimite));
 }
 
 QScreen* PantallaDe(const QRect& lugar) {
@@ -132,7 +132,7 @@ void VentanaPadre::DecirLugar() {
         for (const auto& [propiedad, pixeles] : lugar) {
             // A length that the screen shows already keeps its fraction of a pixel.
             if (EnPixeles(*propiedad) != pixeles) {
-                *propiedad = pixeles * kTwipsPorPixel;
+                *propiedad = pixeles * estilo::kTwipsPorPixel;
             }
         }
     });

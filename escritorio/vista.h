@@ -27,7 +27,6 @@ class Vista : public QObject, public VistaControl {
     Vista(Escritorio& escritorio, Control& control, QWidget* widget);
     ~Vista() override;
 
-    Control& Modelo() const { return *control_; }
     QWidget* Widget() const { return widget_; }
     /// The window is closing: the control may go before the widget does.
     void Soltar();

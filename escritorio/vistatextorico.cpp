@@ -10,23 +10,23 @@
 #include <cmath>
 
 #include "escritorio/escritorio.h"
+#include "escritorio/estilo.h"
 #include "frame/reportes/rtf.h"
 
 namespace cuencalia {
 
 namespace {
 
-constexpr double kTwipsPorPixel = 15;  // 1440 twips and 96 pixels make an inch
-constexpr int kPasoTabulador = 720;    // twips; half an inch, the default of RTF
-constexpr int kMargen = 6;             // pixels between the edge of the sheet and the text
+constexpr int kPasoTabulador = 720;  // twips; half an inch, the default of RTF
+constexpr int kMargen = 6;           // pixels between the edge of the sheet and the text
 
 /// The colour that the text has in the file, where the screen shows another one.
 constexpr int kColorPropio = QTextFormat::UserProperty;
 
 constexpr const char* kTiposRtf[] = {"text/rtf", "application/rtf"};
 
-double EnPixeles(int twips) { return twips / kTwipsPorPixel; }
-int EnTwips(double pixeles) { return static_cast<int>(std::lround(pixeles * kTwipsPorPixel)); }
+double EnPixeles(int twips) { return twips / estilo::kTwipsPorPixel; }
+int EnTwips(double pixeles) { return static_cast<int>(std::lround(pixeles * estilo::kTwipsPorPixel)); }
 
 /// Fonts for a name: the report's own font has stand-ins of one width for all characters, or its tables of dashes and
 /// blanks would not line up.

@@ -206,8 +206,6 @@ TEST_F(Aspecto, TextIsLegibleInBothSchemes) {
         EXPECT_GE(Contraste(p.color(QPalette::WindowText), p.color(QPalette::Window)), kMinimo);
         EXPECT_GE(Contraste(p.color(QPalette::Text), p.color(QPalette::Base)), kMinimo);
         EXPECT_GE(Contraste(p.color(QPalette::Text), p.color(QPalette::AlternateBase)), kMinimo);
-        EXPECT_GE(Contraste(p.color(QPalette::Text), estilo::FondoEntrada()), kMinimo);
-        EXPECT_GE(Contraste(p.color(QPalette::Text), estilo::FondoEncabezado()), kMinimo);
         EXPECT_GE(Contraste(p.color(QPalette::ButtonText), p.color(QPalette::Button)), kMinimo);
         EXPECT_GE(Contraste(p.color(QPalette::HighlightedText), p.color(QPalette::Highlight)), kMinimo);
         EXPECT_GE(Contraste(p.color(QPalette::ToolTipText), p.color(QPalette::ToolTipBase)), kMinimo);
