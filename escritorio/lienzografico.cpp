@@ -243,7 +243,9 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     trazo->setPen(pluma);
     trazo->setLineStyle(sueltos ? QCPCurve::lsNone : QCPCurve::lsLine);
     if (!area) {
-        trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), QBrush(tinta.papel), kLadoSimbolo});
+        // On a line the symbol stands clear of it; a lone one must not hide another set's at the same place.
+        const QBrush dentro = sueltos ? QBrush(Qt::NoBrush) : QBrush(tinta.papel);
+        trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), dentro, kLadoSimbolo});
         trazo->setScatterSkip(sueltos || n <= kSimbolosTodos ? 0 : n / kSimbolosPorLinea);
     }
     trazos_.push_back(trazo);
