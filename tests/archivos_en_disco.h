@@ -30,6 +30,9 @@ class CarpetaTemporal {
 
     /// Path of a file in the folder.
     std::string operator/(const std::string& nombre) const { return (ruta_ / nombre).string(); }
+    std::size_t Archivos() const {
+        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(ruta_), {}));
+    }
 
   private:
     std::filesystem::path ruta_;

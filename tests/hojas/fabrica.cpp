@@ -3,15 +3,17 @@
 #include <gsf/gsf.h>
 
 #include <bit>
-#include <fstream>
-#include <iterator>
+
+#include "tests/archivos_en_disco.h"
 
 namespace cuencalia::pruebas {
 
 namespace {
 
+std::span<const std::byte> EnBytes(const std::string& texto) { return std::as_bytes(std::span(texto)); }
+
 // Writes the parts with the library's own container, folder by folder as the names say.
-Bytes Empacar(GsfOutput* memoria, GsfOutfile* raiz, const Partes& partes) {
+std::string Empacar(GsfOutput* memoria, GsfOutfile* raiz, const Partes& partes) {
     for (const auto& [nombre, contenido] : partes) {
         std::vector<GsfOutput*> abiertos;
         GsfOutfile* carpeta = raiz;
@@ -30,8 +32,8 @@ Bytes Empacar(GsfOutput* memoria, GsfOutfile* raiz, const Partes& partes) {
     }
     gsf_output_close(GSF_OUTPUT(raiz));
     g_object_unref(raiz);
-    const auto* datos = reinterpret_cast<const std::byte*>(gsf_output_memory_get_bytes(GSF_OUTPUT_MEMORY(memoria)));
-    Bytes bytes(datos, datos + gsf_output_size(memoria));
+    const auto* datos = reinterpret_cast<const char*>(gsf_output_memory_get_bytes(GSF_OUTPUT_MEMORY(memoria)));
+    const std::string bytes(datos, static_cast<std::size_t>(gsf_output_size(memoria)));
     g_object_unref(memoria);
     return bytes;
 }
@@ -39,89 +41,76 @@ Bytes Empacar(GsfOutput* memoria, GsfOutfile* raiz, const Partes& partes) {
 }  // namespace
 
 Filas Tabla(const Hoja& hoja, int columnas) {
-    Filas filas;
+    Filas filas(static_cast<std::size_t>(hoja.Filas()));
     for (int i = 1; i <= hoja.Filas(); ++i) {
-        auto& fila = filas.emplace_back();
         for (int j = 1; j <= columnas; ++j) {
-            fila.push_back(hoja.Cells(i, j));
+            filas[static_cast<std::size_t>(i - 1)].push_back(hoja.Cells(i, j));
         }
     }
     return filas;
 }
 
-Filas Leer(const Bytes& libro, int columnas, int filasMax) {
-    return Tabla(LeerLibro(libro, columnas, filasMax), columnas);
+Filas Leer(const std::string& libro, int columnas, int filasMax) {
+    return Tabla(LeerLibro(EnBytes(libro), columnas, filasMax), columnas);
 }
 
-std::string Rechazo(const Bytes& libro, int filasMax) {
+std::string Rechazo(const std::string& libro) {
     try {
-        LeerLibro(libro, 4, filasMax);
+        LeerLibro(EnBytes(libro), 4, 1501);
         return "";
     } catch (const ErrorEjecucion& error) {
         return error.Numero() == kErrorLibro ? error.Texto() : "otro error: " + error.Texto();
     }
 }
 
-std::string RutaDeDatos(const std::string& nombre) { return std::string(CUENCALIA_DATOS_HOJAS) + "/" + nombre; }
+std::string Dato(const std::string& nombre) { return BytesDe(std::string(CUENCALIA_DATOS_HOJAS) + "/" + nombre); }
 
-Bytes BytesDeArchivo(const std::string& ruta) {
-    std::ifstream archivo(ruta, std::ios::binary);
-    const std::string texto(std::istreambuf_iterator<char>(archivo), {});
-    const auto bytes = std::as_bytes(std::span(texto));
-    return {bytes.begin(), bytes.end()};
-}
-
-Bytes Zip(const Partes& partes) {
+std::string Zip(const Partes& partes) {
     GsfOutput* memoria = gsf_output_memory_new();
     return Empacar(memoria, gsf_outfile_zip_new(memoria, nullptr), partes);
 }
 
-Bytes Ole(const Partes& flujos) {
+std::string Ole(const Partes& flujos) {
     GsfOutput* memoria = gsf_output_memory_new();
     return Empacar(memoria, gsf_outfile_msole_new(memoria), flujos);
 }
 
 Partes PaqueteCon(const std::string& filas, const std::string& textos) {
     const std::string tipos = "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
-    const std::string relaciones =
-        "<Relationships xmlns='http://schemas.openxmlformats.org/package/2006/relationships'>";
     const std::string vocabulario = "xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'";
-    Partes partes;
-    partes["_rels/.rels"] = relaciones + "<Relationship Id='a' Type='" + tipos +
-                            "/officeDocument' Target='xl/workbook.xml'/></Relationships>";
-    partes["xl/_rels/workbook.xml.rels"] = relaciones + "<Relationship Id='h' Type='" + tipos +
-                                           "/worksheet' Target='hoja.xml'/>" + "<Relationship Id='t' Type='" + tipos +
-                                           "/sharedStrings' Target='textos.xml'/></Relationships>";
-    partes["xl/workbook.xml"] = "<workbook " + vocabulario + " xmlns:r='" + tipos +
-                                "'><sheets><sheet name='H' sheetId='1' r:id='h'/></sheets></workbook>";
-    partes["xl/hoja.xml"] = "<worksheet " + vocabulario + "><sheetData>" + filas + "</sheetData></worksheet>";
-    partes["xl/textos.xml"] = "<sst " + vocabulario + ">" + textos + "</sst>";
-    return partes;
+    const auto relacion = [&](const std::string& id, const std::string& tipo, const std::string& parte) {
+        return "<Relationship Id='" + id + "' Type='" + tipos + "/" + tipo + "' Target='" + parte + "'/>";
+    };
+    const auto relaciones = [](const std::string& todas) {
+        return "<Relationships xmlns='http://schemas.openxmlformats.org/package/2006/relationships'>" + todas +
+               "</Relationships>";
+    };
+    return {{"_rels/.rels", relaciones(relacion("a", "officeDocument", "xl/workbook.xml"))},
+            {"xl/_rels/workbook.xml.rels",
+             relaciones(relacion("h", "worksheet", "hoja.xml") + relacion("t", "sharedStrings", "textos.xml"))},
+            {"xl/workbook.xml", "<workbook " + vocabulario + " xmlns:r='" + tipos +
+                                    "'><sheets><sheet name='H' sheetId='1' r:id='h'/></sheets></workbook>"},
+            {"xl/hoja.xml", "<worksheet " + vocabulario + "><sheetData>" + filas + "</sheetData></worksheet>"},
+            {"xl/textos.xml", "<sst " + vocabulario + ">" + textos + "</sst>"}};
 }
 
-Bytes LibroCon(const std::string& filas, const std::string& textos) { return Zip(PaqueteCon(filas, textos)); }
-
-Flujo& Flujo::Registro(std::uint16_t tipo, const std::string& datos) {
-    bytes_ += U16(tipo) + U16(static_cast<unsigned>(datos.size())) + datos;
-    return *this;
+std::string Registro(unsigned tipo, const std::string& datos) {
+    return U16(tipo) + U16(static_cast<unsigned>(datos.size())) + datos;
 }
 
-Flujo& Flujo::Inicio(std::uint16_t clase) { return Registro(0x0809, U16(version_) + U16(clase) + U32(0)); }
+std::string Inicio(unsigned clase, unsigned version) { return Registro(0x0809, U16(version) + U16(clase) + U32(0)); }
 
-Flujo& Flujo::Declarar(std::uint8_t clase) {
-    constexpr std::size_t kCabecera = 4;
-    lugares_.push_back(bytes_.size() + kCabecera);
-    return Registro(0x0085, U32(0) + '\0' + static_cast<char>(clase) + '\1' + (version_ == 0x0600 ? "\0H" : "H"));
-}
-
-Flujo& Flujo::Empezar(std::size_t hoja, std::uint16_t clase) {
-    bytes_.replace(lugares_.at(hoja), 4, U32(static_cast<std::uint32_t>(bytes_.size())));
-    return Inicio(clase);
-}
-
-Bytes Flujo::Crudo() const {
-    const auto bytes = std::as_bytes(std::span(bytes_));
-    return {bytes.begin(), bytes.end()};
+std::string LibroBiff(const std::vector<HojaBiff>& hojas, const std::string& globales, unsigned version) {
+    std::string declaradas, flujos;
+    std::size_t lugar =
+        Inicio(5, version).size() + hojas.size() * Registro(0x0085, "123456").size() + globales.size() + kFin.size();
+    for (auto hoja = hojas.rbegin(); hoja != hojas.rend(); ++hoja) {
+        const std::string flujo = Inicio(hoja->clase == 0 ? 0x0010 : 0x0020, version) + hoja->registros + kFin;
+        declaradas.insert(0, Registro(0x0085, U32(static_cast<std::uint32_t>(lugar)) + '\0' + hoja->clase));
+        lugar += flujo.size();
+        flujos += flujo;
+    }
+    return Inicio(5, version) + declaradas + globales + kFin + flujos;
 }
 
 std::string U16(unsigned valor) { return {static_cast<char>(valor & 0xFF), static_cast<char>(valor >> 8 & 0xFF)}; }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -10,55 +9,49 @@
 
 namespace cuencalia::pruebas {
 
-using Bytes = std::vector<std::byte>;
+/// The data rows of a sheet.
 using Filas = std::vector<std::vector<ValorCelda>>;
 
 inline const ValorCelda kVacia;
+inline const Filas kUno = {{Double(1)}};
 
-/// The data rows of a sheet as a table of `columnas` columns.
+inline const std::string kDanado = "El libro de Excel está dañado o incompleto";
+inline const std::string kProtegido = "El libro de Excel está protegido con contraseña";
+inline const std::string kNoEsLibro = "El archivo no es un libro de Excel (.xls o .xlsx)";
+inline const std::string kSinHojas = "El libro de Excel no tiene ninguna hoja de cálculo";
+
 Filas Tabla(const Hoja& hoja, int columnas);
-/// What LeerLibro gives for the file, as a table.
-Filas Leer(const Bytes& libro, int columnas, int filasMax = 1501);
+/// What LeerLibro gives for a file of these bytes.
+Filas Leer(const std::string& libro, int columnas, int filasMax = 1501);
 /// The text of the error 1004 that reading raises; empty when it raises none.
-std::string Rechazo(const Bytes& libro, int filasMax = 1501);
+std::string Rechazo(const std::string& libro);
+/// A workbook that another program wrote.
+std::string Dato(const std::string& nombre);
 
-std::string RutaDeDatos(const std::string& nombre);
-Bytes BytesDeArchivo(const std::string& ruta);
-
+/// Contents by name; folders in the names end with '/'.
 using Partes = std::map<std::string, std::string>;
-Bytes Zip(const Partes& partes);
-Bytes Ole(const Partes& flujos);
+std::string Zip(const Partes& partes);
+std::string Ole(const Partes& flujos);
 
 /// A package with the given rows (XML within sheetData) and items of the table of texts (XML within sst).
 Partes PaqueteCon(const std::string& filas, const std::string& textos = "");
-Bytes LibroCon(const std::string& filas, const std::string& textos = "");
+inline std::string LibroCon(const std::string& filas, const std::string& textos = "") {
+    return Zip(PaqueteCon(filas, textos));
+}
 
-/// A stream of BIFF records, written field by field.
-class Flujo {
-  public:
-    explicit Flujo(std::uint16_t version) : version_(version) {}
+/// A BIFF record.
+std::string Registro(unsigned tipo, const std::string& datos);
+/// The first and the last record of a part of the stream of records.
+std::string Inicio(unsigned clase, unsigned version);
+inline const std::string kFin = Registro(0x000A, "");
 
-    /// Appends a record whose data are the bytes of `datos`.
-    Flujo& Registro(std::uint16_t tipo, const std::string& datos);
-    Flujo& Inicio(std::uint16_t clase);
-    /// Appends the records of another stream.
-    Flujo& Agregar(const Flujo& otro) {
-        bytes_ += otro.bytes_;
-        return *this;
-    }
-    Flujo& Fin() { return Registro(0x000A, ""); }
-    /// A sheet of the workbook, whose substream must be begun by `Empezar` with the same number, from 0.
-    Flujo& Declarar(std::uint8_t clase);
-    Flujo& Empezar(std::size_t hoja, std::uint16_t clase);
-
-    const std::string& Datos() const { return bytes_; }
-    Bytes Crudo() const;
-
-  private:
-    std::uint16_t version_;
-    std::string bytes_;
-    std::vector<std::size_t> lugares_;  // of the positions of the sheets
+/// What a workbook declares about a sheet (0: cells, others: charts, macros), and its records.
+struct HojaBiff {
+    char clase;
+    std::string registros;
 };
+/// A bare stream of records: what the workbook says, then the sheets, the last one first.
+std::string LibroBiff(const std::vector<HojaBiff>& hojas, const std::string& globales = "", unsigned version = 0x0600);
 
 /// Little-endian fields.
 std::string U16(unsigned valor);
