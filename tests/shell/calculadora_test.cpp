@@ -87,11 +87,11 @@ TEST_F(CalculadoraTest, Operaciones) {
         "16 mod 5 = → 1.; -16 mod 5 = → -1.; 16.5 mod 5 = → 1.; 17.5 mod 5 = → 3.; 2.7 int → 2.; -2.5 int → -3.;"
         "2 √ → 1.4142135623731; -8 1/x → -0.125; -3 x³ → -27.; 1.5 x² → 2.25; 3 x² x² → 81.; 27 ∛ → 3.");
     // In a chain. The root waits for the sum; the second operand is 0 until it is typed; the sign key takes what is on
-    // the display, 6 - (-6).
+    // the display, 6 - (-6). What is reckoned on with is the 15 digits shown, 3 × 0.333333333333333.
     Comprobar(
         "2 + 3 × → 5.; 2 + 3 × 4 = → 20.; 7 + 2 √ → 3.; 2 + 3 = × 4 = → 20.; 2 + 3 = 7 × 2 = → 14.; 2 + 3 = = → 5.;"
         "9 √ = → 3.; 5 + = → 5.; 5 + 7 + = → 12.; 5 + 7 = × = → .0; 6 − ± = → 12.; 2 + 30 sin = → 2.5;"
-        "1 ÷ 2 = sin-1 → 30.; 30 sin 7 → 7.; pi × 2 = → 6.28318530717958");
+        "1 ÷ 2 = sin-1 → 30.; 30 sin 7 → 7.; pi × 2 = → 6.28318530717958; 1 ÷ 3 = × 3 = → 0.999999999999999");
 }
 
 TEST_F(CalculadoraTest, EntradaYLimpieza) {
@@ -103,7 +103,7 @@ TEST_F(CalculadoraTest, EntradaYLimpieza) {
     // CE takes back the number typed last, then the operation.
     Comprobar(
         "2 + 3 C 7 = → 7.; 2 + 7 CE → .0; 2 + 7 CE 3 = → 5.; 2 + 7 CE CE → 2.; 2 + 7 CE CE 9 = → 9.; 2 + CE = → 2.;"
-        "5 CE → .0; 2 + 3 = CE → .0");
+        "5 CE → .0; 2 + 3 = CE → .0; 5 C → .0; 2 + 3 C → .0");
     for (const auto& [teclas, tag] : {std::pair{"5.", "5."}, {"0", ""}, {"2 + 3", "3"}, {"2 +", ""}, {"2 + 3 =", ""}}) {
         Tras(teclas);
         EXPECT_EQ(F().BBCalc1.PicDisplay.Tag(), tag) << teclas;
@@ -111,12 +111,13 @@ TEST_F(CalculadoraTest, EntradaYLimpieza) {
 }
 
 TEST_F(CalculadoraTest, Fallos) {
-    // Divisions by 0 (0.4 rounds to it), powers that are not real, numbers beyond a Long or a Double; the fault of an
-    // operation that waited cancels the new one as well.
+    // Divisions by 0 (0.4 rounds to it), powers that are not real, numbers beyond a Long or a Double, or written in 15
+    // digits as one beyond it (1.7976931348623156E+308 as …232E+308); the fault of an operation that waited cancels the
+    // new one as well.
     for (const std::string& teclas :
          Partes("5 ÷ 0 =; 5 ÷ =; 0 ÷ 0 =; 5 % 0 =; 0 1/x; 2 ⁿ√ 0 =; 5 mod 0.4 =; -1 √; -8 ∛; -2 x^y 0.5 =; -8 ⁿ√ 3 =;"
                 "0 x^y -1 =; -1 sin-1; -1 cos-1; 3000000000 mod 7 =; 3000000000 sin; 10 x^y 400 =; 10 x^y 308 × 10 =;"
-                "5 ÷ 0 +; 5 ÷ 0 1/x")) {
+                "10 x^y 306 × 9.98718408256842 × 18 =; 5 ÷ 0 +; 5 ÷ 0 1/x")) {
         ComprobarFallo(teclas);
     }
     // 9E+307 fits in a Double; twice as much is above its largest, 1.7977E+308. The memory stays as it was.
@@ -129,7 +130,7 @@ TEST_F(CalculadoraTest, Trigonometria) {
     constexpr double kTolerancia = 5e-15;
     // Degrees lose their sign, go round after 360 and become whole: sin 31°, and the even 30 for 30.5.
     Comprobar(
-        "-30 sin → 0.5; 390 sin → 0.5; 30.7 sin → 0.515038074910054; 30.5 sin → 0.5; 60 cos → 0.5; -120 cos → -0.5;"
+        "-30 sin → 0.5; 570 sin → -0.5; 30.7 sin → 0.515038074910054; 30.5 sin → 0.5; 60 cos → 0.5; -120 cos → -0.5;"
         "-45 tan → 1; -0.5 sin-1 → -30; 0.5 cos-1 → 60; -0.5 cos-1 → 120; -1 tan-1 → -45",
         kTolerancia);
     // The degrees' pi is 3.2E-15 short, so cos 90° is half of it rather than 0 (and not the 6.1E-17 of a full pi).
