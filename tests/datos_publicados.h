@@ -60,11 +60,6 @@ inline double CertificadoNist(const std::string& conjunto, const std::string& pa
     return std::stod(Figura("nist/nist_certificados.csv", conjunto + "," + parametro));
 }
 
-/// Published figure of esperados.csv.
-inline double Publicado(const std::string& conjunto, const std::string& metodo, const std::string& magnitud) {
-    return std::stod(Figura("esperados.csv", conjunto + "," + metodo + "," + magnitud));
-}
-
 /// A series with these values from x(1) on.
 inline Serie EnSerie(const std::vector<double>& valores) {
     Serie x;
