@@ -158,7 +158,6 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->verticalHeader()->setHighlightSections(false);
     tabla_->horizontalHeader()->setHighlightSections(false);
     tabla_->horizontalHeader()->setSectionsClickable(false);
-    tabla_->verticalHeader()->setSectionsClickable(false);
     tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
 
     // The heading of the label column stands in the corner, which a table leaves blank.
@@ -181,7 +180,9 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
             escritorio_.App().Despachar([&] { grid_.DesplazadoPorUsuario(superior); });
         }
     });
-    // A press on a row's label is a press on its row.
+    // A press on a row's label is a press on its row; the widget alone would mark the row.
+    disconnect(tabla_->verticalHeader(), SIGNAL(sectionPressed(int)), tabla_, nullptr);
+    disconnect(tabla_->verticalHeader(), SIGNAL(sectionEntered(int)), tabla_, nullptr);
     connect(tabla_->verticalHeader(), &QHeaderView::sectionPressed, this, [this](int seccion) {
         escritorio_.App().Despachar([&] { grid_.Presionar(kBotonIzquierdo, seccion + grid_.FixedRows(), 0); });
     });
