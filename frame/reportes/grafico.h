@@ -96,7 +96,7 @@ struct DescripcionGrafico {
 /// One data set of a chart; without x its positions are not written.
 struct SerieGrafico {
     std::string leyenda{};
-    std::vector<Double> x, y;
+    std::vector<Double> x{}, y{};
 };
 
 /// Draws the sets and shows the chart. Error 5 for more sets or points than it has room for.
