@@ -143,6 +143,7 @@ TEST(Textos, UtfDanado) {
         EXPECT_EQ(Asc(danado), static_cast<unsigned char>(danado[0]));
         EXPECT_EQ(Subtexto("a" + danado + "b", 1, 1), danado.substr(0, 1));
     }
+    EXPECT_EQ(Asc(std::string_view("€").substr(0, 2)), 0xE2) << "what follows the text is not looked at";
 }
 
 }  // namespace
