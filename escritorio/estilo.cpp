@@ -74,6 +74,7 @@ QLineEdit[flotante="true"] { border: 2px solid @acento; border-radius: 0; paddin
 QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea;
     selection-background-color: @luz; selection-color: @texto; }
 QTableView:focus { border: 1px solid @acento; }
+QTableView[marco="0"] { border: 0px; }
 QTableView[lectura="true"]:!focus { selection-background-color: @base; }
 QHeaderView { background: @encabezado; }
 QHeaderView::section { background: @encabezado; color: @texto; border: none; border-right: 1px solid @linea;

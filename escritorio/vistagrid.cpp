@@ -150,6 +150,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->viewport()->setMouseTracking(true);
     // Only a grid that takes what is typed shows its current cell while the focus is elsewhere.
     tabla_->setProperty("lectura", !grid.KeyPress.Atendido());
+    tabla_->setProperty("marco", grid.BorderStyle());
 
     const int alto = std::max(estilo::Pixeles(grid.RowHeight(grid.Rows() - 1)), tabla_->fontMetrics().height() + 6);
     tabla_->verticalHeader()->setDefaultSectionSize(alto);

@@ -11,6 +11,16 @@ namespace cuencalia {
 
 namespace {
 
+/// Never narrower than its title, which stands beside the border, 10 pixels in and padded by 4.
+class Grupo : public QGroupBox {
+  public:
+    using QGroupBox::QGroupBox;
+
+    QSize minimumSizeHint() const override {
+        return QGroupBox::minimumSizeHint().expandedTo({fontMetrics().horizontalAdvance(title()) + 28, 0});
+    }
+};
+
 class VistaMarco : public Vista {
   public:
     VistaMarco(Escritorio& escritorio, Frame& marco, QGroupBox* grupo)
@@ -62,7 +72,7 @@ class VistaFichas : public Vista {
 }  // namespace
 
 Vista* NuevaVista(Escritorio& escritorio, Frame& marco, QWidget* padre) {
-    return new VistaMarco(escritorio, marco, new QGroupBox(padre));
+    return new VistaMarco(escritorio, marco, new Grupo(padre));
 }
 
 Vista* NuevaVista(Escritorio& escritorio, SSTab& fichas, QWidget* padre) {
