@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "escritorio/estilo.h"
+#include "escritorio/programa.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(Avisar);
     QStandardPaths::setTestModeEnabled(true);
-    QApplication programa(argc, argv);
+    cuencalia::Programa programa(argc, argv);
     QApplication::setApplicationName(QStringLiteral("cuencalia-pruebas"));
     QApplication::setOrganizationName(QStringLiteral("cuencalia-pruebas"));
     // Each test closes its windows; that must not end the next one's message loops.

@@ -1,14 +1,6 @@
 #include "tests/escritorio/mesa.h"
 
-#include <QApplication>
-#include <QDesktopServices>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QTest>
-#include <QWindow>
-#include <algorithm>
-
+#include "escritorio/programa.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {
@@ -16,101 +8,118 @@ namespace cuencalia::pruebas {
 Vigia::Vigia() {
     connect(&reloj_, &QTimer::timeout, this, &Vigia::Mirar);
     reloj_.start(5);
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Abrir");
 }
+
+Vigia::~Vigia() { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
 
 void Vigia::Mirar() {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu != nullptr && emergente) {
+        // What the entry opens must find this timer running.
+        QTimer::singleShot(0, menu, [menu, entrada = *std::exchange(emergente, {})] {
+            const QList<QAction*> acciones = menu->actions();
+            const auto accion = std::find_if(acciones.begin(), acciones.end(),
+                                             [&](const QAction* una) { return una->text() == entrada; });
+            menu->setActiveAction(accion == acciones.end() ? nullptr : *accion);
+            QTest::keyClick(menu, accion == acciones.end() ? Qt::Key_Escape : Qt::Key_Return);
+        });
+    }
     auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialogo == nullptr) {
-        return;
-    }
     if (auto* caja = qobject_cast<QMessageBox*>(dialogo)) {
-        mensajes.push_back({caja->text(), caja->windowTitle(), caja->icon()});
-    } else {
+        mensajes.push_back({caja->text(), caja->windowTitle(), caja->icon(), caja->textFormat()});
+    } else if (dialogo != nullptr) {
         otrosDialogos << dialogo->windowTitle();
+        if (auto* archivo = qobject_cast<QFileDialog*>(dialogo); archivo != nullptr && elegir) {
+            archivo->selectFile(std::exchange(elegir, {})(*archivo));
+            dialogo->accept();
+        }
     }
-    dialogo->reject();
+    if (dialogo != nullptr && dialogo->isVisible()) {
+        dialogo->reject();
+    }
 }
 
-Shell::Shell() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Abrir"); }
+FormaDePrueba::FormaDePrueba(Aplicacion& app) : Formulario(app, "frmPrueba", "Prueba") {
+    cmb2.Editable = false;
+    lbl1.Nombra(txt1);
+    txtt.FlotarSobre(grd1);
+    txtt.Visible = false;
+    grd1.PonerRows(40);
+    grd1.PonerCols(4);
+    for (int i = 0; i < 160; ++i) {
+        grd1.PonerTextMatrix(i / 4, i % 4, std::to_string(i / 4) + "," + std::to_string(i % 4));
+    }
+    for (Control* control : Controles()) {
+        const auto anotar = [this, control](const char* que) {
+            return [this, control, que](auto... dato) {
+                sucesos.push_back(((control->Nombre() + " " + que) + ... + (" " + std::to_string(dato))));
+            };
+        };
+        control->Click.Conectar(anotar("clic"));
+        control->GotFocus.Conectar(anotar("entra"));
+        control->LostFocus.Conectar(anotar("sale"));
+        control->KeyDown.Conectar(anotar("tecla"));
+        control->KeyPress.Conectar(anotar("letra"));
+        control->MouseDown.Conectar(anotar("botón"));
+        control->MouseMove.Conectar([this, control] { punteros.push_back(control->Nombre()); });
+    }
+    MouseMove.Conectar([this] { punteros.push_back(Nombre()); });
+    grd1.MouseDown.Conectar([this](int boton) {
+        if (boton == kBotonDerecho) {
+            App().Sistema().MenuEmergente(mnuFila);
+        }
+    });
+}
 
-Shell::~Shell() { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+Disposicion FormaDePrueba::Disponer() {
+    return Columna({Fila({lbl1, txt1, Grupo(Frame1, {btn1, opt1, opt2}), cmb1, cmb2}),
+                    Fila({Disposicion(grd1).Estira(1), txtt, Fichas(SSTab1, {Columna({txt2}), Columna({txt3})})}),
+                    StatusBar1});
+}
 
-void Mesa::SetUp() { Empezar(FormasDelPrograma()); }
-
-void Mesa::Empezar(TablaFormas formas) {
-    escritorio_.reset();
+Mesa::Mesa(TablaFormas otras) {
+    TablaFormas formas = FormasDelPrograma();
+    formas.merge(otras);
+    formas["frmPrueba"] = [](Aplicacion& app) { return std::make_unique<FormaDePrueba>(app); };
     escritorio_ = std::make_unique<Escritorio>(std::move(formas));
-    escritorio_->App().Despachar([this] { escritorio_->App().ModuloAbrir("frmCuencalia"); });
-    Traer("frmCuencalia");
+    static_cast<Programa*>(qApp)->alFallar = [this](const ErrorEjecucion& error) { escritorio_->MostrarError(error); };
+    Abrir("frmPrueba");
+    F().sucesos.clear();
 }
 
-void Mesa::TearDown() {
+Mesa::~Mesa() {
     escritorio_.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QMainWindow* Mesa::Ventana(const char* forma) {
+void Mesa::Abrir(const char* forma) {
+    Hacer([&] { escritorio_->App().ModuloAbrir(forma); });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
+}
+
+QMainWindow* Mesa::Ventana(const std::string& forma) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
-        auto* ventana = qobject_cast<QMainWindow*>(widget);
-        if (ventana != nullptr && ventana->isVisible() && ventana->objectName() == QStringLiteral("ventana_") + forma) {
-            return ventana;
+        if (widget->isVisible() && widget->objectName() == Q("ventana_" + forma)) {
+            return qobject_cast<QMainWindow*>(widget);
         }
     }
     return nullptr;
 }
 
-int Mesa::VentanasDe(const char* forma) {
-    const QWidgetList ventanas = QApplication::topLevelWidgets();
-    return static_cast<int>(std::count_if(ventanas.begin(), ventanas.end(), [&](const QWidget* ventana) {
-        return ventana->isVisible() && ventana->objectName() == QStringLiteral("ventana_") + forma;
-    }));
-}
-
-QString Mesa::Celda(int fila, int columna, const char* grid) {
-    const QAbstractItemModel& modelo = *Tabla(grid).model();
-    if (columna == 0) {
-        return modelo.headerData(fila - 1, Qt::Vertical).toString();
-    }
-    return modelo.index(fila - 1, columna - 1).data().toString();
-}
-
-bool Mesa::ActualALaVista() {
-    const QTableView& tabla = Tabla();
-    return tabla.viewport()->rect().contains(tabla.visualRect(tabla.currentIndex()));
-}
-
-void Mesa::Traer(const char* forma) {
-    Ventana(forma)->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
-}
-
-void Mesa::ElegirEnBarra(const char* forma, const QString& menu, const QString& entrada) {
-    QMenuBar& barra = *Ventana(forma)->menuBar();
-    for (QAction* enBarra : barra.actions()) {
-        if (enBarra->text() != menu) {
-            continue;
-        }
-        Clic(barra, barra.actionGeometry(enBarra).center());
-        ASSERT_EQ(QApplication::activePopupWidget(), enBarra->menu());
-        for (QAction* accion : enBarra->menu()->actions()) {
-            if (accion->text() == entrada) {
-                Clic(*enBarra->menu(), enBarra->menu()->actionGeometry(accion).center());
-                QCoreApplication::processEvents();
-                return;
-            }
+void Mesa::ElegirEnBarra(const Formulario& forma, const QString& entrada) {
+    for (QAction* accion : Ventana(forma.Nombre())->menuBar()->findChildren<QAction*>()) {
+        if (accion->text() == entrada) {
+            accion->trigger();
+            QCoreApplication::processEvents();
+            return;
         }
     }
-    FAIL() << "no entry " << Std(menu) << " > " << Std(entrada);
+    FAIL() << "no entry " << Std(entrada);
 }
 
 void Mesa::Clic(QWidget& widget, QPoint donde, Qt::MouseButton boton) {
-    QWidget* ventana = widget.window();
-    QTest::mouseClick(ventana->windowHandle(), boton, Qt::NoModifier, widget.mapTo(ventana, donde));
-}
-
-void Mesa::ClicEnCelda(int fila, int columna, const char* grid) {
-    const QTableView& tabla = Tabla(grid);
-    Clic(*tabla.viewport(), tabla.visualRect(tabla.model()->index(fila - 1, columna - 1)).center());
+    QTest::mouseClick(widget.window()->windowHandle(), boton, Qt::NoModifier, widget.mapTo(widget.window(), donde));
 }
 
 void Mesa::Apuntar(QWidget& widget, QPoint donde) {
@@ -118,70 +127,25 @@ void Mesa::Apuntar(QWidget& widget, QPoint donde) {
     QCoreApplication::processEvents();
 }
 
-void Mesa::Tecla(Qt::Key tecla, Qt::KeyboardModifiers con) {
+void Mesa::Rodar(QWidget& widget, int pasos) {
+    const QPointF donde = widget.rect().center();
+    QWheelEvent rueda(donde, widget.mapToGlobal(donde), {}, {0, -120 * pasos}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&widget, &rueda);
+}
+
+void Mesa::Tecla(Qt::Key tecla, Qt::KeyboardModifiers con, const QString& texto) {
     ASSERT_NE(QGuiApplication::focusWindow(), nullptr);
-    QTest::keyClick(QGuiApplication::focusWindow(), tecla, con);
-}
-
-void Mesa::Escribir(const char* texto) {
-    for (; *texto != '\0'; ++texto) {
-        ASSERT_NE(QGuiApplication::focusWindow(), nullptr);
-        QTest::keyClick(QGuiApplication::focusWindow(), *texto);
+    if (texto.isNull()) {
+        QTest::keyClick(QGuiApplication::focusWindow(), tecla, con);
+    } else {
+        QTest::sendKeyEvent(QTest::Click, QGuiApplication::focusWindow(), tecla, texto, con);
     }
 }
 
-void Mesa::EscribirSerie(const std::vector<const char*>& valores) {
-    for (const char* valor : valores) {
-        Escribir(valor);
-        Tecla(Qt::Key_Return);
+void Mesa::Escribir(const std::string& texto) {
+    for (const char letra : texto) {
+        QTest::keyClick(QGuiApplication::focusWindow(), letra);
     }
-}
-
-bool Mesa::ElegirEnFila(int fila, const QString& entrada) {
-    bool elegida = false;
-    QTimer alAbrir;
-    QObject::connect(&alAbrir, &QTimer::timeout, &alAbrir, [&] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (menu == nullptr) {
-            return;
-        }
-        alAbrir.stop();
-        for (QAction* accion : menu->actions()) {
-            if (accion->text() == entrada && accion->isEnabled()) {
-                elegida = true;
-                Clic(*menu, menu->actionGeometry(accion).center());
-            }
-        }
-        menu->close();
-    });
-    alAbrir.start(5);
-    const QTableView& tabla = Tabla();
-    Clic(*tabla.viewport(), tabla.visualRect(tabla.model()->index(fila - 1, 0)).center(), Qt::RightButton);
-    EXPECT_FALSE(alAbrir.isActive()) << "no menu opened";
-    return elegida;
-}
-
-std::vector<QStringList> Mesa::Resultados() {
-    std::vector<QStringList> filas;
-    for (int f = 1; f <= 6; ++f) {
-        filas.push_back({Celda(f, 1, "grdParam"), Celda(f, 2, "grdParam"), Celda(f, 3, "grdParam")});
-    }
-    return filas;
-}
-
-std::vector<QWidget*> Mesa::Enfocables(const char* forma) {
-    std::vector<QWidget*> enfocables;
-    for (QWidget* widget : Ventana(forma)->centralWidget()->findChildren<QWidget*>()) {
-        if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus)) {
-            enfocables.push_back(widget);
-        }
-    }
-    return enfocables;
-}
-
-std::vector<QStringList> ParametrosDe1a5() {
-    return {{"3.0000", "3.0000", "3.0000"}, {"2.5", "2.0", "1.0"},          {"1.5811", "1.4142", "1.0000"},
-            {"0.5270", "0.4714", "0.3333"}, {"0.0000", "0.0000", "0.0000"}, {"5.6667", "1.7000", "0.0000"}};
 }
 
 }  // namespace cuencalia::pruebas

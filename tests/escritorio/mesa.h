@@ -2,40 +2,47 @@
 
 #include <gtest/gtest.h>
 
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMessageBox>
-#include <QTableView>
-#include <QTimer>
-#include <QUrl>
-#include <memory>
-#include <ostream>
-#include <stdexcept>
-#include <vector>
+#include <QtTest>
+#include <QtWidgets>
+#include <functional>
+#include <optional>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vista.h"
+#include "frame/controles/flexgrid.h"
 
 /// How a failed comparison shows a text of the toolkit.
 inline void PrintTo(const QString& texto, std::ostream* salida) { *salida << '"' << texto.toStdString() << '"'; }
 
 namespace cuencalia::pruebas {
 
-struct Mensaje {
-    QString texto, titulo;
-    QMessageBox::Icon icono;
-};
+using Textos = std::vector<std::string>;
 
-/// Reads and closes every dialog that opens, so that none waits for a user that is not there.
+/// Reads and closes whatever opens by itself, so that nothing waits for a user that is not there, and takes the place
+/// of the programs that open files.
 class Vigia : public QObject {
     Q_OBJECT
 
   public:
     Vigia();
+    ~Vigia() override;
 
+    struct Mensaje {
+        QString texto, titulo;
+        QMessageBox::Icon icono;
+        Qt::TextFormat formato;
+    };
     std::vector<Mensaje> mensajes;
     /// Titles of the dialogs that were no message boxes; they are cancelled.
     QStringList otrosDialogos;
+    /// Looks at the next file dialog and names the file to pick in it.
+    std::function<QString(QFileDialog&)> elegir;
+    /// The entry to pick in the next pop-up menu; an empty text closes it.
+    std::optional<QString> emergente;
+    QList<QUrl> abiertos;
+
+  public slots:
+    void Abrir(const QUrl& url) { abiertos << url; }
 
   private:
     void Mirar();
@@ -43,77 +50,65 @@ class Vigia : public QObject {
     QTimer reloj_;
 };
 
-/// Takes the place of the programs that open files.
-class Shell : public QObject {
-    Q_OBJECT
-
+/// A form with a control of each kind that writes down what reaches them: "txt1 letra 97".
+class FormaDePrueba : public Formulario {
   public:
-    Shell();
-    ~Shell() override;
+    explicit FormaDePrueba(Aplicacion& app);
 
-    QList<QUrl> abiertos;
+    TextBox txt1{*this, "txt1", "Caja"}, txtt{*this, "txtt"}, txt2{*this, "txt2"}, txt3{*this, "txt3"};
+    Label lbl1{*this, "lbl1", "&Texto:"};
+    CommandButton btn1{*this, "btn1", "&Botón"};
+    OptionButton opt1{*this, "opt1", "Uno", true}, opt2{*this, "opt2", "Dos"};
+    ComboBox cmb1{*this, "cmb1", {"uno", "dos"}}, cmb2{*this, "cmb2", {"a", "b", "c"}};
+    Frame Frame1{*this, "Frame1", "Marco"};
+    SSTab SSTab1{*this, "SSTab1", {"Una", "Otra"}};
+    FlexGrid grd1{*this, "grd1"};
+    StatusBar StatusBar1{*this, "StatusBar1", 3};
+    Menu mnu1{*this, "mnu1", "&Menú"}, mnuUno{mnu1, "mnuUno", "&Uno"}, mnuDos{mnu1, "mnuDos", "Dos"};
+    Menu mnuFila{*this, "mnuFila", "Fila", false}, mnuBorrar{mnuFila, "mnuBorrar", "Borrar"};
 
-  public slots:
-    void Abrir(const QUrl& url) { abiertos << url; }
+    Textos sucesos;
+    Textos punteros;  ///< The controls that were told of the pointer over them.
+
+  protected:
+    Disposicion Disponer() override;
 };
 
-/// A user at the desk: the program is open at its main menu; mouse and keys go to its windows as they would on a
-/// screen, to whatever widget stands under the pointer or has the focus.
+/// A user at the desk: mouse and keys go to the windows as they would on a screen, to whatever widget stands under the
+/// pointer or has the focus.
 class Mesa : public testing::Test {
   protected:
-    void SetUp() override;
-    void TearDown() override;
+    /// The program's own forms, the form above and others that a test has.
+    explicit Mesa(TablaFormas otras = {});
+    ~Mesa() override;
 
-    /// Starts the program anew, with those forms.
-    void Empezar(TablaFormas formas);
+    void Hacer(const std::function<void()>& accion) { escritorio_->App().Despachar(accion); }
+    /// Opens a form, or brings its window to the front.
+    void Abrir(const char* forma);
+    const Control* Foco() { return escritorio_->App().Foco(); }
+    /// What was written down since the last look.
+    Textos Sucesos() { return std::exchange(F().sucesos, {}); }
 
     /// The window of that form, or null when it is not on the screen.
-    static QMainWindow* Ventana(const char* forma);
-    static int VentanasDe(const char* forma);
-    Formulario& Forma(const char* forma = "frmParamEsta") { return *escritorio_->App().Cargada(forma); }
+    static QMainWindow* Ventana(const std::string& forma = "frmPrueba");
+    Formulario& Forma(const std::string& forma) { return *escritorio_->App().Cargada(forma); }
+    FormaDePrueba& F() { return static_cast<FormaDePrueba&>(Forma("frmPrueba")); }
     template <typename W = QWidget>
-    W& Widget(const char* control, const char* forma = "frmParamEsta") {
-        const QMainWindow* ventana = Ventana(forma);
-        auto* widget = ventana == nullptr ? nullptr : ventana->findChild<W*>(QString::fromLatin1(control));
-        if (widget == nullptr) {
-            throw std::runtime_error(std::string("no widget shows ") + control);
-        }
-        return *widget;
+    static W& Widget(const Control& control) {
+        return dynamic_cast<W&>(*static_cast<Vista*>(control.Vista())->Widget());
     }
-    QTableView& Tabla(const char* grid = "grdt") { return Widget<QTableView>(grid); }
-    QLineEdit& Caja() { return Widget<QLineEdit>("txtt"); }
-    /// A cell as the screen shows it, rows and columns numbered as the form does (from 0, headings included).
-    QString Celda(int fila, int columna = 1, const char* grid = "grdt");
-    int FilaActual() { return Tabla().currentIndex().row() + 1; }
-    bool ActualALaVista();
 
-    /// Brings a window to the front, as the user or the window manager does.
-    static void Traer(const char* forma);
-    void AbrirModulo() { ElegirEnBarra("frmCuencalia", "Parámetros", "Datos no agrupados"); }
-    void ElegirEnBarra(const char* forma, const QString& menu, const QString& entrada);
+    void ElegirEnBarra(const Formulario& forma, const QString& entrada);
     static void Clic(QWidget& widget, QPoint donde, Qt::MouseButton boton = Qt::LeftButton);
     static void Clic(QWidget& widget) { Clic(widget, widget.rect().center()); }
-    void ClicEnCelda(int fila, int columna = 1, const char* grid = "grdt");
     static void Apuntar(QWidget& widget, QPoint donde);
-    static void Tecla(Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier);
-    static void Escribir(const char* texto);
-    /// Types each value on the entry row and confirms it.
-    void EscribirSerie(const std::vector<const char*>& valores);
-    /// Picks an entry of the menu that a right click on the row opens; false when it is greyed.
-    bool ElegirEnFila(int fila, const QString& entrada);
+    /// Turns the wheel towards the user over the middle of the widget; negative steps away from him.
+    static void Rodar(QWidget& widget, int pasos);
+    static void Tecla(Qt::Key tecla, Qt::KeyboardModifiers con = Qt::NoModifier, const QString& texto = {});
+    static void Escribir(const std::string& texto);
 
-    /// The results shown, row by row.
-    std::vector<QStringList> Resultados();
-    /// Widgets of the window that Tab can reach, in no order.
-    static std::vector<QWidget*> Enfocables(const char* forma);
-
-    std::unique_ptr<Vigia> vigia_ = std::make_unique<Vigia>();
-    std::unique_ptr<Shell> shell_ = std::make_unique<Shell>();
+    Vigia vigia_;
     std::unique_ptr<Escritorio> escritorio_;
 };
-
-/// Parameters of 1, 2, 3, 4, 5 by hand: mean 15/5; sums of powers of the deviations 10, 0, 34; s² = 10/4, v = 10/5;
-/// Ck = 5³·6.8/(4·3·2·2.5²); population kurtosis 6.8/2²; L1 = 3, L2 = 1, L3 = L4 = 0.
-std::vector<QStringList> ParametrosDe1a5();
 
 }  // namespace cuencalia::pruebas

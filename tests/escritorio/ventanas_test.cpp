@@ -1,9 +1,6 @@
-#include <QApplication>
-#include <QMenu>
-#include <QMenuBar>
-#include <algorithm>
-#include <set>
+#include <QAccessible>
 
+#include "escritorio/estilo.h"
 #include "shell/formas.h"
 #include "tests/escritorio/mesa.h"
 
@@ -11,184 +8,130 @@ namespace cuencalia::pruebas {
 
 namespace {
 
-using Ventanas = Mesa;
+/// A form whose grid is wider than any screen.
+class FormaAncha : public Formulario {
+  public:
+    explicit FormaAncha(Aplicacion& app) : Formulario(app, "frmAncha", "Ancha") { grd.PonerCols(100); }
+    FlexGrid grd{*this, "grd"};
+    Disposicion Disponer() override { return Columna({grd}); }
+};
 
-QAction* Entrada(const QMainWindow& ventana, const QString& texto) {
-    for (const QAction* menu : ventana.menuBar()->actions()) {
-        for (QAction* accion : menu->menu()->actions()) {
-            if (accion->text() == texto) {
-                return accion;
-            }
+class Ventanas : public Mesa {
+  protected:
+    Ventanas() : Mesa({{"frmAncha", [](Aplicacion& app) { return std::make_unique<FormaAncha>(app); }}}) {}
+};
+
+/// Every control shown stands whole inside what holds it, on no other one, and has room for its text.
+void EsperarNadaCortado(const QWidget& dentro) {
+    std::vector<const QWidget*> controles;
+    for (const QWidget* w : dentro.findChildren<QWidget*>()) {
+        const bool deTabla = qobject_cast<const QAbstractScrollArea*>(w->parentWidget()) != nullptr;
+        if (w->isVisible() && !deTabla && !w->objectName().isEmpty() && !w->objectName().startsWith("qt_")) {
+            controles.push_back(w);
         }
     }
-    return nullptr;
-}
-
-TEST_F(Ventanas, TheMenuBarIsComplete) {
-    QStringList menus;
-    for (const QAction* menu : Ventana("frmCuencalia")->menuBar()->actions()) {
-        menus << menu->text();
-    }
-    EXPECT_EQ(menus, QStringList({"Parámetros", "&Regresión", "&Distribuciones", "Curvas características",
-                                  "Precipitación", "Aforo", "Caudales máximos", "Evapotranspiración", "Ayuda"}));
-    EXPECT_EQ(Std(Ventana("frmCuencalia")->windowTitle()),
-              "Cuencalia, software para cálculos hidrológicos y estadísticos aplicados a la hidrología");
-}
-
-TEST_F(Ventanas, AnEntryIsGreyedWhileItsModuleIsMissing) {
-    EXPECT_TRUE(Entrada(*Ventana("frmCuencalia"), "Datos no agrupados")->isEnabled());
-    EXPECT_TRUE(Entrada(*Ventana("frmCuencalia"), "&Salir")->isEnabled());
-    EXPECT_TRUE(Entrada(*Ventana("frmCuencalia"), "Acerca de Cuencalia 2")->isEnabled());
-
-    TablaFormas sinModulo = FormasDelPrograma();
-    sinModulo.erase("frmParamEsta");
-    Empezar(sinModulo);
-    EXPECT_FALSE(Entrada(*Ventana("frmCuencalia"), "Datos no agrupados")->isEnabled());
-    ElegirEnBarra("frmCuencalia", "Parámetros", "Datos no agrupados");
-    EXPECT_EQ(Ventana("frmParamEsta"), nullptr);
-    EXPECT_TRUE(vigia_->mensajes.empty());
-    while (QWidget* menu = QApplication::activePopupWidget()) {
-        menu->close();
+    for (const QWidget* w : controles) {
+        SCOPED_TRACE(Std(w->objectName()));
+        EXPECT_TRUE(w->parentWidget()->rect().contains(w->geometry()));
+        const auto* etiqueta = qobject_cast<const QLabel*>(w);
+        const bool conTexto = etiqueta != nullptr || qobject_cast<const QAbstractButton*>(w) != nullptr;
+        const QSize preciso = etiqueta != nullptr && etiqueta->wordWrap() ? QSize(0, w->heightForWidth(w->width()))
+                              : conTexto                                  ? w->sizeHint()
+                                                                          : w->minimumSizeHint();
+        EXPECT_EQ(w->size(), w->size().expandedTo(preciso));
+        for (const QWidget* otro : controles) {
+            EXPECT_FALSE(otro != w && otro->parentWidget() == w->parentWidget() &&
+                         w->geometry().intersects(otro->geometry()))
+                << Std(otro->objectName());
+        }
     }
 }
 
-TEST_F(Ventanas, TheMenuOpensAModuleByTheKeyboardAlone) {
-    Tecla(Qt::Key_F10);
-    Tecla(Qt::Key_Down);
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    ASSERT_NE(menu, nullptr);
-    if (menu->activeAction() == nullptr) {
-        Tecla(Qt::Key_Down);
+// Whatever a form shows at any time is shown at once, on the smallest screen and with larger letters.
+TEST_F(Ventanas, EveryFormOfTheProgramIsWhole) {
+    const QFont antes = QApplication::font();
+    for (const double escala : {1.5, 1.0}) {
+        QFont letra = antes;
+        letra.setPointSizeF(antes.pointSizeF() * escala);
+        QApplication::setFont(letra);
+        for (const auto& [nombre, hacer] : FormasDelPrograma()) {
+            SCOPED_TRACE(nombre + " " + std::to_string(escala));
+            Abrir(nombre.c_str());
+            Formulario& forma = Forma(nombre);
+            Hacer([&] {
+                for (Control* control : forma.Controles()) {
+                    control->Visible = dynamic_cast<TextBox*>(control) == nullptr || control->Visible;
+                }
+            });
+            QCoreApplication::processEvents();
+            if (escala == 1) {
+                Ventana(nombre)->resize(1024, 740);
+                EXPECT_EQ(Ventana(nombre)->size(), QSize(1024, 740));
+            }
+            EsperarNadaCortado(*Ventana(nombre)->centralWidget());
+            for (const Control* control : forma.Controles()) {
+                const auto* boton = dynamic_cast<const CommandButton*>(control);
+                if (boton != nullptr && !boton->Picture().empty()) {
+                    EXPECT_FALSE(estilo::Icono(Q(boton->Picture)).isNull()) << boton->Nombre();
+                    EXPECT_FALSE(estilo::Icono(Q(boton->Picture) + "_luz").isNull()) << boton->Nombre();
+                }
+                if (control->PuedeRecibirFoco() && control->Vista() != nullptr) {
+                    const auto* lector = QAccessible::queryAccessibleInterface(&Widget(*control));
+                    EXPECT_FALSE(lector->text(QAccessible::Name).trimmed().isEmpty()) << control->Nombre();
+                }
+            }
+            Hacer([&] { escritorio_->App().Unload(forma); });
+        }
     }
-    EXPECT_EQ(menu->activeAction()->text(), "Datos no agrupados");
-    Tecla(Qt::Key_Return);
-    ASSERT_TRUE(Ventana("frmParamEsta") != nullptr);
-    EXPECT_EQ(QApplication::activeWindow(), Ventana("frmParamEsta"));
-    EXPECT_EQ(QApplication::focusWidget(), &Tabla());
 }
 
-TEST_F(Ventanas, OpeningAModuleTwiceBringsItsWindowForward) {
-    AbrirModulo();
-    EscribirSerie({"10", "20"});
-    Traer("frmCuencalia");
-    AbrirModulo();
-    EXPECT_EQ(VentanasDe("frmParamEsta"), 1);
-    EXPECT_EQ(QApplication::activeWindow(), Ventana("frmParamEsta"));
-    EXPECT_EQ(Celda(2), "20.0");
-    EscribirSerie({"30"});
-    EXPECT_EQ(Celda(3), "30.0");
-
-    Ventana("frmParamEsta")->showMinimized();
-    AbrirModulo();
-    EXPECT_FALSE(Ventana("frmParamEsta")->isMinimized());
-    EXPECT_EQ(Celda(3), "30.0");
+TEST_F(Ventanas, AWindowOpensWithRoomForItsGridsAndNoLargerThanTheScreen) {
+    Abrir("frmAncha");
+    EXPECT_LE(Ventana("frmAncha")->width(), Ventana("frmAncha")->screen()->availableSize().width());
+    Abrir("frmParamEsta");
+    for (const char* grid : {"grdt", "grdParam"}) {
+        const auto& tabla = Widget<QTableView>(*Forma("frmParamEsta").Controls(grid));
+        EXPECT_EQ(tabla.horizontalScrollBar()->maximum() + tabla.verticalScrollBar()->maximum(), 0) << grid;
+        const int filas = tabla.viewport()->height() / tabla.verticalHeader()->defaultSectionSize();
+        EXPECT_TRUE(grid == std::string("grdt") ? filas >= 14 : filas == tabla.model()->rowCount()) << filas;
+    }
 }
 
-TEST_F(Ventanas, MenuPrincipalClosesTheModuleAndGoesBack) {
-    AbrirModulo();
-    EscribirSerie({"10", "20"});
-    Clic(Widget("bMenu"));
-    EXPECT_EQ(Ventana("frmParamEsta"), nullptr);
-    EXPECT_EQ(escritorio_->App().Cargada("frmParamEsta"), nullptr);
-    EXPECT_EQ(QApplication::activeWindow(), Ventana("frmCuencalia"));
-    AbrirModulo();
-    EXPECT_EQ(Tabla().model()->rowCount(), 1);
-    EXPECT_EQ(Celda(1), "");
-    EXPECT_EQ(Celda(1, 0), "[?]");
-}
-
-TEST_F(Ventanas, TheCloseBoxUnloadsTheModule) {
-    AbrirModulo();
-    EscribirSerie({"10"});
-    Escribir("2");
-    EXPECT_TRUE(Ventana("frmParamEsta")->close());
-    EXPECT_EQ(Ventana("frmParamEsta"), nullptr);
-    EXPECT_EQ(escritorio_->App().Cargada("frmParamEsta"), nullptr);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    AbrirModulo();
-    EXPECT_EQ(Tabla().model()->rowCount(), 1);
-    EscribirSerie({"30"});
-    EXPECT_EQ(Celda(1), "30.0");
-    EXPECT_TRUE(vigia_->mensajes.empty());
-}
-
-TEST_F(Ventanas, TheWindowInFrontHasTheKeyboard) {
-    AbrirModulo();
-    EscribirSerie({"10"});
-    ElegirEnBarra("frmCuencalia", "Ayuda", "Acerca de Cuencalia 2");
-    ASSERT_EQ(QApplication::activeWindow(), Ventana("frmacerc"));
-    Traer("frmParamEsta");
-    EscribirSerie({"20"});
-    EXPECT_EQ(Celda(2), "20.0");
-    Traer("frmacerc");
-    Tecla(Qt::Key_Return);
-    EXPECT_EQ(Ventana("frmacerc"), nullptr);
-    EXPECT_EQ(Celda(2), "20.0");
-}
-
-TEST_F(Ventanas, SalirEndsTheProgramWithNoQuestion) {
-    AbrirModulo();
-    EscribirSerie({"10"});
-    bool aTiempo = true;
-    QTimer::singleShot(0, this->vigia_.get(), [this] { Clic(Widget("bsalir", "frmCuencalia")); });
-    QTimer::singleShot(20000, this->vigia_.get(), [&] {
-        aTiempo = false;
-        QCoreApplication::exit(1);
+TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
+    Abrir("frmAncha");
+    QMainWindow* ventana = Ventana("frmAncha");
+    ventana->showMinimized();
+    Abrir("frmAncha");
+    EXPECT_EQ(Ventana("frmAncha"), ventana);
+    EXPECT_FALSE(ventana->isMinimized());
+    Abrir("frmPrueba");
+    EXPECT_EQ(&Foco()->Forma(), &F());
+    ventana->activateWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return &Foco()->Forma() == &Forma("frmAncha"); }));
+    EXPECT_TRUE(ventana->close());
+    EXPECT_EQ(escritorio_->App().Cargada("frmAncha"), nullptr);
+    // Unloaded inside a handler, the form lives to its end and may still change what nobody shows any more.
+    Hacer([this] {
+        FormaDePrueba& forma = F();
+        escritorio_->App().Unload(forma);
+        EXPECT_EQ(Ventana(), nullptr);
+        forma.txt1.Text = "9";
+        forma.mnuUno.Enabled = false;
     });
-    QApplication::exec();
-    EXPECT_TRUE(aTiempo);
-    EXPECT_TRUE(escritorio_->App().Terminada());
-    EXPECT_TRUE(vigia_->mensajes.empty());
-    EXPECT_TRUE(vigia_->otrosDialogos.isEmpty());
+    Abrir("frmPrueba");
+    EXPECT_EQ(Widget(F().txt1).property("text"), "");
 }
 
-TEST_F(Ventanas, F1AndTheMenuOpenTheManual) {
-    AbrirModulo();
-    Tecla(Qt::Key_F1);
-    Escribir("1");
-    Tecla(Qt::Key_F1);
-    EXPECT_EQ(Caja().text(), "1");
-    ElegirEnBarra("frmCuencalia", "Ayuda", "Ayuda");
-    ASSERT_EQ(shell_->abiertos.size(), 3);
-    for (const QUrl& url : shell_->abiertos) {
-        EXPECT_TRUE(url.toLocalFile().endsWith("/ayuda/index.html")) << Std(url.toString());
+TEST_F(Ventanas, TheSchemeReachesWhatIsPainted) {
+    for (const auto esquema : {estilo::Esquema::Oscuro, estilo::Esquema::Claro}) {
+        estilo::Aplicar(*qApp, esquema);
+        QCoreApplication::processEvents();
+        for (const Control* control : std::initializer_list<Control*>{&F().grd1, &F().txt1, &F()}) {
+            const QImage foto = Widget(*control).grab().toImage();
+            const bool oscuro = foto.pixelColor(foto.width() - 5, foto.height() / 2).lightness() < 128;
+            EXPECT_EQ(oscuro, esquema == estilo::Esquema::Oscuro) << control->Nombre();
+        }
     }
-    EXPECT_TRUE(vigia_->mensajes.empty());
-    escritorio_->AbrirConShell("/no/hay/manual.html");
-    EXPECT_EQ(shell_->abiertos.size(), 3);
-    EXPECT_TRUE(vigia_->mensajes.empty());
-}
-
-TEST_F(Ventanas, TabReachesEveryControlThatIsEnabled) {
-    AbrirModulo();
-    Clic(Widget("bOrdenar"));
-    const std::vector<QWidget*> todos = Enfocables("frmParamEsta");
-    for (const char* nombre : {"grdt", "grdParam", "grdorden", "bCalcular", "bLimpiar", "bMenu", "bOrdenar", "txtL1"}) {
-        EXPECT_NE(std::find(todos.begin(), todos.end(), &Widget(nombre)), todos.end()) << nombre;
-    }
-    for (const Qt::Key tecla : {Qt::Key_Tab, Qt::Key_Backtab}) {
-        const QWidget* inicio = &Tabla();
-        Tabla().setFocus();
-        std::set<QWidget*> alcanzados;
-        do {
-            Tecla(tecla);
-            alcanzados.insert(QApplication::focusWidget());
-        } while (QApplication::focusWidget() != inicio && alcanzados.size() <= todos.size() &&
-                 QApplication::focusWidget() != nullptr);
-        EXPECT_EQ(alcanzados, std::set<QWidget*>(todos.begin(), todos.end()));
-    }
-}
-
-TEST_F(Ventanas, TheKeyboardFollowsTheFocusThatTheUserSees) {
-    AbrirModulo();
-    EscribirSerie({"1", "2", "3", "4", "5"});
-    while (QApplication::focusWidget() != &Widget("bOrdenar")) {
-        ASSERT_NE(QApplication::focusWidget(), nullptr);
-        Tecla(Qt::Key_Tab);
-    }
-    Tecla(Qt::Key_Space);
-    EXPECT_TRUE(Tabla("grdorden").isVisible());
-    EXPECT_EQ(Tabla().model()->rowCount(), 6);
 }
 
 }  // namespace

@@ -1,0 +1,230 @@
+#include "tests/escritorio/mesa.h"
+
+namespace cuencalia::pruebas {
+
+namespace {
+
+using Controles = Mesa;
+
+TEST_F(Controles, APropertyShowsOnTheWidget) {
+    struct Caso {
+        std::function<void(FormaDePrueba&)> poner;
+        const char *control, *propiedad;
+        QVariant esperado;
+    };
+    const std::vector<Caso> casos{
+        {[](auto& f) { f.txt1.Text = "año €"; }, "txt1", "text", "año €"},
+        {[](auto& f) { f.txt1.Locked = true; }, "txt1", "readOnly", true},
+        {[](auto& f) { f.txt1.Enabled = false; }, "txt1", "enabled", false},
+        {[](auto& f) { f.txt1.Visible = false; }, "txt1", "visible", false},
+        {[](auto& f) { f.txt1.ToolTipText = "Qué es"; }, "txt1", "toolTip", "Qué es"},
+        {[](auto& f) { f.txt1.NombreAccesible = "Media"; }, "txt1", "accessibleName", "Media"},
+        {[](auto& f) { f.lbl1.Caption = "a < b"; }, "lbl1", "text", "a < b"},
+        {[](auto&) {}, "lbl1", "textFormat", "PlainText"},
+        {[](auto& f) { f.opt2.Value = true; }, "opt1", "checked", false},
+        {[](auto& f) { f.opt2.Value = false; }, "opt2", "checked", false},
+        {[](auto& f) { f.cmb1.Text = "ni uno ni dos"; }, "cmb1", "currentText", "ni uno ni dos"},
+        {[](auto& f) { f.cmb2.Text = "b"; }, "cmb2", "currentText", "b"},
+        {[](auto& f) {
+             f.cmb2.List = Textos{"b", "a", "b2"};
+         },
+         "cmb2", "currentIndex", 0},
+        {[](auto& f) { f.Frame1.Caption = "Grupo"; }, "Frame1", "title", "Grupo"},
+        {[](auto& f) { f.SSTab1.Tab = 1; }, "SSTab1", "currentIndex", 1},
+        {[](auto& f) { f.StatusBar1.PonerPanel(1, "Listo"); }, "StatusBar1", "text", "Listo"},
+    };
+    for (const Caso& caso : casos) {
+        Hacer([&] { caso.poner(F()); });
+        EXPECT_EQ(Widget(*F().Controls(caso.control)).property(caso.propiedad).toString(), caso.esperado.toString())
+            << caso.control << "." << caso.propiedad;
+    }
+    Hacer([this] {
+        F().Caption = "a[*]b [*]";
+        F().StatusBar1.PonerPanel(3, "tres");
+        F().mnuUno.Enabled = false;
+        F().btn1.ConColor = true;
+        F().btn1.BackColor = Color{75, 115, 166};
+        F().btn1.Picture = "calcular";
+        F().cmb1.List = Textos{"tres", "cuatro"};
+    });
+    EXPECT_EQ(Ventana()->windowHandle()->title(), "a[*]b [*]");
+    EXPECT_EQ(Widget(F().StatusBar1).findChildren<QLabel*>().last()->text(), "tres");
+    EXPECT_FALSE(Ventana()->menuBar()->actions()[0]->menu()->actions()[0]->isEnabled());
+    auto& boton = Widget<QAbstractButton>(F().btn1);
+    EXPECT_NEAR(boton.grab().toImage().pixelColor(7, boton.height() / 2).hue(), QColor(75, 115, 166).hue(), 3);
+    EXPECT_FALSE(boton.icon().isNull());
+    EXPECT_EQ(Widget<QComboBox>(F().cmb1).itemText(1), "cuatro") << "a new list of the same length";
+    EXPECT_EQ(Widget<QComboBox>(F().cmb1).currentText(), "ni uno ni dos");
+}
+
+// A grid leaves no key but Tab to its widget.
+TEST_F(Controles, AKeyArrivesWithItsCodeAndItsCharacter) {
+    struct Caso {
+        Qt::Key tecla;
+        const char* texto;
+        int codigo, caracter;
+        Qt::KeyboardModifiers con = Qt::NoModifier;
+    };
+    const Caso casos[] = {{Qt::Key_Backspace, "\b", 8, 8},
+                          {Qt::Key_Return, "\r", 13, 13},
+                          {Qt::Key_Enter, "\r", 13, 13},
+                          {Qt::Key_Escape, "\x1b", 27, 27},
+                          {Qt::Key_Space, " ", 32, 32},
+                          {Qt::Key_PageUp, "", 33, 0},
+                          {Qt::Key_PageDown, "", 34, 0},
+                          {Qt::Key_End, "", 35, 0},
+                          {Qt::Key_Home, "", 36, 0},
+                          {Qt::Key_Left, "", 37, 0},
+                          {Qt::Key_Up, "", 38, 0},
+                          {Qt::Key_Right, "", 39, 0},
+                          {Qt::Key_Down, "", 40, 0},
+                          {Qt::Key_Delete, "\x7f", 46, 0},
+                          {Qt::Key_5, "5", 53, 53},
+                          {Qt::Key_X, "x", 88, 120},
+                          {Qt::Key_Asterisk, "*", 106, 42, Qt::ShiftModifier},
+                          {Qt::Key_Plus, "+", 107, 43},
+                          {Qt::Key_Minus, "-", 109, 45},
+                          {Qt::Key_Slash, "/", 111, 47},
+                          {Qt::Key_F2, "", 113, 0},
+                          {Qt::Key_Period, ".", 190, 46},
+                          {Qt::Key_Comma, ",", 190, 44},
+                          {Qt::Key_Ntilde, "ñ", 0, 241},
+                          {Qt::Key_E, "€", 69, 0x20ac, Qt::ControlModifier | Qt::AltModifier},
+                          {Qt::Key_unknown, "😀", 0, 0x1f600},
+                          {Qt::Key_X, "\x18", -1, 0, Qt::ControlModifier},
+                          {Qt::Key_F5, "", -1, 0}};
+    Clic(*Widget<QTableView>(F().grd1).viewport());
+    for (const Caso& caso : casos) {
+        Sucesos();
+        Tecla(caso.tecla, caso.con, caso.texto);
+        Textos esperado;
+        if (caso.codigo >= 0) {
+            esperado.push_back("grd1 tecla " + std::to_string(caso.codigo));
+        }
+        if (caso.caracter != 0) {
+            esperado.push_back("grd1 letra " + std::to_string(caso.caracter));
+        }
+        EXPECT_EQ(Sucesos(), esperado) << std::hex << caso.tecla;
+    }
+}
+
+TEST_F(Controles, ATextBoxFiltersCharactersAndMovesByItself) {
+    auto& caja = Widget<QLineEdit>(F().txt1);
+    Clic(caja);
+    F().txt1.KeyPress.Conectar([](int& letra) { letra = letra == 'b' ? 0 : letra; });
+    Escribir("abc");
+    Tecla(Qt::Key_E, Qt::ControlModifier | Qt::AltModifier, "€");
+    EXPECT_EQ(caja.text(), "ac€");
+    Tecla(Qt::Key_Left);
+    Tecla(Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(F().txt1.SelLength, 2);
+    Tecla(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(F().txt1.Text(), "€");
+    Tecla(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(F().txt1.Text(), "ac€");
+
+    // The widget counts units of UTF-16, the program characters: 😀 is two of the former.
+    Hacer([this] {
+        F().txt1.Text = "a😀b😀c";
+        F().txt1.Seleccionar(2, 2);
+    });
+    EXPECT_EQ(caja.selectedText(), "b😀");
+    caja.setSelection(1, 3);
+    EXPECT_EQ(F().txt1.SelStart, 1);
+    EXPECT_EQ(F().txt1.SelLength, 2);
+    caja.setCursorPosition(6);
+    EXPECT_EQ(F().txt1.SelStart, 4);
+    EXPECT_EQ(F().txt1.SelLength, 0);
+}
+
+TEST_F(Controles, TheKeyboardIsWhereTheModelHasIt) {
+    Clic(Widget(F().btn1));
+    Sucesos();
+    Clic(Widget(F().txt1));
+    EXPECT_EQ(Sucesos(), (Textos{"btn1 sale", "txt1 entra"}));
+    Hacer([this] { F().btn1.SetFocus(); });
+    EXPECT_TRUE(Widget(F().btn1).hasFocus());
+    Tecla(Qt::Key_T, Qt::AltModifier);
+    EXPECT_EQ(Foco(), &F().txt1) << "the label's access key";
+    // A widget that is hidden gives the keyboard to any other one, which is no wish of the user's.
+    for (const bool visible : {true, false}) {
+        Sucesos();
+        Hacer([&] {
+            F().txtt.Visible = visible;
+            visible ? F().txtt.SetFocus() : F().grd1.SetFocus();
+        });
+    }
+    EXPECT_EQ(Sucesos(), (Textos{"txtt sale", "grd1 entra"}));
+    std::set<std::string> alcanzados;
+    for (int i = 0; i < 10; ++i) {
+        Tecla(i < 5 ? Qt::Key_Tab : Qt::Key_Backtab);
+        EXPECT_TRUE(Widget(*Foco()).hasFocus()) << Foco()->Nombre();
+        alcanzados.insert(Foco()->Nombre());
+    }
+    EXPECT_GE(alcanzados.size(), 5u) << "Tab leads out of a grid and on";
+}
+
+TEST_F(Controles, WhatTheUserPicksArrives) {
+    Clic(Widget(F().btn1));
+    Tecla(Qt::Key_Return);
+    Tecla(Qt::Key_Space);
+    EXPECT_EQ(std::count(F().sucesos.begin(), F().sucesos.end(), "btn1 clic"), 3);
+    Clic(Widget(F().opt2), QPoint(8, Widget(F().opt2).height() / 2));
+    EXPECT_TRUE(F().opt2.Value);
+    ElegirEnBarra(F(), "&Uno");
+    EXPECT_EQ(Sucesos().back(), "mnuUno clic");
+    for (ComboBox* combo : {&F().cmb1, &F().cmb2}) {
+        Widget(*combo).setFocus();
+        Tecla(Qt::Key_Down);
+        Tecla(Qt::Key_Down);
+        EXPECT_EQ(combo->Text(), combo->List()[1]);
+        EXPECT_EQ(Sucesos().back(), combo->Nombre() + " clic");
+    }
+    Widget(F().cmb1).setFocus();
+    Escribir("x");
+    EXPECT_EQ(F().cmb1.Text(), "dosx");
+    Hacer([this] { F().cmb1.Text = "uno"; });
+    Tecla(Qt::Key_Down);
+    EXPECT_EQ(F().cmb1.Text(), "dos") << "the arrows go on from the text that the program set";
+}
+
+TEST_F(Controles, TheTabsFollowTheModelAndTellIt) {
+    QTabBar& fichas = *Widget<QTabWidget>(F().SSTab1).tabBar();
+    Hacer([this] { F().txt2.SetFocus(); });
+    Clic(fichas, fichas.tabRect(1).center());
+    EXPECT_EQ(F().SSTab1.Tab, 1);
+    EXPECT_TRUE(Widget(F().txt3).isVisible());
+    EXPECT_NE(Foco(), &F().txt2) << "nobody writes in what is not seen";
+    Hacer([this] { F().SSTab1.Tab = 0; });
+    EXPECT_TRUE(Widget(F().txt2).isVisible());
+    Hacer([this] {
+        F().SSTab1.Tab = 1;
+        F().txt3.SetFocus();
+    });
+    EXPECT_TRUE(Widget(F().txt3).hasFocus());
+    fichas.setFocus();
+    for (const Qt::Key tecla : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Left}) {
+        EXPECT_EQ(Foco(), &F().SSTab1);
+        Tecla(tecla);
+    }
+    EXPECT_EQ(F().SSTab1.Tab, 0);
+}
+
+// A button is lit by the pointer over it and goes dark by the pointer over what is around it.
+TEST_F(Controles, ThePointerIsToldToWhatIsBelowItAlone) {
+    QWidget &boton = Widget(F().btn1), &marco = Widget(F().Frame1);
+    Apuntar(boton, boton.rect().center());
+    const std::tuple<QWidget*, QPoint, const char*> lugares[] = {
+        {&boton, boton.rect().center() + QPoint(3, 0), "btn1"},
+        {&marco, QPoint(4, marco.height() - 4), "Frame1"},
+        {Ventana()->centralWidget(), QPoint(3, 3), "frmPrueba"}};
+    for (const auto& [widget, donde, nombre] : lugares) {
+        F().punteros.clear();
+        Apuntar(*widget, donde);
+        EXPECT_EQ(F().punteros, Textos{nombre});
+    }
+}
+
+}  // namespace
+
+}  // namespace cuencalia::pruebas
