@@ -12,7 +12,7 @@ namespace cuencalia {
 namespace {
 
 /// Never narrower than its title, which stands beside the border, 10 pixels in and padded by 4.
-class Grupo : public QGroupBox {
+class MarcoConTitulo : public QGroupBox {
   public:
     using QGroupBox::QGroupBox;
 
@@ -72,7 +72,7 @@ class VistaFichas : public Vista {
 }  // namespace
 
 Vista* NuevaVista(Escritorio& escritorio, Frame& marco, QWidget* padre) {
-    return new VistaMarco(escritorio, marco, new Grupo(padre));
+    return new VistaMarco(escritorio, marco, new MarcoConTitulo(padre));
 }
 
 Vista* NuevaVista(Escritorio& escritorio, SSTab& fichas, QWidget* padre) {

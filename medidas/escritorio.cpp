@@ -2,6 +2,7 @@
 // the help of a graphics card.
 
 #include "escritorio/escritorio.h"
+#include "escritorio/vista.h"
 
 #include <benchmark/benchmark.h>
 
@@ -64,7 +65,7 @@ class Mesa {
     }
     Formulario& Modulo() { return *App().Cargada("frmParamEsta"); }
     FlexGrid& Grid() { return dynamic_cast<FlexGrid&>(*Modulo().Controls("grdt")); }
-    QWidget& Ventana() { return *escritorio_.VentanaDe(Modulo()); }
+    QWidget& Ventana() { return *static_cast<Vista*>(Grid().Vista())->Widget()->window(); }
     void Llenar() {
         App().Despachar([this] {
             FlexGrid& grid = Grid();
