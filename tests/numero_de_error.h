@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "frame/base/errores.h"
 
 namespace cuencalia {
@@ -13,6 +15,14 @@ int NumeroDeError(F accion) {
         return error.Numero();
     }
     return 0;
+}
+
+inline std::vector<int> NumerosDe(const std::vector<ErrorEjecucion>& errores) {
+    std::vector<int> numeros;
+    for (const ErrorEjecucion& error : errores) {
+        numeros.push_back(error.Numero());
+    }
+    return numeros;
 }
 
 }  // namespace cuencalia

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 #include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
@@ -9,13 +10,7 @@
 namespace cuencalia {
 namespace {
 
-class FormaConGrafico : public Formulario {
-  public:
-    explicit FormaConGrafico(Aplicacion& app) : Formulario(app, "frmGrafico", "Gráfico") {}
-    GraficoModulo Graph1{*this, "Graph1"};
-};
-
-using Valores = std::vector<std::optional<Double>>;
+using Enteros = std::vector<int>;
 
 /// Counts what the view of the chart would paint anew.
 struct VistaContadora : VistaControl {
@@ -29,71 +24,67 @@ class GraficoTest : public testing::Test {
         G.PonerNumPoints(puntos);
         G.PonerNumSets(conjuntos);
     }
-    const Valores& X(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).x; }
-    const Valores& Y(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).y; }
+    void Escribir(const Enteros& y, const Enteros& x) {
+        for (const int valor : y) {
+            G.PonerGraphData(valor);
+        }
+        for (const int valor : x) {
+            G.PonerXPosData(valor);
+        }
+    }
+    /// Legend, x and y of each set, with a hyphen where nothing was written.
+    std::string Datos() const {
+        std::string texto;
+        for (const auto& [leyenda, x, y] : G.Conjuntos()) {
+            texto += leyenda;
+            for (const auto& [letra, valores] : {std::pair{"x", x}, {" y", y}}) {
+                texto += letra;
+                for (const auto& valor : valores) {
+                    texto += valor ? Str(*valor) : " -";
+                }
+            }
+            texto += "; ";
+        }
+        return texto;
+    }
+    Enteros Lugar() const { return {G.NumPoints(), G.NumSets(), G.ThisPoint(), G.ThisSet()}; }
+    Enteros Aspecto() const { return {G.Visible(), G.Background(), G.BorderStyle(), G.DrawMode()}; }
+    Enteros Clase() const { return {G.GraphType(), G.GraphStyle(), G.AutoInc()}; }
 
     PlataformaGuion sistema;
     Aplicacion app{sistema, {}};
-    FormaConGrafico forma{app};
-    GraficoModulo& G = forma.Graph1;
+    Formulario forma{app, "frmGrafico", "Gráfico"};
+    GraficoModulo G{forma, "Graph1"};
 };
-
-TEST_F(GraficoTest, OcultoHastaQueSeDibuja) {
-    EXPECT_FALSE(G.Visible);
-    EXPECT_EQ(G.AutoInc(), 1);
-    GraficoDibujar(G, {}, {{.x = {1}, .y = {2}}});
-    EXPECT_TRUE(G.Visible);
-}
 
 // All the y first, set after set, and then all the x: each kind has its own next point.
 TEST_F(GraficoTest, AutoIncRecorrePuntosYConjuntos) {
     Tamano(2, 3);
-    for (const int y : {1, 2, 3, 4, 5, 6}) {
-        G.PonerGraphData(y);
-    }
-    for (const int x : {10, 20, 30, 40, 50, 60}) {
-        G.PonerXPosData(x);
-    }
-    EXPECT_EQ(Y(1), (Valores{1, 2}));
-    EXPECT_EQ(Y(2), (Valores{3, 4}));
-    EXPECT_EQ(Y(3), (Valores{5, 6}));
-    EXPECT_EQ(X(1), (Valores{10, 20}));
-    EXPECT_EQ(X(2), (Valores{30, 40}));
-    EXPECT_EQ(X(3), (Valores{50, 60}));
-    EXPECT_EQ(NumeroDeError([&] { return G.PonerGraphData(7), 0; }), 5) << "there is no fourth set";
-    EXPECT_EQ(NumeroDeError([&] { return G.PonerXPosData(7), 0; }), 5);
-}
+    Escribir({1, 2, 3, 4, 5, 6}, {10, 20, 30, 40, 50, 60});
+    EXPECT_EQ(Datos(), "x 10 20 y 1 2; x 30 40 y 3 4; x 50 60 y 5 6; ");
+    EXPECT_EQ(NumeroDeError([&] { G.PonerGraphData(7); }), 5) << "there is no fourth set";
+    EXPECT_EQ(NumeroDeError([&] { G.PonerXPosData(7); }), 5);
 
-TEST_F(GraficoTest, AutoIncContinuaDesdeElConjuntoYElPuntoElegidos) {
     Tamano(3, 2);
     G.PonerThisSet(2);
     G.PonerThisPoint(2);
-    G.PonerGraphData(1);
-    G.PonerGraphData(2);
-    G.PonerXPosData(9);
-    EXPECT_EQ(Y(1), Valores(3));
-    EXPECT_EQ(Y(2), (Valores{std::nullopt, 1, 2}));
-    EXPECT_EQ(X(2), (Valores{std::nullopt, 9, std::nullopt}));
+    Escribir({1, 2}, {9});
+    EXPECT_EQ(Datos(), "x - - - y - - -; x - 9 - y - 1 2; ") << "it goes on from where it was told";
     G.PonerThisPoint(1);
     G.PonerThisSet(1);
-    G.PonerGraphData(5);
-    EXPECT_EQ(Y(1), (Valores{5, std::nullopt, std::nullopt}));
+    Escribir({5}, {});
+    EXPECT_EQ(Datos(), "x - - - y 5 - -; x - 9 - y - 1 2; ");
 }
 
 TEST_F(GraficoTest, SinAutoIncSeEscribeElPuntoElegido) {
     Tamano(2, 2);
     G.AutoInc = 0;
-    G.PonerGraphData(1);
-    G.PonerGraphData(2);
-    EXPECT_EQ(Y(1), (Valores{2, std::nullopt})) << "the same point again";
+    Escribir({1, 2}, {});
+    EXPECT_EQ(Datos(), "x - - y 2 -; x - - y - -; ") << "the same point again";
     G.PonerThisPoint(2);
     G.PonerThisSet(2);
-    EXPECT_EQ(G.ThisPoint(), 2);
-    EXPECT_EQ(G.ThisSet(), 2);
-    G.PonerGraphData(3);
-    G.PonerXPosData(4);
-    EXPECT_EQ(Y(2), (Valores{std::nullopt, 3}));
-    EXPECT_EQ(X(2), (Valores{std::nullopt, 4}));
+    Escribir({3}, {4});
+    EXPECT_EQ(Datos(), "x - - y 2 -; x - 4 y - 3; ");
 }
 
 TEST_F(GraficoTest, EscribirElTamanoVacia) {
@@ -101,101 +92,63 @@ TEST_F(GraficoTest, EscribirElTamanoVacia) {
         Tamano(2, 2);
         G.PonerThisSet(2);
         G.PonerLegendText("Ord");
-        G.PonerGraphData(1);
-        G.PonerXPosData(2);
+        Escribir({1}, {2});
     };
     llenar();
     G.PonerNumPoints(2);
-    EXPECT_EQ(Y(2), Valores(2)) << "also when the number is the same";
-    EXPECT_EQ(X(2), Valores(2));
-    EXPECT_EQ(G.NumSets(), 2);
-    EXPECT_EQ(G.ThisSet(), 1);
+    EXPECT_EQ(Datos(), "x - - y - -; x - - y - -; ") << "also when the number is the same";
+    EXPECT_EQ(Lugar(), (Enteros{2, 2, 1, 1}));
     llenar();
     G.PonerNumPoints(3);
-    EXPECT_EQ(Y(1), Valores(3));
+    EXPECT_EQ(Datos(), "x - - - y - - -; x - - - y - - -; ");
     llenar();
     G.PonerNumSets(1);
-    EXPECT_EQ(G.NumSets(), 1);
-    EXPECT_EQ(G.NumPoints(), 2);
-    EXPECT_EQ(Y(1), Valores(2));
-    EXPECT_EQ(G.Conjuntos()[0].leyenda, "");
-    G.PonerGraphData(8);
-    EXPECT_EQ(Y(1), (Valores{8, std::nullopt})) << "writing begins at the first point";
+    EXPECT_EQ(Datos(), "x - - y - -; ");
+    Escribir({8}, {});
+    EXPECT_EQ(Datos(), "x - - y 8 -; ") << "writing begins at the first point";
 }
 
 TEST_F(GraficoTest, FueraDeLimites) {
     Tamano(2, 3);
     G.PonerThisPoint(2);
     G.PonerThisSet(3);
-    for (const int malo : {0, -1}) {
-        EXPECT_EQ(NumeroDeError([&] { return G.PonerNumPoints(malo), 0; }), 5);
-        EXPECT_EQ(NumeroDeError([&] { return G.PonerNumSets(malo), 0; }), 5);
-        EXPECT_EQ(NumeroDeError([&] { return G.PonerThisPoint(malo), 0; }), 5);
-        EXPECT_EQ(NumeroDeError([&] { return G.PonerThisSet(malo), 0; }), 5);
+    for (const auto& [poner, alto] : {std::pair{&GraficoModulo::PonerNumPoints, 0},
+                                      {&GraficoModulo::PonerNumSets, 0},
+                                      {&GraficoModulo::PonerThisPoint, 3},
+                                      {&GraficoModulo::PonerThisSet, 4}}) {
+        for (const int malo : {0, -1, alto}) {
+            EXPECT_EQ(NumeroDeError([&, p = poner] { (G.*p)(malo); }), 5) << malo;
+        }
     }
-    EXPECT_EQ(NumeroDeError([&] { return G.PonerThisPoint(3), 0; }), 5);
-    EXPECT_EQ(NumeroDeError([&] { return G.PonerThisSet(4), 0; }), 5);
-    EXPECT_EQ(G.NumPoints(), 2);
-    EXPECT_EQ(G.NumSets(), 3);
-    EXPECT_EQ(G.ThisPoint(), 2);
-    EXPECT_EQ(G.ThisSet(), 3);
+    EXPECT_EQ(Lugar(), (Enteros{2, 3, 2, 3}));
 }
 
-TEST_F(GraficoTest, GraficoDibujar) {
-    GraficoDibujar(G,
-                   {.tipo = kGraficoAreas,
-                    .estilo = kSimbolosSueltos,
-                    .fondo = 7,
-                    .conTrama = true,
-                    .titulo = "Tiempo (min)",
-                    .autoInc = 1},
-                   {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
-    EXPECT_EQ(G.FontUse(), 4);
-    EXPECT_EQ(G.GraphType(), 8);
-    EXPECT_EQ(G.GraphStyle(), 1);
-    EXPECT_EQ(G.Background(), 7);
-    EXPECT_EQ(G.BorderStyle(), 1);
-    EXPECT_EQ(G.PatternData(), 2);
-    EXPECT_EQ(G.BottomTitle(), "Tiempo (min)");
+TEST_F(GraficoTest, DibujarYLimpiar) {
+    EXPECT_FALSE(G.Visible);
     EXPECT_EQ(G.AutoInc(), 1);
-    EXPECT_EQ(G.DrawMode(), 2);
-    EXPECT_EQ(G.NumPoints(), 3);
-    ASSERT_EQ(G.NumSets(), 2);
-    EXPECT_EQ(G.Conjuntos()[0].leyenda, "Exp");
-    EXPECT_EQ(G.Conjuntos()[1].leyenda, "Ord");
-    EXPECT_EQ(X(1), (Valores{1, 2, 3}));
-    EXPECT_EQ(Y(1), (Valores{4, 5, 6}));
-    EXPECT_EQ(X(2), (Valores{7, 8, 9}));
-    EXPECT_EQ(Y(2), (Valores{10, 11, 12}));
+    const DescripcionGrafico areas{kGraficoAreas, kSimbolosSueltos, 7, true, "Tiempo (min)", 1};
+    GraficoDibujar(G, areas, {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
+    EXPECT_EQ(Datos(), "Expx 1 2 3 y 4 5 6; Ordx 7 8 9 y 10 11 12; ");
+    EXPECT_EQ(Clase(), (Enteros{8, 1, 1}));
+    EXPECT_EQ(Aspecto(), (Enteros{true, 7, 1, 2}));
+    EXPECT_EQ(G.FontUse() * 10 + G.PatternData(), 42);
+    EXPECT_EQ(G.BottomTitle(), "Tiempo (min)");
 
     GraficoDibujar(G, {.autoInc = 0}, {{"", {1, 2}, {3, 4}}});
-    EXPECT_EQ(G.GraphType(), 6);
-    EXPECT_EQ(G.GraphStyle(), 0);
-    EXPECT_EQ(G.Background(), 11);
+    EXPECT_EQ(Datos(), "x 1 2 y 3 4; ") << "nothing of the chart before is left";
+    EXPECT_EQ(Clase(), (Enteros{6, 0, 0}));
+    EXPECT_EQ(Aspecto(), (Enteros{true, 11, 1, 2}));
     EXPECT_EQ(G.BottomTitle(), "");
-    EXPECT_EQ(G.AutoInc(), 0);
-    EXPECT_EQ(G.NumSets(), 1) << "nothing of the chart before is left";
-    EXPECT_EQ(X(1), (Valores{1, 2}));
-    EXPECT_EQ(Y(1), (Valores{3, 4}));
-    EXPECT_EQ(G.Conjuntos()[0].leyenda, "");
-}
 
-TEST_F(GraficoTest, LimpiarGrafico) {
-    GraficoDibujar(G, {.fondo = 7}, {{"Exp", {1, 2}, {3, 4}}});
     VistaContadora vista;
+    G.Background = 7;
     G.PonerVista(&vista);
     G.LimpiarGrafico();
-    EXPECT_FALSE(G.Visible);
-    EXPECT_EQ(G.Background(), 11);
-    EXPECT_EQ(G.BorderStyle(), 0);
-    EXPECT_EQ(G.DrawMode(), 1);
-    EXPECT_GT(vista.cambios, 0);
-    vista.cambios = 0;
+    EXPECT_EQ(Aspecto(), (Enteros{false, 11, 0, 1}));
+    EXPECT_GT(std::exchange(vista.cambios, 0), 0);
     GraficoDibujar(G, {}, {{"", {5}, {6}}});
-    EXPECT_EQ(X(1), (Valores{5}));
-    EXPECT_EQ(Y(1), (Valores{6}));
-    EXPECT_TRUE(G.Visible);
-    EXPECT_EQ(G.DrawMode(), 2);
+    EXPECT_EQ(Datos(), "x 5 y 6; ");
+    EXPECT_EQ(Aspecto(), (Enteros{true, 11, 1, 2}));
     EXPECT_GT(vista.cambios, 0);
     G.PonerVista(nullptr);
 }

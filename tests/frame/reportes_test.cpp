@@ -5,31 +5,30 @@
 #include "frame/reportes/rtf.h"
 #include "guion/plataformaguion.h"
 #include "tests/archivos_en_disco.h"
+#include "tests/numero_de_error.h"
 
 namespace cuencalia {
 namespace {
 
+using pruebas::BytesDe;
 using pruebas::Guardar;
 
-/// Writes down what the printer and the file dialogs were asked besides.
+/// Writes down what the printer and the file dialogs were asked besides. A selection finds no printer.
 class Sistema : public PlataformaGuion {
   public:
     void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override {
-        pedido = titulo + (soloSeleccion ? ": selección de " : ": todo ") + documento.Caption();
-        if (sinImpresora) {
+        pedidos += titulo + (soloSeleccion ? ": selección de " : ": todo ") + documento.Caption() + "\n";
+        if (soloSeleccion) {
             throw ErrorEjecucion(kArgumentoNoValido);
         }
     }
     void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                        std::string& nombre) override {
-        ++dialogos;
-        pedido = (modo == ModoArchivo::Guardar ? "guardar " : "abrir ") + titulo + " " + filtro;
+        pedidos += (modo == ModoArchivo::Guardar ? "guardar " : "abrir ") + titulo + " " + filtro + "\n";
         PlataformaGuion::ElegirArchivo(modo, titulo, filtro, nombre);
     }
 
-    std::string pedido;
-    int dialogos = 0;
-    bool sinImpresora = false;
+    std::string pedidos;
 };
 
 /// A module whose report is its rows and a last line; it may be stopped before that line.
@@ -57,8 +56,7 @@ std::unique_ptr<Formulario> Hacer(Aplicacion& app) {
     return std::make_unique<Forma>(app);
 }
 
-const std::string kCabecera = "Resultados\n\nMódulo de prueba\n\n\n";
-const std::string kVacio = kCabecera + "Serie:\n\n---\n N°\t\t X\t\t\n---\n---\n\nfin\n";
+const std::string kVacio = "Resultados\n\nMódulo de prueba\n\n\nSerie:\n\n---\n N°\t\t X\t\t\n---\n---\n\nfin\n";
 
 class ReportesTest : public testing::Test {
   protected:
@@ -72,10 +70,8 @@ class ReportesTest : public testing::Test {
     EditorTextoRico& Texto() { return Padre().ActiveForm()->rtfText.Editor(); }
     std::string Titulo() { return Padre().ActiveForm() == nullptr ? "ninguno" : Padre().ActiveForm()->Caption(); }
     void Reportar() { app.Pulsar(M().bReporte); }
-    void Elegir(Menu& entrada, const std::string& archivo = "") {
-        if (!archivo.empty()) {
-            sistema.archivo = archivo;
-        }
+    void Elegir(Menu& entrada, const std::optional<std::string>& archivo = {}) {
+        sistema.archivo = archivo;
         app.Despachar([&] { entrada.Elegir(); });
     }
     void CerrarTodos() {
@@ -89,18 +85,7 @@ class ReportesTest : public testing::Test {
             app.PulsarTecla(0, c == '\n' ? int{kTeclaEnter} : c);
         }
     }
-    static std::string TextoGuardado(const std::string& ruta) {
-        EditorTextoRico editor;
-        editor.LoadFile(ruta);
-        return editor.Text();
-    }
-    std::vector<int> Errores() const {
-        std::vector<int> numeros;
-        for (const ErrorEjecucion& error : sistema.errores) {
-            numeros.push_back(error.Numero());
-        }
-        return numeros;
-    }
+    static std::string TextoGuardado(const std::string& ruta) { return LeerRtf(BytesDe(ruta)).Texto(); }
 
     pruebas::CarpetaTemporal carpeta;
     Sistema sistema;
@@ -111,22 +96,16 @@ class ReportesTest : public testing::Test {
 };
 
 // (width - length) / 2 blanks on each side, a half going to the even number.
-TEST(ReporteTest, CeldasYTablas) {
-    struct Caso {
-        const char* texto;
-        int ancho;
-        std::size_t blancos;
-    };
-    static constexpr Caso kCasos[] = {{"abc", 25, 11}, {"3.0000", 25, 10}, {"12.5", 25, 10}, {"1", 18, 8},
-                                      {"8.0", 18, 8},  {"", 25, 12},       {"años", 18, 7},  {"x", 2, 0},
-                                      {"xx", 2, 0},    {"xxxx", 2, 0}};
-    for (const Caso& caso : kCasos) {
-        EXPECT_EQ(Relleno(caso.texto, caso.ancho).size(), caso.blancos) << caso.texto;
+TEST_F(ReportesTest, CeldasYTablas) {
+    // clang-format off
+    const std::tuple<const char*, int, std::size_t> casos[] = {
+        {"abc", 25, 11}, {"3.0000", 25, 10}, {"12.5", 25, 10}, {"1", 18, 8}, {"8.0", 18, 8}, {"", 25, 12},
+        {"años", 18, 7}, {"x", 2, 0}, {"xx", 2, 0}, {"xxxx", 2, 0}};
+    // clang-format on
+    for (const auto& [texto, ancho, blancos] : casos) {
+        EXPECT_EQ(Relleno(texto, ancho).size(), blancos) << texto;
     }
     EditorTextoRico documento;
-    Reporte reporte(documento);
-    PlataformaGuion sistema;
-    Aplicacion app(sistema, {});
     Formulario forma(app, "f", "f");
     FlexGrid grid(forma, "g");
     grid.PonerRows(3);
@@ -135,14 +114,13 @@ TEST(ReporteTest, CeldasYTablas) {
         grid.PonerTextMatrix(1, c, std::to_string(c));
         grid.PonerTextMatrix(2, c, std::to_string(10 + c));
     }
-    reporte.EscribirTabla({.titulo = "T:",
-                           .regla = 2,
-                           .encabezado = UnirEncabezados({"a", "b"}, "\t"),
-                           .celda = CeldaCentrada(4, [](int fila, int) { return fila == 1 ? 1 : 0; }),
-                           .primeraColumna = 1,
-                           .columnas = 1,
-                           .reglaFinal = 3},
-                          grid, 2);
+    // clang-format off
+    const Reporte::Tabla tabla{
+        .titulo = "T:", .regla = 2, .encabezado = UnirEncabezados({"a", "b"}, "\t"),
+        .celda = CeldaCentrada(4, [](int fila, int) { return fila == 1 ? 1 : 0; }),
+        .primeraColumna = 1, .columnas = 1, .reglaFinal = 3};
+    // clang-format on
+    Reporte(documento).EscribirTabla(tabla, grid, 2);
     EXPECT_EQ(documento.Text(), "T:\n\n--\na\tb\t\n--\n   1  \n 11 \n---\n\n") << "(4 - 1) / 2 is 1.5, so 2";
     EXPECT_EQ(grid.Col(), 1) << "the cursor stays";
 }
@@ -173,12 +151,11 @@ TEST_F(ReportesTest, SeAcumulanDondeEstaElCursor) {
     Reportar();
     ASSERT_EQ(sistema.mensajes.size(), 2U) << "stopped half-way, and no document at all";
     for (const Mensaje& aviso : sistema.mensajes) {
-        EXPECT_EQ(aviso.texto, "No se puede editar el reporte: Módulo de prueba");
-        EXPECT_EQ(aviso.icono, 64);
-        EXPECT_EQ(aviso.titulo, "Mensaje de error");
+        EXPECT_EQ(std::tuple(aviso.texto, int{aviso.icono}, aviso.titulo),
+                  std::tuple("No se puede editar el reporte: Módulo de prueba", 64, "Mensaje de error"));
     }
     EXPECT_EQ(Titulo(), "ninguno");
-    EXPECT_EQ(Errores(), std::vector<int>{});
+    EXPECT_TRUE(sistema.errores.empty());
 }
 
 // The table is what the grid shows, also what was left in it without ENTER; reading it moves the grid's cursor.
@@ -190,9 +167,8 @@ TEST_F(ReportesTest, TablaDeLaCuadricula) {
     M().datos.grdt.PonerTextMatrix(2, 1, "z");
     Elegir(Padre().mnuFileNew);
     Reportar();
-    EXPECT_EQ(Texto().Text(), kCabecera +
-                                  "Serie:\n\n---\n N°\t\t X\t\t\n---\n 1\t\t1.0\t\t\n 2\t\tz\t\t\n 3\t\t3.0\t\t\n"
-                                  "---\n\nfin\n");
+    std::string lleno = kVacio;
+    EXPECT_EQ(Texto().Text(), lleno.insert(kVacio.rfind("---"), " 1\t\t1.0\t\t\n 2\t\tz\t\t\n 3\t\t3.0\t\t\n"));
     EXPECT_EQ(M().datos.grdt.Row(), 3);
     EXPECT_EQ(M().datos.grdt.TextMatrix(4, 0), "[?]");
 }
@@ -227,35 +203,35 @@ TEST_F(ReportesTest, GuardarYAbrir) {
     for (const std::string archivo : {"uno.rtf", "dos.rtf"}) {
         Elegir(Padre().mnuFileSave, carpeta / archivo);
         EXPECT_EQ(TextoGuardado(carpeta / archivo), "Año 1998");
-        EXPECT_EQ(sistema.pedido, "guardar Guardar Archivos (*.RTF)|*.RTF");
     }
     EXPECT_EQ(Titulo(), "Documento 2") << "so it is asked for again";
     // The first 8 characters alone tell.
     Padre().ActiveForm()->Caption = "Documents/serie.rtf";
     Elegir(Padre().mnuFileSave);
-    EXPECT_EQ(sistema.dialogos, 3);
     Elegir(Padre().mnuFileSaveAs);
     EXPECT_EQ(Titulo(), "Documents/serie.rtf") << "cancelled";
     Elegir(Padre().mnuFileSaveAs, carpeta / "tres.rtf");
-    EXPECT_EQ(sistema.pedido, "guardar Guardar como Archivos RTF(*.RTF)|*.RTF");
     EXPECT_EQ(Titulo(), carpeta / "tres.rtf");
     Texto().SelText("!");
     Elegir(Padre().mnuFileSave);
-    EXPECT_EQ(sistema.dialogos, 5) << "its name is known now";
-    EXPECT_EQ(TextoGuardado(carpeta / "tres.rtf"), "Año 1998!");
+    EXPECT_EQ(TextoGuardado(carpeta / "tres.rtf"), "Año 1998!") << "its name is known now";
 
     Elegir(Padre().mnuFileOpen, Guardar(carpeta / "serie.rtf", R"({\rtf1\pard\qc a\'f1o\par})"));
-    EXPECT_EQ(sistema.pedido, "abrir Abrir Archivos (*.RTF)|*.RTF");
     EXPECT_EQ(Texto().Text(), "año");
     EXPECT_EQ(Texto().SelAlignment(), 2);
     EXPECT_EQ(Titulo(), carpeta / "serie.rtf");
+    const std::string guardar = "guardar Guardar Archivos (*.RTF)|*.RTF\n";
+    const std::string guardarComo = "guardar Guardar como Archivos RTF(*.RTF)|*.RTF\n";
+    EXPECT_EQ(sistema.pedidos,
+              guardar + guardar + guardar + guardarComo + guardarComo + "abrir Abrir Archivos (*.RTF)|*.RTF\n");
     Elegir(Padre().mnuFileOpen, carpeta / "no hay.rtf");
     Elegir(Padre().mnuFileSaveAs, carpeta / "no/hay.rtf");
     EXPECT_EQ(Titulo(), carpeta / "no/hay.rtf") << "set before the file is written";
     EXPECT_EQ(Texto().Text(), "año");
     CerrarTodos();
     Elegir(Padre().mnuFileSave);
-    EXPECT_EQ(Errores(), (std::vector<int>{kArchivoNoEncontrado, kRutaNoEncontrada, kObjetoNoEstablecido}));
+    EXPECT_EQ(NumerosDe(sistema.errores),
+              (std::vector<int>{kArchivoNoEncontrado, kRutaNoEncontrada, kObjetoNoEstablecido}));
     Elegir(Padre().mnuFileOpen);
     EXPECT_EQ(Titulo(), "Documento 3") << "made first, also when the dialog is cancelled then";
 }
@@ -263,14 +239,11 @@ TEST_F(ReportesTest, GuardarYAbrir) {
 TEST_F(ReportesTest, PortapapelesEImpresora) {
     Elegir(Padre().mnuFileNew);
     Elegir(Padre().mnuFilePrint);
-    EXPECT_EQ(sistema.pedido, "Imprimir: todo Documento 2");
     Texto().SelRTF(R"({\rtf1\pard\qc uno\par\pard\b dos\b0  tres})");
     const TextoRico antes = Texto().Documento();
     Texto().SelStart(4);
     Texto().SelLength(5);
-    sistema.sinImpresora = true;
     Elegir(Padre().mnuFilePrint);
-    EXPECT_EQ(sistema.pedido, "Imprimir: selección de Documento 2");
     Elegir(Padre().mnuEditCopy);
     EXPECT_EQ(LeerRtf(sistema.portapapeles, ClaseRtf::kFragmento).Texto(), "dos t");
     sistema.portapapeles.clear();
@@ -284,12 +257,12 @@ TEST_F(ReportesTest, PortapapelesEImpresora) {
     EXPECT_EQ(Texto().Text(), "uno\ndos tñ\nres");
 
     CerrarTodos();
-    sistema.pedido.clear();
     for (Menu* entrada : {&Padre().mnuFileSaveAs, &Padre().mnuFilePrint, &Padre().mnuEditCut, &Padre().mnuEditCopy,
                           &Padre().mnuEditPaste}) {
         Elegir(*entrada);
     }
-    EXPECT_EQ(sistema.pedido + sistema.portapapeles, "ñ\n");
+    EXPECT_EQ(sistema.portapapeles, "ñ\n");
+    EXPECT_EQ(sistema.pedidos, "Imprimir: todo Documento 2\nImprimir: selección de Documento 2\n");
     EXPECT_TRUE(sistema.errores.empty()) << "a printer that fails and a missing document are no errors";
 }
 
