@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <utility>
 
 #include "frame/controles/aplicacion.h"
@@ -30,13 +31,12 @@ class FlexGridTest : public testing::Test {
     FlexGridTest() : g(Abrir()) {
         g.PonerRows(20);
         g.PonerCols(4);
-        const auto anotar = [this](Evento<>& evento, const std::string& nombre) {
-            evento.Conectar([this, nombre] { registro.push_back(nombre + " " + Celda()); });
-        };
-        anotar(g.LeaveCell, "deja");
-        anotar(g.RowColChange, "llega");
-        anotar(g.Scroll, "corre");
-        anotar(g.GotFocus, "foco");
+        for (const auto& [evento, nombre] : {std::pair{&g.LeaveCell, "deja "},
+                                             {&g.RowColChange, "llega "},
+                                             {&g.Scroll, "corre "},
+                                             {&g.GotFocus, "foco "}}) {
+            evento->Conectar([this, prefijo = std::string(nombre)] { registro.push_back(prefijo + Celda()); });
+        }
         g.MouseDown.Conectar(
             [this](int boton) { registro.push_back("botón " + std::to_string(boton) + " " + Celda()); });
     }
@@ -113,9 +113,7 @@ TEST_F(FlexGridTest, FilasYColumnasQueVanYVienen) {
     EXPECT_EQ(Columna(0), "N°|20||");
     g.PonerCelda(1, 2);
     g.Clear();
-    EXPECT_EQ(Columna(0) + Columna(2), "||||||");
-    EXPECT_EQ(g.ColWidth(1), 777);
-    EXPECT_EQ(Celda(), "1,2");
+    EXPECT_EQ(std::tuple(Columna(0) + Columna(2), g.ColWidth(1), Celda()), std::tuple("||||||", 777, "1,2"));
 }
 
 TEST_F(FlexGridTest, LoQueNoEstaEsElError9YNoCambiaNada) {
@@ -132,9 +130,7 @@ TEST_F(FlexGridTest, LoQueNoEstaEsElError9YNoCambiaNada) {
     for (std::size_t i = 0; i < fallos.size(); ++i) {
         EXPECT_EQ(NumeroDeError([&] { return fallos[i](), 0; }), kSubindiceFuera) << i;
     }
-    EXPECT_EQ(Sucesos(), Registro{});
-    EXPECT_EQ(g.Rows(), 20);
-    EXPECT_EQ(Celda(), "2,2");
+    EXPECT_EQ(std::tuple(Sucesos(), g.Rows(), Celda()), std::tuple(Registro{}, 20, "2,2"));
 }
 
 TEST_F(FlexGridTest, DesplazamientoYSeleccion) {
@@ -161,19 +157,17 @@ TEST_F(FlexGridTest, DesplazamientoYSeleccion) {
 TEST_F(FlexGridTest, TeclasMuevenLaCeldaYLaDejanALaVista) {
     g.PonerFilasVisibles(5);
     app.Despachar([&] { g.SetFocus(); });
-    struct Caso {
-        int tecla, veces, fila, columna;
-    };
-    static constexpr Caso kCasos[] = {{kTeclaArriba, 1, 1, 1},  {kTeclaIzquierda, 1, 1, 1}, {kTeclaAbajo, 8, 9, 1},
-                                      {kTeclaDerecha, 5, 9, 3}, {kTeclaFin, 1, 19, 3},      {kTeclaAbajo, 1, 19, 3},
-                                      {kTeclaRePag, 1, 15, 3},  {kTeclaAvPag, 2, 19, 3},    {kTeclaRePag, 2, 11, 3},
-                                      {kTeclaInicio, 1, 1, 3},  {kTeclaF2, 1, 1, 3}};
-    for (const Caso& caso : kCasos) {
-        for (int i = 0; i < caso.veces; ++i) {
-            app.PulsarTecla(caso.tecla, 0);
-            EXPECT_TRUE(g.Row() >= g.TopRow() && g.Row() < g.TopRow() + 5) << caso.tecla;
+    using Caso = std::tuple<int, int, const char*>;
+    static constexpr Caso kCasos[] = {{kTeclaArriba, 1, "1,1"},  {kTeclaIzquierda, 1, "1,1"}, {kTeclaAbajo, 8, "9,1"},
+                                      {kTeclaDerecha, 5, "9,3"}, {kTeclaFin, 1, "19,3"},      {kTeclaAbajo, 1, "19,3"},
+                                      {kTeclaRePag, 1, "15,3"},  {kTeclaAvPag, 2, "19,3"},    {kTeclaRePag, 2, "11,3"},
+                                      {kTeclaInicio, 1, "1,3"},  {kTeclaF2, 1, "1,3"}};
+    for (const auto& [tecla, veces, celda] : kCasos) {
+        for (int i = 0; i < veces; ++i) {
+            app.PulsarTecla(tecla, 0);
+            EXPECT_TRUE(g.Row() >= g.TopRow() && g.Row() < g.TopRow() + 5) << tecla;
         }
-        EXPECT_EQ(Celda(), std::to_string(caso.fila) + "," + std::to_string(caso.columna)) << caso.tecla;
+        EXPECT_EQ(Celda(), celda) << tecla;
     }
     g.PonerRows(1);
     app.PulsarTecla(kTeclaAbajo, 0);

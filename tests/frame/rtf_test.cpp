@@ -40,13 +40,9 @@ TextoRico Inventado(unsigned semilla) {
     const auto color = [&] { return hasta(1) == 1 ? std::optional<std::uint32_t>(hasta(0xFFFFFF)) : std::nullopt; };
     TextoRico texto;
     for (int i = hasta(6); i > 0; --i, texto.parrafos.emplace_back()) {
-        texto.parrafos.back().formato = {static_cast<Alineacion>(hasta(3)),
-                                         hasta(3000),
-                                         -hasta(500),
-                                         -hasta(700),
-                                         hasta(400),
-                                         hasta(400),
-                                         std::vector<int>(static_cast<std::size_t>(hasta(5)), 1 + hasta(30000))};
+        const std::vector<int> paradas(static_cast<std::size_t>(hasta(5)), 1 + hasta(30000));
+        texto.parrafos.back().formato = {
+            static_cast<Alineacion>(hasta(3)), hasta(3000), -hasta(500), -hasta(700), hasta(400), hasta(400), paradas};
         for (int j = hasta(4); j > 0; --j) {
             Tramo tramo{"",
                         {fuentes[hasta(2)], 1 + hasta(200), hasta(1) == 1, hasta(1) == 1, hasta(1) == 1, hasta(1) == 1,
@@ -92,8 +88,7 @@ TEST(Rtf, LibreOfficeLeeLoEscrito) {
         vivo{kFuenteReporte, 20, true, false, false, false, PosicionVertical::kNormal, 0xC00000, 0xFFFF00};
     alto.posicion = PosicionVertical::kSuperindice;
     texto.parrafos[4].tramos = {{"m", {}}, {"3", alto}, {"/s", {}}, {"más", vivo}};
-    const std::string reporte = Guardar(carpeta / "reporte.rtf", EscribirRtf(texto));
-    EXPECT_EQ(convertido(reporte), "\xEF\xBB\xBF" + texto.Texto() + "\n");
+    EXPECT_EQ(convertido(Guardar(carpeta / "reporte.rtf", EscribirRtf(texto))), "\xEF\xBB\xBF" + texto.Texto() + "\n");
 }
 
 // The texts follow from the definition of Rich Text Format 1.9.1, by the section named with each group.
@@ -199,13 +194,8 @@ TEST(Rtf, DocumentosDeLibreOffice) {
 }
 
 TEST(Rtf, PaginasDeCodigoComoLasDelSistema) {
-    // clang-format off
-    const std::pair<std::string, std::string> paginas[] = {
-        {"1250", "CP1250"}, {"1251", "CP1251"}, {"1252", "CP1252"}, {"1253", "CP1253"}, {"1254", "CP1254"},
-        {"437", "CP437"}, {"850", "CP850"}, {"10000", "MACINTOSH"}};
-    // clang-format on
-    for (const auto& [numero, nombre] : paginas) {
-        const iconv_t conversor = iconv_open("UTF-8", nombre.c_str());
+    for (const std::string numero : {"1250", "1251", "1252", "1253", "1254", "437", "850", "10000"}) {
+        const iconv_t conversor = iconv_open("UTF-8", numero == "10000" ? "MACINTOSH" : ("CP" + numero).c_str());
         for (int byte = 0x80; byte <= 0xFF; ++byte) {
             char origen[] = {static_cast<char>(byte), '\0'};
             char destino[8] = {};
@@ -215,7 +205,7 @@ TEST(Rtf, PaginasDeCodigoComoLasDelSistema) {
             if (numero == "10000" && (byte == 0xC6 || byte == 0xF0)) {
                 esperado = byte == 0xC6 ? "\u2206" : "\uf8ff";  // which glibc has otherwise; Apple's ROMAN.TXT (2005)
             }
-            EXPECT_EQ(TextoDe("{\\rtf1\\ansi\\ansicpg" + numero + origen + "}"), esperado) << nombre << " " << byte;
+            EXPECT_EQ(TextoDe("{\\rtf1\\ansi\\ansicpg" + numero + origen + "}"), esperado) << numero << " " << byte;
         }
         iconv_close(conversor);
     }
@@ -241,8 +231,7 @@ TEST(Rtf, FuentesHostiles) {
                                 .parrafos.at(0);
     EXPECT_LT(parrafo.tramos.at(0).formato.fuente.size(), 100u);
     EXPECT_EQ(parrafo.tramos[0].formato.medioPuntos, 3276);
-    EXPECT_EQ(parrafo.tramos[0].formato.color, std::nullopt);
-    EXPECT_EQ(parrafo.tramos[0].formato.fondo, std::nullopt);
+    EXPECT_FALSE(parrafo.tramos[0].formato.color || parrafo.tramos[0].formato.fondo);
     EXPECT_EQ(parrafo.formato,
               (FormatoParrafo{Alineacion::kIzquierda, 31680, -31680, 0, 0, 0, std::vector<int>(32, 5)}));
 }

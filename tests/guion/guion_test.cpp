@@ -84,112 +84,88 @@ std::string Estado(const std::string& control, const std::string& resto) {
     return R"({"control":")" + control + R"(","visible":)" + resto + "}\n";
 }
 
-// Each case is played on a program just started; `rechazos` counts the commands that could not be carried out.
+/// Carries out commands, one after each separator.
+void Jugar(Guion& guion, const std::string& ordenes, char separador = ';') {
+    std::istringstream entrada(ordenes);
+    for (std::string orden; std::getline(entrada, orden, separador);) {
+        guion.Ejecutar(orden);
+    }
+}
+
+// Each case is played on a program just started: its commands and what they print.
 TEST(GuionTest, OrdenesYLoQueImprimen) {
-    struct Caso {
-        std::vector<std::string> ordenes;
-        std::string imprime;
-    };
     const std::string vacia = Datos(R"(["[?]","",""])");
-    const Caso casos[] = {
-        {{"ver lblDato bCalcular opt2 FrameO frmGuion mnuAviso txtDigitos StatusBar1 grdt"},
+    const std::pair<std::string, std::string> casos[] = {
+        {"ver lblDato bCalcular opt2 FrameO frmGuion mnuAviso txtDigitos StatusBar1 grdt",
          Texto("lblDato", "dato") + Texto("bCalcular", "Calc&ular") + Texto("opt2", "Dos") +
              Texto("FrameO", "Opciones:") + Texto("frmGuion", "Módulo de prueba") + Texto("mnuAviso", "Aviso") +
              Texto("txtDigitos", "") + Texto("StatusBar1", "") + vacia},
-        {{"estado grdt opt1 bOculto bGris txtPagina"},
+        {"estado grdt opt1 bOculto bGris txtPagina",
          Estado("grdt", R"(true,"habilitado":true,"foco":true,"Row":1,"Col":1,"TopRow":1)") +
              Estado("opt1", R"(true,"habilitado":true,"valor":true,"foco":false)") +
              Estado("bOculto", R"(false,"habilitado":true,"foco":false)") +
              Estado("bGris", R"(true,"habilitado":false,"foco":false)") +
              Estado("txtPagina", R"(false,"habilitado":true,"foco":false)")},
-        {{"", "# nota", "   ", R"(elegir cbLatitud "a\"b\\c")", "ver cbLatitud", "\telegir  cbLatitud 15°  \r",
-          "ver cbLatitud lblDato", "elegir cbLatitud 10", "ver cbLatitud lblDato"},
+        {";# nota;   ;elegir cbLatitud \"a\\\"b\\\\c\";ver cbLatitud;\telegir  cbLatitud 15°  \r;"
+         "ver cbLatitud lblDato;elegir cbLatitud 10;ver cbLatitud lblDato",
          Texto("cbLatitud", R"(a\"b\\c)") + Texto("cbLatitud", "15°") + Texto("lblDato", "dato") +
              Texto("cbLatitud", "10") + Texto("lblDato", "elegida 10")},
-        {{"fila 1 2.5", "fila 3,9 abc", "celda grdt 1 2", "fila \"\" -4", "ver grdt"},
+        {"fila 1 2.5;fila 3,9 abc;celda grdt 1 2;fila \"\" -4;ver grdt",
          Datos(R"([" 1","1.0","2.5"],[" 2","3.0","0.0"],[" 3","0.0","-4.0"],["[->]","",""])")},
-        {{"fila 1 2", "fila 3 4", "celda grdt 1 2", "teclas 7.5{BACK}6{DOWN}", "teclas 9{ESC}", "teclas 8{ENTER}",
-          "teclas {UP}", "ver grdt", "estado grdt"},
+        {"fila 1 2;fila 3 4;celda grdt 1 2;teclas 7.5{BACK}6{DOWN};teclas 9{ESC};teclas 8{ENTER};"
+         "teclas {UP};ver grdt;estado grdt",
          Datos(R"([" 1","1.0","7.6"],[" 2","3.0","8.0"],["[?]","",""])") +
              Estado("grdt", R"(true,"habilitado":true,"foco":true,"Row":2,"Col":2,"TopRow":1)")},
-        {{"poner txtDigitos 1a2", "teclas 3x{BACK}4{x}", "ver txtDigitos", "poner txtDigitos 9", "ver txtDigitos"},
+        {"poner txtDigitos 1a2;teclas 3x{BACK}4{x};ver txtDigitos;poner txtDigitos 9;ver txtDigitos",
          Texto("txtDigitos", "124") + Texto("txtDigitos", "9")},
-        {{"click cmdNum(7)", "teclas {ENTER}", "teclas \" \"", "ver lblDato", "opcion opt2", "click cmdNum(7)",
-          "opcion opt2", "ver lblDato"},
+        {"click cmdNum(7);teclas {ENTER};teclas \" \";ver lblDato;opcion opt2;click cmdNum(7);opcion opt2;ver lblDato",
          Texto("lblDato", "dato777") + Texto("lblDato", "dos7")},
-        {{"fila 1 2", "fila 3 4", "menufila mnuEditInsertar 2", "ver grdt", "menufila mnuEditEliminar 4", "ver grdt"},
+        {"fila 1 2;fila 3 4;menufila mnuEditInsertar 2;ver grdt;menufila mnuEditEliminar 4;ver grdt",
          Datos(R"([" 1","1.0","2.0"],[" 2","",""],[" 3","3.0","4.0"],["[?]","",""])") + vacia},
-        {{"poner txtPagina hola", "estado txtPagina", "ficha SSTab1 0", "estado txtPagina"},
+        {"poner txtPagina hola;estado txtPagina;ficha SSTab1 0;estado txtPagina",
          Estado("txtPagina", R"(true,"habilitado":true,"foco":true)") +
              Estado("txtPagina", R"(false,"habilitado":true,"foco":false)")},
-        {{"click bCalcular", "ver lblDato", "click mnuAviso", "mensajes", "mensajes"},
+        {"click bCalcular;ver lblDato;click mnuAviso;mensajes;mensajes",
          "{\"error\":11,\"texto\":\"División por cero\"}\n" + Texto("lblDato", "antes") +
              R"({"mensajes":[{"texto":"Con \"comillas\",\n\\ y\ttab","icono":64,"titulo":"Título"}]})" +
              "\n{\"mensajes\":[]}\n"},
-        {{"fila 1 2", "forma frmCuencalia", "ver frmCuencalia", "menu mguion", "ver grdt", "click bMenu",
-          "ver frmCuencalia", "menu mguion", "ver grdt", "cerrar frmGuion", "ver frmCuencalia"},
+        {"fila 1 2;forma frmCuencalia;ver frmCuencalia;menu mguion;ver grdt;click bMenu;"
+         "ver frmCuencalia;menu mguion;ver grdt;cerrar frmGuion;ver frmCuencalia",
          Texto("frmCuencalia", "Menú") + Datos(R"([" 1","1.0","2.0"],["[->]","",""])") + Texto("frmCuencalia", "Menú") +
              vacia + Texto("frmCuencalia", "Menú")},
-        {{"fila 1 2", "click mnuAviso", "nuevo", "mensajes", "ver frmCuencalia", "menu mguion", "ver grdt"},
+        {"fila 1 2;click mnuAviso;nuevo;mensajes;ver frmCuencalia;menu mguion;ver grdt",
          "{\"mensajes\":[]}\n" + Texto("frmCuencalia", "Menú") + vacia},
     };
     const TablaFormas formas{{"frmCuencalia", [](Aplicacion& a) { return std::make_unique<MenuGuion>(a); }},
                              {"frmGuion", [](Aplicacion& a) { return std::make_unique<FormaGuion>(a); }}};
-    for (const Caso& caso : casos) {
+    for (const auto& [ordenes, imprime] : casos) {
         std::ostringstream salida;
         Guion guion(formas, salida);
-        guion.Ejecutar("menu mguion");
-        for (const std::string& orden : caso.ordenes) {
-            guion.Ejecutar(orden);
-        }
-        EXPECT_EQ(salida.str(), caso.imprime);
+        Jugar(guion, "menu mguion;" + ordenes);
+        EXPECT_EQ(salida.str(), imprime);
         EXPECT_FALSE(guion.HuboRechazo());
     }
 
+    // Each of these is rejected, and what is printed names its line, the first one being that of "menu mguion".
+    const std::string rechazadas =
+        "ver;ver noHay;ver ImageList1;\t# no;poner txtDigitos \"sin cerrar;celda grdt 4 1;celda grdt 1 3;"
+        "celda grdt uno 1;celda txtDigitos 1 1;menufila mnuEditInsertar 1;menufila mnuEditraya1 1;"
+        "menufila mnuEditEliminar 5;opcion cmdNum(7);elegir opt1 1;elegir cbFijo z;poner lblDato 1;poner txtFijo 1;"
+        "poner txtDigitos;ficha SSTab1 2;ficha SSTab1 -1;fichas SSTab1 0;click bOculto;click bGris;click noHay;"
+        "click lblDato;click;menu mgris;menu noHay;menu bsalir;forma frmOtra;cerrar frmOtra;Click cmdNum(7)";
     std::ostringstream salida;
     Guion guion(formas, salida);
-    guion.Ejecutar("menu mguion");
-    for (const char* orden : {"ver",
-                              "ver noHay",
-                              "ver ImageList1",
-                              "\t# no",
-                              R"(poner txtDigitos "sin cerrar)",
-                              "celda grdt 4 1",
-                              "celda grdt 1 3",
-                              "celda grdt uno 1",
-                              "celda txtDigitos 1 1",
-                              "menufila mnuEditInsertar 1",
-                              "menufila mnuEditraya1 1",
-                              "menufila mnuEditEliminar 5",
-                              "opcion cmdNum(7)",
-                              "elegir opt1 1",
-                              "elegir cbFijo z",
-                              "poner lblDato 1",
-                              "poner txtFijo 1",
-                              "poner txtDigitos",
-                              "ficha SSTab1 2",
-                              "ficha SSTab1 -1",
-                              "fichas SSTab1 0",
-                              "click bOculto",
-                              "click bGris",
-                              "click noHay",
-                              "click lblDato",
-                              "click",
-                              "menu mgris",
-                              "menu noHay",
-                              "menu bsalir",
-                              "forma frmOtra",
-                              "cerrar frmOtra",
-                              "Click cmdNum(7)"}) {
-        salida.str("");
-        guion.Ejecutar(orden);
-        EXPECT_TRUE(salida.str().starts_with(R"({"rechazo":")")) << orden << " -> " << salida.str();
+    Jugar(guion, "menu mguion;" + rechazadas);
+    std::istringstream impresas(salida.str());
+    int linea = 1;
+    for (std::string rechazo; std::getline(impresas, rechazo);) {
+        EXPECT_TRUE(rechazo.starts_with(R"({"rechazo":")")) << rechazo;
+        EXPECT_TRUE(rechazo.ends_with("\"linea\":" + std::to_string(++linea) + "}")) << rechazo;
     }
-    EXPECT_TRUE(salida.str().ends_with("\"linea\":33}\n")) << salida.str();
+    EXPECT_EQ(linea, 33);
     guion.Ejecutar("nuevo");
     EXPECT_TRUE(guion.HuboRechazo()) << "the exit status is that of the whole script";
-    guion.Ejecutar("click bsalir");
-    guion.Ejecutar("menu mguion");
+    Jugar(guion, "click bsalir;menu mguion");
     EXPECT_TRUE(salida.str().ends_with("{\"rechazo\":\"el programa terminó\",\"linea\":36}\n")) << salida.str();
 }
 
@@ -213,42 +189,26 @@ std::string Comparable(const std::string& texto) {
     return std::regex_replace(comparable, std::regex(R"(\\n)"), "\n");
 }
 
-/// A new folder to work in, from which the sample files are reached as ejemplos/.
-class CarpetaDeTrabajo {
-  public:
-    CarpetaDeTrabajo() {
-        std::filesystem::create_directory_symlink(std::filesystem::path(CUENCALIA_DATOS) / "../../ejemplos",
-                                                  nueva_ / "ejemplos");
-        std::filesystem::current_path(nueva_ / "");
-    }
-    ~CarpetaDeTrabajo() { std::filesystem::current_path(anterior_); }
-    CarpetaDeTrabajo(const CarpetaDeTrabajo&) = delete;
-    CarpetaDeTrabajo& operator=(const CarpetaDeTrabajo&) = delete;
-
-  private:
-    CarpetaTemporal nueva_;
-    std::filesystem::path anterior_ = std::filesystem::current_path();
-};
-
 // Each script stands beside what it must print, worked out apart from the program.
 TEST(Guiones, ImprimenLoEsperado) {
     int jugados = 0;
-    const std::filesystem::path carpeta = std::filesystem::path(CUENCALIA_DATOS) / "../guion/guiones";
-    for (const auto& entrada : std::filesystem::directory_iterator(carpeta)) {
-        if (entrada.path().extension() != ".guion") {
+    const std::filesystem::path datos = CUENCALIA_DATOS, anterior = std::filesystem::current_path();
+    for (const auto& entrada : std::filesystem::directory_iterator(datos / "../guion/guiones")) {
+        std::filesystem::path archivo = entrada.path();
+        if (archivo.extension() != ".guion") {
             continue;
         }
-        SCOPED_TRACE(entrada.path().filename());
-        const CarpetaDeTrabajo carpetaDeTrabajo;
+        SCOPED_TRACE(archivo.filename());
+        // A new folder to work in, from which the sample files are reached as ejemplos/.
+        const CarpetaTemporal carpeta;
+        std::filesystem::create_directory_symlink(datos / "../../ejemplos", carpeta / "ejemplos");
+        std::filesystem::current_path(carpeta / "");
         std::ostringstream salida;
         Guion guion(FormasDelPrograma(), salida);
-        std::istringstream lineas(BytesDe(entrada.path()));
-        for (std::string linea; std::getline(lineas, linea);) {
-            guion.Ejecutar(linea);
-        }
-        EXPECT_EQ(Comparable(salida.str()),
-                  Comparable(BytesDe(std::filesystem::path(entrada.path()).replace_extension(".esperado"))));
+        Jugar(guion, BytesDe(archivo), '\n');
+        EXPECT_EQ(Comparable(salida.str()), Comparable(BytesDe(archivo.replace_extension(".esperado"))));
         EXPECT_FALSE(guion.HuboRechazo());
+        std::filesystem::current_path(anterior);
         ++jugados;
     }
     EXPECT_GE(jugados, 7);

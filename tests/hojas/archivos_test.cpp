@@ -38,7 +38,7 @@ TEST(Libros, DanadosEnCualquierByte) {
         const std::string libro = Dato(nombre);
         const Filas filas = Leer(libro, 4);
         const bool esXls = libro[0] != 'P';
-        const auto exigir = [&](const std::string& danado, bool puedeServir) {
+        const auto sale = [&](const std::string& danado, bool puedeServir) {
             try {
                 return Leer(danado, 4) == filas && puedeServir;
             } catch (const ErrorEjecucion& error) {
@@ -46,10 +46,9 @@ TEST(Libros, DanadosEnCualquierByte) {
             }
         };
         for (std::size_t i = 0; i < libro.size(); ++i) {
-            ASSERT_TRUE(exigir(libro.substr(0, i), esXls)) << nombre << " " << i;
             std::string tocado = libro;
             tocado[i] = static_cast<char>(tocado[i] ^ 4);
-            ASSERT_TRUE(esXls || exigir(tocado, true)) << nombre << " " << i;
+            ASSERT_TRUE(sale(libro.substr(0, i), esXls) && (esXls || sale(tocado, true))) << nombre << " " << i;
         }
     }
 }

@@ -101,17 +101,17 @@ TEST(Xls, Rechazos) {
     const std::string textos = U32(0xFFFFFFFF) + U32(0xFFFFFFFF) + U16(1) + "\4"s + U32(0xFFFFFFFF) + "a";
     // Each entry of the directory, whose sector byte 48 of the header names, has its neighbours at bytes 68 and 72.
     std::string enCirculo = Ole({{"Uno", "1"}, {"Dos", "2"}, {"Tres", "3"}});
+    const auto sector = [](const std::string& libro, std::size_t byte) {
+        return 512U *
+               (static_cast<unsigned char>(libro[byte]) + 256U * static_cast<unsigned char>(libro[byte + 1]) + 1);
+    };
     for (std::size_t entrada = 0; entrada < 4; ++entrada) {
-        enCirculo.replace(512U * (static_cast<unsigned char>(enCirculo[48]) + 1U) + 128 * entrada + 68, 8,
-                          U32(1) + U32(2));
+        enCirculo.replace(sector(enCirculo, 48) + 128 * entrada + 68, 8, U32(1) + U32(2));
     }
     // The first sector of the table of sectors is named at byte 76 of the header; every sector is made its own next.
     std::string sinFin = Dato("xlwt.xls");
     for (unsigned i = 0; i < 128; ++i) {
-        sinFin.replace(
-            512U * (static_cast<unsigned char>(sinFin[76]) + 256U * static_cast<unsigned char>(sinFin[77]) + 1U) +
-                4 * i,
-            4, U32(i));
+        sinFin.replace(sector(sinFin, 76) + 4 * i, 4, U32(i));
     }
     // clang-format off
     const std::pair<std::string, std::string> casos[] = {
@@ -120,8 +120,9 @@ TEST(Xls, Rechazos) {
         {Ole({{"MBD00/Workbook", LibroBiff({{0, Numero(0, 1)}})}}), kNoEsLibro}, {enCirculo, kNoEsLibro},
         {sinFin, kDanado},
         {LibroDe({}, {}, 0x0400), "Formato de libro que no se lee; guárdelo como .xlsx o .xls (97-2003)"},
-        {LibroBiff({{2, ""}}), kSinHojas}, {Inicio(5, 0x0600) + Registro(0x0085, U32(0) + "\0\0"s) + kFin, kDanado},
-        // no sheet at position 0 {celda(0x0203, "corto"), kDanado},
+        {LibroBiff({{2, ""}}), kSinHojas}, {celda(0x0203, "corto"), kDanado},
+        // No sheet at position 0.
+        {Inicio(5, 0x0600) + Registro(0x0085, U32(0) + "\0\0"s) + kFin, kDanado},
         {celda(0x0203, U32(0) + U32(0x7FF00000)), kDanado}, {celda(0x0204, U16(65535) + "\0a"s), kDanado},
         {celda(0x00FD, U32(7)), kDanado},
         {LibroDe({{0x00FD, Celda(0, 0) + U32(4000000000U)}}, {{0x00FC, textos}}), kDanado}};

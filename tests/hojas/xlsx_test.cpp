@@ -127,12 +127,11 @@ TEST(Xlsx, RechazaLoQueCreceSinMedida) {
     Partes entidades = PaqueteCon("<row><c t='inlineStr'><is><t>&b;</t></is></c></row>");
     entidades["xl/hoja.xml"].insert(0, "<!DOCTYPE worksheet [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]>");
     EXPECT_EQ(Rechazo(Zip(entidades)), kDanado);
-    std::string abren, cierran, filas;
+    std::string anidadas, filas;
     for (int i = 0; i < 100; ++i) {
-        abren += "<x>";
-        cierran += "</x>";
+        anidadas = "<x>" + anidadas + "</x>";
     }
-    EXPECT_EQ(Rechazo(LibroCon(abren + cierran)), kDanado);
+    EXPECT_EQ(Rechazo(LibroCon(anidadas)), kDanado);
     const std::string unTexto = "<row><c t='s'><v>0</v></c></row>";
     EXPECT_EQ(Rechazo(LibroCon(unTexto, "<si><t>" + std::string(32768 * 7, 'a') + "</t></si>")), kDanado);
     // Blanks pack a thousand to one.

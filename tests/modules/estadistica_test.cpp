@@ -63,12 +63,6 @@ void Esperar(const std::vector<Double>& obtenidos, const Valores& esperados, dou
     }
 }
 
-void EsperarMomentos(const ParametrosEstadisticos& p, double media, double varianza, double Cs, double Ck) {
-    const double s = std::sqrt(varianza);  // fewer than twenty rounded operations
-    Esperar({p.media, p.varianza, p.desviacion, p.Cv, p.Cs, p.Ck}, {media, varianza, s, s / media, Cs, Ck},
-            20 * kRedondeo);
-}
-
 // Cs = n²·m3 / ((n-1)(n-2)·s³), Ck = n³·m4 / ((n-1)(n-2)(n-3)·s⁴) of a sample; by hand:
 //  - 1, 2, 3, 4, 10: mean 4, sums of the powers of the deviations 50, 180, 1394; Cs = 25·36/(12·12.5^1.5), Ck =
 //    125·278.8/(24·12.5²). Differences of pairs add up to 40; over the triples x3 - 2·x2 + x1 adds up to
@@ -77,12 +71,17 @@ void EsperarMomentos(const ParametrosEstadisticos& p, double media, double varia
 //    15, triples 6+12-3+12+3 = 30 of 20, quadruples 2+4-6+6+12 = 18 of 15.
 TEST(Momentos, CalculadosAMano) {
     const Serie x = EnSerie({10, 3, 1, 4, 2}), y = EnSerie({5, 1, 2, 1, 1, 2});
-    EsperarMomentos(ParametrosMuestrales(x, 5), 4, 12.5, 6 / std::sqrt(12.5), 697.0 / 75);
-    EsperarMomentos(ParametrosPoblacionales(x, 5), 4, 10, 3.6 / std::sqrt(10), 2.788);
-    EsperarMomentos(ParametrosMuestrales(y, 6), 2, 2.4, 3 / std::sqrt(2.4), 8.75);
-    EsperarMomentos(ParametrosPoblacionales(y, 6), 2, 2, std::sqrt(2), 3.5);
-    EsperarMomentos(ParametrosAgrupados(EnSerie({1, 2, 5}), EnSerie({3, 2, 1}), 3, 6), 2, 2.4, 3 / std::sqrt(2.4),
-                    8.75);
+    using Caso = std::tuple<ParametrosEstadisticos, double, double, double, double>;
+    for (const auto& [p, media, varianza, Cs, Ck] :
+         {Caso{ParametrosMuestrales(x, 5), 4, 12.5, 6 / std::sqrt(12.5), 697.0 / 75},
+          {ParametrosPoblacionales(x, 5), 4, 10, 3.6 / std::sqrt(10), 2.788},
+          {ParametrosMuestrales(y, 6), 2, 2.4, 3 / std::sqrt(2.4), 8.75},
+          {ParametrosPoblacionales(y, 6), 2, 2, std::sqrt(2), 3.5},
+          {ParametrosAgrupados(EnSerie({1, 2, 5}), EnSerie({3, 2, 1}), 3, 6), 2, 2.4, 3 / std::sqrt(2.4), 8.75}}) {
+        const double s = std::sqrt(varianza);  // fewer than twenty rounded operations
+        Esperar({p.media, p.varianza, p.desviacion, p.Cv, p.Cs, p.Ck}, {media, varianza, s, s / media, Cs, Ck},
+                20 * kRedondeo);
+    }
     const auto lineales = [](const Valores& valores) {
         const auto [L1, L2, L3, L4] = CalcularMomentosLineales(Ordenada(valores), Cuantos(valores));
         return std::vector<Double>{L1, L2, L3, L4};
@@ -96,10 +95,9 @@ TEST(Momentos, CalculadosAMano) {
 TEST(MomentosLineales, PublicadosYDeTresMilValores) {
     for (const std::string muestra : {"lmoments3_muestra11", "numerics_lmom_31"}) {
         const auto [L1, L2, L3, L4] = LinealesDe(muestra);
-        EsperarPublicado(muestra + ",momentos lineales,l1", L1);
-        EsperarPublicado(muestra + ",momentos lineales,l2", L2);
-        EsperarPublicado(muestra + ",momentos lineales,t3", L3 / L2);
-        EsperarPublicado(muestra + ",momentos lineales,t4", L4 / L2);
+        for (const auto& [figura, l] : {std::pair{"l1", L1}, {"l2", L2}, {"t3", L3 / L2}, {"t4", L4 / L2}}) {
+            EsperarPublicado(muestra + ",momentos lineales," + figura, l);
+        }
     }
     constexpr int n = 3000;
     Arreglo<Double, 1, n> x;
@@ -117,9 +115,9 @@ TEST(Momentos, ErroresDeEjecucion) {
     const auto errores = [](const Valores& valores) {
         const Serie x = Ordenada(valores);
         const int n = Cuantos(valores);
-        return std::vector<int>{NumeroDeError([&] { return ParametrosMuestrales(x, n); }),
-                                NumeroDeError([&] { return ParametrosPoblacionales(x, n); }),
-                                NumeroDeError([&] { return CalcularMomentosLineales(x, n); })};
+        return std::vector{NumeroDeError([&] { return ParametrosMuestrales(x, n); }),
+                           NumeroDeError([&] { return ParametrosPoblacionales(x, n); }),
+                           NumeroDeError([&] { return CalcularMomentosLineales(x, n); })};
     };
     using Errores = std::vector<int>;
     EXPECT_EQ(errores({5}), (Errores{6, 6, 6})) << "the sample's variance, the population's Cs, L2";
@@ -164,9 +162,8 @@ void EsperarClases(const Valores& valores, double desde, double ancho, const Val
     ASSERT_EQ(c.NC, Cuantos(frecuencias));
     EXPECT_EQ(c.ancho, ancho);
     for (int i = 1; i <= Cuantos(frecuencias); ++i) {
-        EXPECT_DOUBLE_EQ(c.LCI(i).valor(), desde + (i - 1) * ancho);
-        EXPECT_DOUBLE_EQ(c.MCL(i).valor(), desde + (i - 0.5) * ancho);
-        EXPECT_DOUBLE_EQ(c.LCS(i).valor(), desde + i * ancho);
+        Esperar({c.LCI(i), c.MCL(i), c.LCS(i)}, {desde + (i - 1) * ancho, desde + (i - 0.5) * ancho, desde + i * ancho},
+                8 * kRedondeo);
         EXPECT_EQ(c.FA(i), frecuencias[static_cast<std::size_t>(i - 1)]) << i << " from " << desde;
     }
 }
@@ -209,8 +206,7 @@ TEST(RegresionLineal, CertificadaPorNist) {
 TEST(RegresionLineal, CalculadaAMano) {
     const auto esperar = [](const Valores& x, const Valores& y, int n, double a, double b, double R) {
         const RectaRegresion recta = AjustarRecta(EnSerie(x), EnSerie(y), n);
-        EXPECT_EQ(recta.a, a);
-        EXPECT_EQ(recta.b, b);
+        EXPECT_EQ(std::pair(recta.a, recta.b), std::pair(Double(a), Double(b)));
         EXPECT_DOUBLE_EQ(CoeficienteCorrelacion(recta).valor(), R);
     };
     esperar({0, 2, 77}, {1, 5, -99}, 2, 1, 2, 1);                           // the third pair does not count
