@@ -25,7 +25,8 @@ namespace cuencalia {
 Escritorio::Escritorio(TablaFormas formas) : app_(std::make_unique<Aplicacion>(*this, std::move(formas))) {}
 
 Escritorio::~Escritorio() {
-    // A window that closes gives the focus to another one, which must not tell a program that is going.
+    // All windows let go of their forms first: a closing window gives the focus to another one, which must not report
+    // that to a program being destroyed.
     for (const auto& [forma, ventana] : ventanas_) {
         ventana->Soltar();
     }
@@ -53,8 +54,8 @@ void Escritorio::Pintar() {
     DarFoco();
 }
 
-/// The widget of the control that has the focus has it too. Hiding a widget makes the toolkit choose another one, so
-/// this comes last.
+/// Gives the focus to the widget of the control that has it in the program. This is done after all views are up to
+/// date, because the toolkit moves the focus when a widget is hidden.
 void Escritorio::DarFoco() {
     const Control* foco = app_->Foco();
     if (foco == nullptr || foco->Vista() == nullptr) {
@@ -130,7 +131,7 @@ void Escritorio::MenuEmergente(Menu& menu) {
     const Control* foco = app_->Foco();
     const auto* grid = dynamic_cast<const FlexGrid*>(foco);
     if (grid != nullptr && grid->Vista() != nullptr) {
-        // Called from the keyboard the pointer may be anywhere: the menu opens at the current cell.
+        // A menu opened from the keyboard appears at the current cell, since the pointer may be anywhere.
         const auto* vista = static_cast<VistaGrid*>(grid->Vista());
         const QWidget* tabla = vista->Tabla()->viewport();
         const QRect enPantalla(tabla->mapToGlobal(QPoint(0, 0)), tabla->size());
@@ -156,8 +157,8 @@ void Escritorio::ImprimirDocumento(Formulario& documento, bool soloSeleccion, co
     }
 }
 
-/// The workbook goes to a file of the user's choice where there is no spreadsheet program, to a new temporary one
-/// otherwise.
+/// Writes the workbook to a temporary file for the spreadsheet program, or, where there is none, to a file chosen by
+/// the user.
 void Escritorio::MostrarLibro(const Hoja& hoja) {
     QTemporaryFile plantilla(QDir::tempPath() + QStringLiteral("/serie-XXXXXX.xlsx"));
     plantilla.setAutoRemove(false);
@@ -226,8 +227,7 @@ void Escritorio::GuardarAjuste(const std::string& clave, const std::string& valo
 
 std::string Escritorio::CarpetaInstalacion() const {
     const QDir programa(QCoreApplication::applicationDirPath());
-    // An installed program keeps its files in share/; one that runs from its build folder finds them in the source
-    // tree.
+    // An installed program has its files in share/; a program run from its build folder uses those of the source tree.
     for (const char* lugar : {"../share/cuencalia", "../../..", ".."}) {
         if (programa.exists(QLatin1String(lugar) + QStringLiteral("/ayuda"))) {
             return Std(QDir::cleanPath(programa.filePath(QLatin1String(lugar))));

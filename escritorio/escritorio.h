@@ -14,7 +14,7 @@ namespace cuencalia {
 class Ventana;
 class Vista;
 
-/// The program on a desktop: windows, dialogs, printer and shell.
+/// The platform for a desktop: windows, dialogs, printer and shell.
 class Escritorio : public Plataforma {
   public:
     explicit Escritorio(TablaFormas formas);
@@ -22,10 +22,10 @@ class Escritorio : public Plataforma {
 
     Aplicacion& App() { return *app_; }
 
-    /// A view to bring up to date when the event that changed its control has ended.
+    /// Marks a view as outdated; it is updated when the current event has ended.
     void Ensuciar(Vista* vista);
     void Olvidar(Vista* vista);
-    /// Whether the views are being brought up to date: what the widgets tell meanwhile is no act of the user.
+    /// True while the views are being updated: signals of the widgets are then not caused by the user.
     bool Pintando() const { return pintando_; }
     void Pintar();
 
@@ -52,7 +52,7 @@ class Escritorio : public Plataforma {
 
   private:
     void DarFoco();
-    /// The window of a form, made if there is none yet.
+    /// The window of a form; it is created if there is none yet.
     Ventana& VentanaPara(Formulario& forma);
 
     std::unique_ptr<Aplicacion> app_;

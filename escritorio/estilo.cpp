@@ -113,7 +113,7 @@ QToolTip { background: @base; color: @texto; border: 1px solid @linea; padding: 
     return hoja;
 }
 
-/// Draws an SVG at whatever size and scale the screen asks for, and keeps what it drew.
+/// Draws an SVG in the size and scale that the screen asks for, and caches the drawings.
 class MotorSvg : public QIconEngine {
   public:
     explicit MotorSvg(const QString& archivo) : svg_(new QSvgRenderer(archivo)) {}

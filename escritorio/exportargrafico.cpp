@@ -11,7 +11,7 @@ namespace cuencalia {
 namespace {
 
 constexpr QSize kPapelMinimo(640, 440);
-constexpr double kEscalaImagen = 2;  ///< Pixels of a picture for each of the screen's.
+constexpr double kEscalaImagen = 2;  ///< Pixels of the picture for each pixel of the screen.
 
 void PonerEnPapel(LienzoGrafico& papel, const GraficoModulo& grafico, const LienzoGrafico& pantalla) {
     papel.resize(pantalla.size().expandedTo(kPapelMinimo));
@@ -21,7 +21,7 @@ void PonerEnPapel(LienzoGrafico& papel, const GraficoModulo& grafico, const Lien
 
 QPixmap Foto(LienzoGrafico& papel) { return papel.toPixmap(papel.width(), papel.height(), kEscalaImagen); }
 
-/// Draws the chart line by line, so that it stays sharp at any size; `dispositivo` has its size already.
+/// Draws the chart as vectors, so that it stays sharp at any size; the size of `dispositivo` must be set before.
 bool Trazar(LienzoGrafico& papel, QPaintDevice& dispositivo) {
     QCPPainter pintor;
     if (!pintor.begin(&dispositivo)) {

@@ -10,10 +10,12 @@ class LienzoGrafico;
 
 enum class FormatoGrafico { Png, Pdf, Svg };
 
-/// A picture of the part of the chart that `pantalla` shows: dark on white, as large as there and never cramped.
+/// A picture of the part of the chart that `pantalla` shows: dark on white, as large as on the screen but not below a
+/// minimum size.
 QPixmap FotoDeGrafico(const GraficoModulo& grafico, const LienzoGrafico& pantalla);
 
-/// Writes the same in place of a file. The answer is empty, or says why that failed; the file then stays as it was.
+/// Writes such a picture to a file, replacing an existing one. Returns an empty text, or the reason of a failure; the
+/// old file is then unchanged.
 QString GuardarGrafico(const GraficoModulo& grafico, const LienzoGrafico& pantalla, const QString& archivo,
                        FormatoGrafico formato);
 

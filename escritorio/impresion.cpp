@@ -27,9 +27,9 @@ namespace {
 
 constexpr qreal kMargenHoja = 20;  // mm
 constexpr qreal kPixelesPorPunto = 96.0 / 72;
-constexpr qreal kEscalaMinima = 0.6;  // 10 point letters come out at 6; below that nobody reads them
+constexpr qreal kEscalaMinima = 0.6;  // 10-point letters are then printed as 6 points; smaller ones would be illegible
 
-/// A rule, or a row whose cells are parted by tabs: broken in two it is no table any more. Prose may be broken.
+/// True for a rule, and for a row with cells separated by tabs: such lines must not be broken. Prose may be.
 bool EsDeTabla(const QString& linea) {
     return linea.contains(QLatin1Char('\t')) ||
            (!linea.isEmpty() && std::all_of(linea.begin(), linea.end(), [](QChar c) { return c == QLatin1Char('-'); }));
@@ -88,8 +88,8 @@ bool PideApaisado(const QTextDocument& documento, const QPagedPaintDevice& hoja)
     return AnchoDeTablas(documento) > std::min(util.width(), util.height());
 }
 
-/// The page is laid out at 96 pixels an inch, as on the screen, and painted to the size of the sheet: a page made wider
-/// for the widest table comes out smaller as a whole, and columns of dashes, blanks and tabs keep lining up.
+/// The page is laid out at 96 pixels an inch, as on the screen, and scaled to the sheet. For a wide table the page is
+/// made wider, so that it is printed smaller as a whole and columns of dashes, blanks and tabs stay aligned.
 void ImprimirAjustado(QTextDocument& documento, QPagedPaintDevice& hoja) {
     const QSizeF util = EnPixeles(hoja.pageLayout().paintRectPoints().size());
     const qreal escala = std::clamp(util.width() / std::max(AnchoDeTablas(documento), 1.0), kEscalaMinima, 1.0);

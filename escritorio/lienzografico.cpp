@@ -15,20 +15,22 @@ namespace {
 
 constexpr QSize kTamanoMinimo(320, 220), kTamanoNatural(480, 320);
 constexpr double kAire = 0.04;  ///< Share of the range left free on either side of the data.
-constexpr double kMayorAcercamiento = 1e-6, kMayorAlejamiento = 1e3;  ///< Shares of the range of all the data.
-constexpr double kMayorValor = 1e200;   ///< Beyond it the axes know no range: such a point is left out.
-constexpr double kAlcancePuntero = 24;  ///< Pixels within which a point answers to the pointer.
-constexpr int kSimbolosTodos = 40;      ///< Points of a line up to which each one has its symbol.
-constexpr int kSimbolosPorLinea = 24;   ///< More would hide the dashes that tell the lines apart.
+constexpr double kMayorAcercamiento = 1e-6, kMayorAlejamiento = 1e3;  ///< Zoom limits, shares of the range of all data.
+constexpr double kMayorValor = 1e200;   ///< Beyond it the axes cannot show a point: it is left out.
+constexpr double kAlcancePuntero = 24;  ///< Greatest distance in pixels from the pointer to a point that it marks.
+constexpr int kSimbolosTodos = 40;      ///< A line with up to this many points has a symbol at each of them.
+constexpr int kSimbolosPorLinea = 24;   ///< Symbols of a longer line; more would hide the dashes that tell lines apart.
 constexpr double kGrosor = 1.8, kLadoSimbolo = 7;
-constexpr int kPuntosDensos = 300;                  ///< More are drawn finer: legible, and some fifty times as fast.
+constexpr int kPuntosDensos = 300;  ///< Lines with more are thinner: legible, and drawn some fifty times as fast.
 constexpr int kMuestra = 36, kMuestraSimbolo = 14;  ///< Width of a line and of a lone symbol in the legend.
-constexpr int kMargenEjes = 9;                      ///< Left of the numbers and below the title.
-constexpr int kMargenDerecho = 26;                  ///< Holds half of the last number of the axis.
+constexpr int kMargenEjes = 9;                      ///< Margin left of the axis numbers and below the title.
+constexpr int kMargenDerecho = 26;                  ///< Room for the right half of the last axis number.
 constexpr int kAlfaRelleno = 90;
 
-/// Colours that eyes without red or green keep apart, dark ones for paper and light ones for a dark screen.
-/// Source: Okabe, M. and Ito, K. (2008), "Color Universal Design", University of Tokyo; the green on dark is lighter.
+/// Colours that people with red or green colour blindness can tell apart: dark ones for paper, light ones for a dark
+/// screen.
+/// Source: Okabe, M. and Ito, K. (2008), "Color Universal Design", University of Tokyo; the green for dark screens is
+/// lighter.
 constexpr std::array<QRgb, 6> kSobreClaro{0xff0072b2, 0xffd55e00, 0xff009e73, 0xff000000, 0xffcc79a7, 0xffe69f00};
 constexpr std::array<QRgb, 6> kSobreOscuro{0xff56b4e9, 0xffe69f00, 0xff2fb98f, 0xfff2f2f2, 0xffcc79a7, 0xfff0e442};
 
@@ -36,7 +38,7 @@ constexpr std::array kSimbolos{QCPScatterStyle::ssCircle,   QCPScatterStyle::ssS
                                QCPScatterStyle::ssTriangle, QCPScatterStyle::ssDiamond,
                                QCPScatterStyle::ssCross,    QCPScatterStyle::ssTriangleInverted};
 
-/// Dashes and gaps in widths of the line; without any the line is solid.
+/// Lengths of dashes and gaps, in line widths; an empty list is a solid line.
 const std::array<QVector<qreal>, 6> kRayas{{{}, {5, 2.5}, {7, 2.5, 1.2, 2.5}, {1.2, 2}, {10, 3}, {7, 2, 1, 2, 1, 2}}};
 
 bool EnEjes(double valor) { return std::abs(valor) < kMayorValor; }
@@ -54,7 +56,7 @@ std::vector<QPointF> PuntosDe(const GraficoModulo& grafico, std::size_t conjunto
     return puntos;
 }
 
-/// The values with some room on either side; a lone value gets a range around it.
+/// The range from `minimo` to `maximo` with some room on either side; a single value gets a range around it.
 QCPRange ConAire(double minimo, double maximo) {
     const double mayor = std::max(std::abs(minimo), std::abs(maximo));
     const bool uno = maximo - minimo <= 1e-9 * mayor;
@@ -64,7 +66,8 @@ QCPRange ConAire(double minimo, double maximo) {
 
 QString Numero(double valor) { return QString::number(valor, 'g', 7); }
 
-/// Numbers of an axis, with as many decimals as its ticks need and powers of ten only where a number would be too long.
+/// Axis numbers with as many decimals as the ticks need; powers of ten are used only for numbers that would be too
+/// long.
 class Marcas : public QCPAxisTicker {
   protected:
     double getTickStep(const QCPRange& rango) override {
@@ -121,7 +124,7 @@ LienzoGrafico::LienzoGrafico(QWidget* padre) : QCustomPlot(padre) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
 
-    // The legend stands in the middle of a row of its own, where it hides no point.
+    // The legend is centred in a row of its own, where it covers no point.
     auto* fila = new QCPLayoutGrid;
     plotLayout()->insertRow(0);
     plotLayout()->addElement(0, 0, fila);
@@ -138,7 +141,7 @@ LienzoGrafico::LienzoGrafico(QWidget* padre) : QCustomPlot(padre) {
     axisRect()->setMinimumMargins(QMargins(0, kMargenDerecho / 2, kMargenDerecho, 0));
 
     QFont letra = font();
-    letra.setPixelSize(QFontInfo(letra).pixelSize());  // points would grow with the resolution of a file
+    letra.setPixelSize(QFontInfo(letra).pixelSize());  // points would change with the resolution of a file
     legend->setFont(letra);
     for (QCPAxis* eje : {xAxis, yAxis}) {
         eje->setTicker(QSharedPointer<Marcas>::create());
@@ -155,7 +158,8 @@ LienzoGrafico::LienzoGrafico(QWidget* padre) : QCustomPlot(padre) {
     connect(yAxis, qOverload<const QCPRange&, const QCPRange&>(&QCPAxis::rangeChanged), this,
             [this](const QCPRange& nuevo, const QCPRange& anterior) { Limitar(*yAxis, todoY_, nuevo, anterior); });
 
-    // What follows the pointer is painted over the finished chart, which need not be drawn again for it.
+    // The marker and the text that follow the pointer are on a layer of their own, so that the chart need not be drawn
+    // again when the pointer moves.
     senal_ = new QCPItemTracer(this);
     senal_->setLayer(QStringLiteral("overlay"));
     senal_->setStyle(QCPItemTracer::tsCircle);
@@ -223,7 +227,7 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     if (area) {
         Rellenar(puntos, grafico.PatternData != 0, color);
     }
-    // A curve keeps the order of the points, which an outline needs: a graph would sort them by x.
+    // QCPCurve keeps the order of the points, which closed outlines need; a QCPGraph would sort them by x.
     auto* trazo = new QCPCurve(xAxis, yAxis);
     QVector<double> x, y;
     for (const QPointF& punto : puntos) {
@@ -243,7 +247,8 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     trazo->setPen(pluma);
     trazo->setLineStyle(sueltos ? QCPCurve::lsNone : QCPCurve::lsLine);
     if (!area) {
-        // On a line the symbol stands clear of it; a lone one must not hide another set's at the same place.
+        // A symbol on a line is filled with the paper colour, so that it stands out; a lone symbol is not filled, so
+        // that it does not hide a symbol of another set at the same place.
         const QBrush dentro = sueltos ? QBrush(Qt::NoBrush) : QBrush(tinta.papel);
         trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), dentro, kLadoSimbolo});
         trazo->setScatterSkip(sueltos || n <= kSimbolosTodos ? 0 : n / kSimbolosPorLinea);
@@ -312,7 +317,7 @@ void LienzoGrafico::Acomodar(QSize tamano) {
         --columnas;
     }
     const int filas = (Trazos() + columnas - 1) / columnas;
-    legend->setWrap((Trazos() + filas - 1) / filas);  // rows of much the same length
+    legend->setWrap((Trazos() + filas - 1) / filas);  // all rows of the legend have about the same number of entries
     legend->setFillOrder(QCPLegend::foColumnsFirst, true);
 }
 
@@ -342,7 +347,8 @@ void LienzoGrafico::Acercar(double factor) {
     replot();
 }
 
-/// A range too small has no numbers left to tell its ends apart, one too large shows nothing.
+/// Undoes a zoom beyond the limits: in too small a range the axis numbers would all look the same, in too large a range
+/// the data would be invisible.
 void LienzoGrafico::Limitar(QCPAxis& eje, const QCPRange& todo, const QCPRange& nuevo, const QCPRange& anterior) {
     OcultarSenal();
     const double menor = std::max(kMayorAcercamiento * todo.size(), 1e-9 * std::abs(nuevo.center()));
@@ -403,7 +409,7 @@ void LienzoGrafico::Senalar(const Lugar& lugar) {
     const QString donde = QStringLiteral("x = %1, y = %2").arg(Numero(x), Numero(y));
     valores_->setText(ConLeyenda() ? trazo.name() + QLatin1Char('\n') + donde : donde);
 
-    // Towards the middle of the chart, where there is room.
+    // The text is placed on the side of the point towards the middle of the chart, where there is room.
     const QPointF pixel = Pixel(lugar);
     const bool izquierda = pixel.x() < axisRect()->center().x();
     const bool arriba = pixel.y() < axisRect()->center().y();

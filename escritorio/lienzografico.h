@@ -10,14 +10,14 @@
 
 namespace cuencalia {
 
-/// What a chart is drawn with.
+/// The colours with which a chart is drawn.
 struct Tinta {
     QColor papel, texto, eje, rejilla;
     const std::array<QRgb, 6>* series;
 
     /// Dark on white.
     static Tinta DePapel();
-    /// The colours of the screen; a grey chart has the ground of the window.
+    /// The colours of the screen; a chart with grey background gets that of the window.
     static Tinta DePantalla(const QPalette& paleta, bool gris);
 };
 
@@ -29,12 +29,12 @@ class LienzoGrafico : public QCustomPlot {
     void Dibujar(const GraficoModulo& grafico, const Tinta& tinta);
     void VerTodo();
     void VerComo(const LienzoGrafico& otro);
-    /// Below 1 shows less of the chart, above 1 more.
+    /// Zooms: a factor below 1 shows a smaller range, above 1 a larger one.
     void Acercar(double factor);
 
-    /// Tells the values of the point nearest to that place, if there is one within reach.
+    /// Shows the values of the point nearest to `lugar`, if one is close enough.
     void Senalar(QPointF lugar);
-    /// Goes on by so many points within the set, or by so many sets, and tells the values there.
+    /// Moves the marked point by so many points within its set, or by so many sets, and shows its values.
     void Recorrer(int puntos, int conjuntos);
 
     int Trazos() const { return static_cast<int>(trazos_.size()); }
@@ -61,7 +61,7 @@ class LienzoGrafico : public QCustomPlot {
     void PonerLeyenda(bool conTextos, bool sinLineas);
     int AnchoLeyenda(int columnas) const;
     void MedirDatos(bool desdeCero);
-    /// Fits legend and axes to that size.
+    /// Adapts legend and axes to that size.
     void Acomodar(QSize tamano);
     void Limitar(QCPAxis& eje, const QCPRange& todo, const QCPRange& nuevo, const QCPRange& anterior);
     std::optional<Lugar> MasCercano(QPointF lugar) const;

@@ -25,7 +25,7 @@ bool Programa::notify(QObject* receptor, QEvent* evento) {
 }
 
 void Programa::Contar(const ErrorEjecucion& error, const QEvent& evento) {
-    // Paintings and timers come again by themselves: a message each time would never let the user go on.
+    // Painting and timer events are repeated by themselves: a message for each would make the program unusable.
     const bool seRepite = evento.type() == QEvent::Paint || evento.type() == QEvent::Timer;
     if (!alFallar || (seRepite && !contados_.insert(error.Texto()).second)) {
         return;

@@ -9,13 +9,14 @@
 
 namespace cuencalia {
 
-/// The toolkit's application. What a painting, a timer or any other event raises outside of the program's own door is
-/// told, and the program goes on: the toolkit itself would end it.
+/// The toolkit's application object. An exception thrown by a painting, a timer or any other event that does not pass
+/// through Aplicacion::Despachar is reported to the user and the program goes on; the toolkit itself would end the
+/// program.
 class Programa : public QApplication {
   public:
     using QApplication::QApplication;
 
-    /// Tells the user; it runs after the event that failed.
+    /// Reports a failure to the user; it is called after the event that failed.
     std::function<void(const ErrorEjecucion&)> alFallar;
 
     bool notify(QObject* receptor, QEvent* evento) override;

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kMargenDocumento = 100;  // twips around the text of a document
 
-/// What a window shows inside its frame: over a picture, if the form has one for its background.
+/// The contents of a window inside its frame, drawn over the form's background picture, if it has one.
 class Lienzo : public QWidget {
   public:
     explicit Lienzo(QWidget* padre) : QWidget(padre) { setMouseTracking(true); }
@@ -41,14 +41,14 @@ class Lienzo : public QWidget {
     }
 };
 
-/// The form itself: its title, and the pointer over its bare places.
+/// The view of the form itself: the window's title, and pointer movements over places without a control.
 class VistaFormulario : public Vista {
   public:
     VistaFormulario(Escritorio& escritorio, Formulario& forma, Lienzo* lienzo, QMainWindow* ventana)
         : Vista(escritorio, forma, lienzo), forma_(forma), ventana_(ventana) {}
 
   protected:
-    /// The window around a document adds to its title: what did not change is not written again.
+    /// The title is set only when it changed, because the window around a document adds its own text to the title.
     void Mostrar() override {
         if (titulo_ != forma_.Caption()) {
             titulo_ = forma_.Caption();
@@ -69,7 +69,7 @@ bool Tiene(const Formulario& forma) {
                        [](const Control* c) { return dynamic_cast<const Clase*>(c) != nullptr; });
 }
 
-/// A menu entry shows whether it is greyed.
+/// The view of a menu entry: its text, and whether it is greyed or hidden.
 class VistaMenu : public QObject, public VistaControl {
   public:
     VistaMenu(Menu& menu, QAction* accion) : QObject(accion), menu_(&menu), accion_(accion) {
@@ -79,7 +79,7 @@ class VistaMenu : public QObject, public VistaControl {
     ~VistaMenu() override { Soltar(); }
 
     QAction* Accion() const { return accion_; }
-    /// The form may go before the menu of the screen does.
+    /// Separates the view from the form's menu: the form may be destroyed before the menu on the screen.
     void Soltar() {
         if (menu_ != nullptr) {
             menu_->PonerVista(nullptr);
@@ -139,7 +139,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     if (!lienzo->fondo.isEmpty()) {
         caja->setContentsMargins(36, 30, 28, 28);
     } else if (!Tiene<StatusBar>(forma)) {
-        // A status bar at the foot of a window is its lower margin.
+        // A status bar takes the place of the lower margin.
         caja->setContentsMargins(estilo::kMargen, estilo::kMargen, estilo::kMargen, estilo::kMargen);
     }
     if (forma.Padre() != nullptr) {
@@ -159,7 +159,8 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     for (Vista* vista : vistas_) {
         vista->Actualizar();
     }
-    // Measured before the first showing: every widget must have the letters of the style and what it shows by now.
+    // The size of the window is computed before it is first shown, so every widget must already have its final font and
+    // contents.
     for (QWidget* widget : lienzo->findChildren<QWidget*>()) {
         widget->ensurePolished();
         widget->updateGeometry();
@@ -168,7 +169,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
         interior->invalidate();
     }
     const QSize pantalla = screen()->availableSize();
-    // A window with grids opens with room for them.
+    // A window with grids gets a minimum initial size that leaves room for them.
     const QSize deModulo = Tiene<FlexGrid>(forma) ? QSize(940, 720) : QSize(0, 0);
     const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(960, 580);
     resize(propio.boundedTo(pantalla));
@@ -208,7 +209,7 @@ void Ventana::HacerMenus() {
     if (forma_->Barra().empty()) {
         return;
     }
-    // Not every menu of the bar has an access key: F10 leads to the first one.
+    // Not every menu of the bar has an access key, so F10 opens the first one.
     auto* alMenu = new QShortcut(QKeySequence(Qt::Key_F10), this);
     connect(alMenu, &QShortcut::activated, this, [this] {
         menuBar()->setFocus(Qt::ShortcutFocusReason);
@@ -249,7 +250,7 @@ void Ventana::Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
             Vista* vista = Hacer(*d.control, padre);
             if (vista != nullptr && (texto == nullptr || texto->Sobre() == nullptr)) {
                 if (dynamic_cast<FlexGrid*>(d.control) != nullptr) {
-                    // A grid with no share of the spare room is a small table: all of it is shown.
+                    // A grid that takes no spare room is a small table, of which all rows are shown.
                     vista->Widget()->setSizePolicy(QSizePolicy::Preferred,
                                                    d.estira > 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed);
                 }

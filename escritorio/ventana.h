@@ -14,18 +14,18 @@ namespace cuencalia {
 class Escritorio;
 class Vista;
 
-/// The window of a form: its menus, and its controls laid out as the form says.
+/// The window of a form: its menus, and its controls in the form's layout.
 class Ventana : public QMainWindow {
     Q_OBJECT
 
   public:
     Ventana(Escritorio& escritorio, Formulario& forma);
 
-    /// The form that the window shows, or null once it was let go.
+    /// The form that the window shows; null after Soltar.
     Formulario* Forma() const { return forma_; }
-    /// The outermost widget of the window: its frame when it stands inside another window.
+    /// The outermost widget of the window: its subwindow frame when it is inside another window.
     QWidget* Marco();
-    /// The form is about to go: from now on the window shows nothing and tells nothing.
+    /// Called before the form is destroyed: from then on the window neither shows the form nor reports events to it.
     void Soltar();
 
   protected:
@@ -33,7 +33,7 @@ class Ventana : public QMainWindow {
 
   private:
     void HacerMenus();
-    /// Puts the controls of the tree into the layout.
+    /// Adds the controls of the layout tree to `caja`.
     void Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
     void PonerHijos(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
     void PonerGrupo(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
@@ -46,7 +46,7 @@ class Ventana : public QMainWindow {
     std::vector<Vista*> vistas_;
 };
 
-/// The entry of a window's menus that shows an entry of its form.
+/// The action of the screen's menu that shows this entry of the form's menu.
 QAction* AccionDe(const Menu& entrada);
 
 /// Fills a menu of the screen with the entries of a form's menu.

@@ -24,9 +24,9 @@ namespace cuencalia {
 namespace {
 
 constexpr int kMiradaAlReloj = 5000;  // ms
-const QSize kMinimo(320, 240);        // the menus, some lines and the status bar
+const QSize kMinimo(320, 240);        // room for the menus, some lines and the status bar
 
-/// A setting may hold any number.
+/// A length in pixels, limited because a stored setting may contain any number.
 int EnPixeles(double twips) {
     constexpr double kLimite = 1e5;
     return static_cast<int>(std::clamp(twips / estilo::kTwipsPorPixel, -kLimite, kLimite));
@@ -66,7 +66,7 @@ VentanaPadre::VentanaPadre(Escritorio& escritorio, frmPadre& forma)
     auto* fichas = area_->findChild<QTabBar*>();
     fichas->setExpanding(false);
     fichas->setDrawBase(false);
-    // Of the path of a file the end tells most.
+    // A long file path is cut at its beginning, since its end tells most.
     fichas->setElideMode(Qt::ElideLeft);
     auto* caja = static_cast<QBoxLayout*>(centralWidget()->layout());
     caja->setContentsMargins(0, 0, 0, 0);
@@ -130,7 +130,7 @@ void VentanaPadre::DecirLugar() {
         {&padre.Left, x()}, {&padre.Top, y()}, {&padre.Width, width()}, {&padre.Height, height()}};
     escritorio_.App().Despachar([&] {
         for (const auto& [propiedad, pixeles] : lugar) {
-            // A length that the screen shows already keeps its fraction of a pixel.
+            // A length that did not change on the screen is not rounded to whole pixels.
             if (EnPixeles(*propiedad) != pixeles) {
                 *propiedad = pixeles * estilo::kTwipsPorPixel;
             }

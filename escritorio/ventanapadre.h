@@ -8,15 +8,15 @@ class QMdiSubWindow;
 
 namespace cuencalia {
 
-/// The window of a form that holds others: each has a tab. It opens where the form says and tells the form where the
-/// user puts it.
+/// The window of a form that contains other forms, each in a tab. It opens at the position and size given by the form,
+/// and reports to the form when the user moves or resizes it.
 class VentanaPadre : public Ventana {
     Q_OBJECT
 
   public:
     VentanaPadre(Escritorio& escritorio, frmPadre& forma);
 
-    /// Takes in the window of a form that stands in this one, and brings it to the front.
+    /// Adds the window of a form contained in this one, and brings it to the front.
     void PonerDelante(Ventana& hija);
 
   protected:
@@ -36,8 +36,8 @@ class VentanaPadre : public Ventana {
     QMdiArea* area_;
 };
 
-/// The place for a window, in pixels with its frame left out of account: what is asked for, made to fit the screen on
-/// which most of it would be.
+/// Position and size for a window, in pixels without its frame: those asked for, changed as needed to fit the screen
+/// that would show most of the window.
 QRect LugarVisible(double izquierda, double arriba, double ancho, double alto, const QSize& minimo);
 
 }  // namespace cuencalia

@@ -81,7 +81,7 @@ bool Vista::eventFilter(QObject* objeto, QEvent* evento) {
             MoverRaton();
             return false;
         case QEvent::MouseMove:
-            // Eaten, or it would go on to the frame around, which darkens its buttons.
+            // The event must not reach the surrounding frame, whose handler shows the normal pictures of its buttons.
             if (static_cast<QMouseEvent*>(evento)->buttons() == Qt::NoButton) {
                 MoverRaton();
                 return true;
@@ -94,7 +94,8 @@ bool Vista::eventFilter(QObject* objeto, QEvent* evento) {
 
 namespace {
 
-/// Signs have the codes of the number pad wherever they are typed: a calculator is to work on a keyboard without one.
+/// Signs get the key codes of the numeric pad wherever they are typed, so that the calculator can be used with a
+/// keyboard that has no numeric pad.
 int CodigoDeSigno(int tecla) {
     switch (tecla) {
         case Qt::Key_Asterisk:

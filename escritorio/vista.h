@@ -16,29 +16,30 @@ class Escritorio;
 inline QString Q(const std::string& texto) { return QString::fromStdString(texto); }
 inline std::string Std(const QString& texto) { return texto.toStdString(); }
 
-/// The program counts characters, the toolkit units of UTF-16: a place in a text from one to the other.
+/// Converts a position in a text from characters, which the program counts, to units of UTF-16, which the toolkit
+/// counts.
 int EnUtf16(const QString& texto, int caracteres);
 int EnCaracteres(const QString& texto, int posicion);
 
-/// Shows one control by one widget: tells the widget what changed in the model, and the model what the user did. The
-/// widget owns the view.
+/// Shows one control by one widget: passes changes of the control to the widget, and the user's actions to the control.
+/// The widget owns the view.
 class Vista : public QObject, public VistaControl {
   public:
     Vista(Escritorio& escritorio, Control& control, QWidget* widget);
     ~Vista() override;
 
     QWidget* Widget() const { return widget_; }
-    /// The window is closing: the control may go before the widget does.
+    /// Separates the view from the control when the window is closing: the control may be destroyed before the widget.
     void Soltar();
 
     void ModeloCambio() override;
-    /// Brings the widget up to date with the control.
+    /// Updates the widget from the control.
     void Actualizar();
 
   protected:
-    /// What this kind of control shows besides visibility, state and tool-tip.
+    /// Updates what this kind of control shows besides visibility, enabled state and tool-tip.
     virtual void Mostrar() {}
-    /// A key that the control is to have rather than the widget; false leaves it to the widget.
+    /// Handles a key for the control and returns true; returns false for keys that the widget is to handle.
     virtual bool Tecla(QKeyEvent& evento);
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
@@ -51,10 +52,10 @@ class Vista : public QObject, public VistaControl {
     QWidget* widget_;
 };
 
-/// The key of an event as the controls name it, and its character (0: none).
+/// The KeyDown code of the key event, and its character (0: none).
 int CodigoDeTecla(const QKeyEvent& evento);
 int CaracterDe(const QKeyEvent& evento);
-/// AltGr writes characters; Control and Alt alone give orders.
+/// True for keys pressed with Control or Alt, which are commands; AltGr types characters.
 bool EsOrden(const QKeyEvent& evento);
 
 }  // namespace cuencalia

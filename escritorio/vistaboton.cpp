@@ -91,7 +91,7 @@ class VistaOpcion : public Vista {
     void Mostrar() override {
         widget_->setText(Q(opcion_.Caption));
         if (widget_->isChecked() != opcion_.Value) {
-            // A lone option can only be turned off by code: the widget's own group would not let it.
+            // With autoExclusive the widget refuses to turn off the only option that is on.
             widget_->setAutoExclusive(false);
             widget_->setChecked(opcion_.Value);
             widget_->setAutoExclusive(true);

@@ -36,7 +36,7 @@ class VistaCombo : public Vista {
         }
         if (combo_.Editable) {
             if (widget_->currentText() != Q(combo_.Text)) {
-                widget_->setCurrentIndex(combo_.ListIndex());  // where the arrow keys go on from
+                widget_->setCurrentIndex(combo_.ListIndex());  // the arrow keys continue from this entry
                 widget_->setEditText(Q(combo_.Text));
             }
         } else {
@@ -47,7 +47,7 @@ class VistaCombo : public Vista {
   private:
     ComboBox& combo_;
     QComboBox* widget_;
-    std::vector<std::string> mostrada_;  ///< The list as the widget has it.
+    std::vector<std::string> mostrada_;  ///< The list as last passed to the widget.
     bool mostrando_ = false;
 };
 

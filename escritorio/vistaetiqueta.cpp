@@ -48,7 +48,7 @@ class VistaEstado : public Vista {
         if (barra.Paneles() == 1) {
             return;
         }
-        // The panels after the first one stand at the right end.
+        // The first panel is at the left end, the others at the right end.
         auto* fila = new QHBoxLayout(texto_);
         fila->setContentsMargins(0, 0, 0, 0);
         fila->addStretch(1);

@@ -13,7 +13,7 @@ namespace cuencalia {
 
 namespace {
 
-constexpr double kPaso = 0.8;  ///< Of a zoom by key.
+constexpr double kPaso = 0.8;  ///< Factor of a zoom by key.
 
 }  // namespace
 
@@ -106,7 +106,8 @@ bool VistaGrafico::Tecla(QKeyEvent& evento) {
 }
 
 bool VistaGrafico::eventFilter(QObject* objeto, QEvent* evento) {
-    // The chart follows the pointer itself, and lets no move through to the frame around.
+    // Mouse moves are also passed to the chart, which follows the pointer itself and does not pass them on to the
+    // surrounding frame.
     return Vista::eventFilter(objeto, evento) && evento->type() != QEvent::MouseMove;
 }
 

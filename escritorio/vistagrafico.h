@@ -8,8 +8,9 @@ namespace cuencalia {
 class GraficoModulo;
 class LienzoGrafico;
 
-/// Shows a chart. The pointer or the arrow keys tell the values of a point; wheel, plus and minus zoom; dragging moves;
-/// a double click, 0 or Home show all again. The context menu copies and saves the chart.
+/// Shows a chart. The pointer or the arrow keys select a point, whose values are shown; wheel, plus and minus zoom;
+/// dragging moves the chart; a double click, 0 or Home show all of it again. The context menu copies and saves the
+/// chart.
 class VistaGrafico : public Vista {
   public:
     VistaGrafico(Escritorio& escritorio, GraficoModulo& grafico, QWidget* padre);
@@ -21,7 +22,8 @@ class VistaGrafico : public Vista {
 
   private:
     void HacerMenu();
-    /// Asks for the name of a file and writes the chart there. When that fails a message says why.
+    /// Lets the user choose a file name and writes the chart to that file. A failure is shown in a message with its
+    /// reason.
     void Guardar(const char* filtro, FormatoGrafico formato);
     QString Descripcion() const;
 

@@ -24,7 +24,7 @@ namespace {
 constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
 constexpr int kAireColumna = 18;
-constexpr int kFilasMedidas = 40;  // labels are measured so far; a longer list has numbers only
+constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -148,7 +148,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     tabla_->setWordWrap(false);
     tabla_->viewport()->setMouseTracking(true);
-    // Only a grid that takes what is typed shows its current cell while the focus is elsewhere.
+    // A grid that takes no typing does not show its current cell while another control has the focus.
     tabla_->setProperty("lectura", !grid.KeyPress.Atendido());
     tabla_->setProperty("marco", grid.BorderStyle());
 
@@ -161,7 +161,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->horizontalHeader()->setSectionsClickable(false);
     tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
 
-    // The heading of the label column stands in the corner, which a table leaves blank.
+    // The heading of the label column is shown in the corner, which the toolkit's table leaves blank.
     if (auto* boton = tabla_->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
         boton->setAttribute(Qt::WA_TransparentForMouseEvents);
         esquina_ = new QLabel(boton);
@@ -181,7 +181,8 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
             escritorio_.App().Despachar([&] { grid_.DesplazadoPorUsuario(superior); });
         }
     });
-    // A press on a row's label is a press on its row; the widget alone would mark the row.
+    // A press on a row's label is passed to the grid as a press on that row, in place of the widget's own selection of
+    // the row.
     disconnect(tabla_->verticalHeader(), SIGNAL(sectionPressed(int)), tabla_, nullptr);
     disconnect(tabla_->verticalHeader(), SIGNAL(sectionEntered(int)), tabla_, nullptr);
     connect(tabla_->verticalHeader(), &QHeaderView::sectionPressed, this, [this](int seccion) {
@@ -196,7 +197,7 @@ QModelIndex VistaGrid::Indice(int fila, int columna) const {
 QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Row(), grid_.Col())); }
 
 void VistaGrid::MedirColumnas() {
-    tabla_->ensurePolished();  // the letters of the style, also before the window is first shown
+    tabla_->ensurePolished();  // sets the font of the style, also before the window is first shown
     const QFontMetrics letra = tabla_->fontMetrics();
     std::vector<int> anchos;
     for (int c = 0; c < grid_.Cols(); ++c) {
@@ -228,7 +229,7 @@ void VistaGrid::AjustarColumnas() {
     if (anchos_.size() <= primera) {
         return;
     }
-    // Room to spare is shared out among the data columns, so that no table ends in an empty strip.
+    // Spare width is distributed among the data columns, so that the table has no empty strip at its right.
     const int natural = std::accumulate(anchos_.begin() + static_cast<std::ptrdiff_t>(primera), anchos_.end(), 0);
     const int sobra = std::max(0, tabla_->viewport()->width() - natural);
     const int columnas = static_cast<int>(anchos_.size() - primera);

@@ -11,7 +11,8 @@ class QLabel;
 
 namespace cuencalia {
 
-/// The cells of a grid that can be moved over: fixed rows and columns are headings. It holds no copy of the cells.
+/// Gives the widget the cells that are not fixed; fixed rows and columns are its headings. The texts are read from the
+/// grid, not copied.
 class ModeloGrid : public QAbstractTableModel {
   public:
     ModeloGrid(const FlexGrid& grid, QObject* padre);
@@ -21,7 +22,7 @@ class ModeloGrid : public QAbstractTableModel {
     QVariant data(const QModelIndex& indice, int rol) const override;
     QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
 
-    /// Takes over the grid's number of rows and columns; says whether more than the number of rows changed.
+    /// Takes over the grid's number of rows and columns; returns whether anything but the number of rows changed.
     bool PonerAlDia();
 
   private:
@@ -29,19 +30,19 @@ class ModeloGrid : public QAbstractTableModel {
     const FlexGrid& grid_;
 };
 
-/// A table whose keys and clicks go to the grid's model.
+/// A table widget whose keys and clicks are handled by VistaGrid.
 class TablaGrid : public QTableView {
   public:
     explicit TablaGrid(QWidget* padre) : QTableView(padre) {}
 
-    /// Width that shows every column as wide as the grid says.
+    /// Width at which every column is as wide as the grid says.
     int anchoNatural = 0;
-    /// Height that shows all rows, up to those of a data grid.
+    /// Height at which all rows are shown, or as many as a data grid shows at first.
     int altoNatural = 0;
 
     QSize sizeHint() const override { return {anchoNatural, altoNatural}; }
     QSize minimumSizeHint() const override;
-    /// Lays headings and cells out anew after a heading changed its size.
+    /// Updates the positions of headings and cells after a heading changed its size.
     void Recolocar() { updateGeometries(); }
 
     std::function<void()> alCambiarTamano;
@@ -62,7 +63,7 @@ class VistaGrid : public Vista {
     VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre);
 
     QTableView* Tabla() const { return tabla_; }
-    /// Place of the current cell in the table's viewport.
+    /// Rectangle of the current cell in the table's viewport.
     QRect CeldaActual() const;
 
   protected:

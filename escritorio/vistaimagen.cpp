@@ -11,7 +11,7 @@ namespace cuencalia {
 
 namespace {
 
-/// A picture drawn to the size that it is given.
+/// A picture scaled to the size of its widget.
 class Lamina : public QWidget {
   public:
     using QWidget::QWidget;
@@ -35,7 +35,7 @@ class VistaImagen : public Vista {
     VistaImagen(Escritorio& escritorio, PictureBox& imagen, Lamina* lamina)
         : Vista(escritorio, imagen, lamina), imagen_(imagen), lamina_(lamina) {
         if (imagen.AceptaFoco()) {
-            // It takes the keyboard for the label above it and shows by a line that it does.
+            // The picture takes the focus on behalf of the label above it and shows by a line that it has it.
             lamina_->setFocusPolicy(Qt::StrongFocus);
             lamina_->setFixedHeight(3);
         } else {

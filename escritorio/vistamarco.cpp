@@ -11,7 +11,7 @@ namespace cuencalia {
 
 namespace {
 
-/// Never narrower than its title, which stands beside the border, 10 pixels in and padded by 4.
+/// A group box at least as wide as its title, which starts 10 pixels from the border and has a padding of 4.
 class MarcoConTitulo : public QGroupBox {
   public:
     using QGroupBox::QGroupBox;
@@ -49,7 +49,7 @@ class VistaFichas : public Vista {
   protected:
     void Mostrar() override { widget_->setCurrentIndex(fichas_.Tab); }
 
-    /// The row of tabs has the keyboard for the whole.
+    /// The widget that has the focus is the row of tabs, so its focus events are handled as those of the tab control.
     bool eventFilter(QObject* objeto, QEvent* evento) override {
         return Vista::eventFilter(evento->type() == QEvent::FocusIn ? widget_ : objeto, evento);
     }
@@ -57,7 +57,7 @@ class VistaFichas : public Vista {
   private:
     void Elegir(int pagina) {
         fichas_.Tab = pagina;
-        // What had the keyboard may stand on the page that went.
+        // The control with the focus may be on the page that is no longer in front.
         const Control* foco = escritorio_.App().Foco();
         const auto* vista = foco == nullptr ? nullptr : static_cast<Vista*>(foco->Vista());
         if (vista != nullptr && !vista->Widget()->isVisible()) {

@@ -20,7 +20,7 @@ Vista* NuevaVista(Escritorio& escritorio, RichTextBox& caja, QWidget* padre) {
     return new VistaTextoRico(escritorio, caja, padre);
 }
 
-/// The view of the first of these kinds that the control is of, or null.
+/// A view for the first of these classes to which the control belongs, or null.
 template <typename... Clases>
 Vista* VistaDeClase(Escritorio& escritorio, Control& control, QWidget* padre) {
     Vista* vista = nullptr;

@@ -14,11 +14,11 @@ class SSTab;
 class StatusBar;
 class TextBox;
 
-/// Makes the widget and the view of a control, or nothing for one that no screen shows. `padre` is the widget in which
-/// it stands; a box that floats over a grid goes into that grid instead.
+/// Creates the widget and the view of a control; null for a control that is not shown on screen. `padre` is the parent
+/// widget; but a box that floats over a grid becomes a child of that grid.
 Vista* HacerVista(Escritorio& escritorio, Control& control, QWidget* padre);
 
-/// The same for each kind of control.
+/// Creates the view for each kind of control.
 Vista* NuevaVista(Escritorio& escritorio, TextBox& caja, QWidget* padre);
 Vista* NuevaVista(Escritorio& escritorio, Label& etiqueta, QWidget* padre);
 Vista* NuevaVista(Escritorio& escritorio, CommandButton& boton, QWidget* padre);

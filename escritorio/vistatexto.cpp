@@ -53,7 +53,8 @@ class VistaTexto : public Vista {
         }
     }
 
-    /// Characters go through the control's own filter; moving and marking with Shift or Control stay the widget's.
+    /// Typed characters go to the control, whose handlers may drop them; the keys that move the cursor or leave the
+    /// box, and those with Control or Alt, are left to the widget.
     bool Tecla(QKeyEvent& evento) override {
         const bool deMover = evento.key() == Qt::Key_Left || evento.key() == Qt::Key_Right ||
                              evento.key() == Qt::Key_Home || evento.key() == Qt::Key_End;
@@ -71,7 +72,7 @@ class VistaTexto : public Vista {
     }
 
   private:
-    /// What the user did in the widget itself: paste, undo, marks, an input method.
+    /// Passes to the control what the user did in the widget itself: paste, undo, selection, an input method.
     void Devolver() {
         if (mostrando_) {
             return;

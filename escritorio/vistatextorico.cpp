@@ -20,7 +20,7 @@ namespace {
 constexpr int kPasoTabulador = 720;  // twips; half an inch, the default of RTF
 constexpr int kMargen = 6;           // pixels between the edge of the sheet and the text
 
-/// The colour that the text has in the file, where the screen shows another one.
+/// Property with the colour that the text has in the file, where the screen shows another one.
 constexpr int kColorPropio = QTextFormat::UserProperty;
 
 constexpr const char* kTiposRtf[] = {"text/rtf", "application/rtf"};
@@ -28,8 +28,8 @@ constexpr const char* kTiposRtf[] = {"text/rtf", "application/rtf"};
 double EnPixeles(int twips) { return twips / estilo::kTwipsPorPixel; }
 int EnTwips(double pixeles) { return static_cast<int>(std::lround(pixeles * estilo::kTwipsPorPixel)); }
 
-/// Fonts for a name: the report's own font has stand-ins of one width for all characters, or its tables of dashes and
-/// blanks would not line up.
+/// Font families for a font name. The report's own font has monospaced substitutes, because its tables of dashes and
+/// blanks line up only with characters of equal width.
 QStringList Familias(const std::string& fuente) {
     if (fuente == kFuenteReporte) {
         return {Q(fuente), QStringLiteral("Liberation Mono"), QStringLiteral("DejaVu Sans Mono"),
@@ -38,7 +38,7 @@ QStringList Familias(const std::string& fuente) {
     return {Q(fuente)};
 }
 
-/// The same hue, readable on that ground: the colours of a file are meant for white paper.
+/// A colour of the same hue that is readable on that background: the colours of a file are meant for white paper.
 QColor Legible(const QColor& color, const QColor& fondo) {
     constexpr float kContrasteMinimo = 0.3f;
     if (std::abs(color.lightnessF() - fondo.lightnessF()) >= kContrasteMinimo) {
@@ -47,7 +47,7 @@ QColor Legible(const QColor& color, const QColor& fondo) {
     return QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), 1 - color.lightnessF());
 }
 
-/// Turns the formats of the model into those of the toolkit, for a ground of that colour.
+/// Converts the formats of the model to those of the toolkit, for a given background colour.
 class Formatos {
   public:
     explicit Formatos(QColor papel) : papel_(std::move(papel)) {}
@@ -121,7 +121,7 @@ FormatoCaracter Leer(const QTextCharFormat& qt) {
 
 constexpr Qt::Alignment kAlineaciones[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter, Qt::AlignJustify};
 
-/// RTF counts tab stops from the margin, the toolkit from the indent.
+/// RTF measures tab stops from the margin, the toolkit from the indent.
 QTextBlockFormat FormatoDeBloque(const FormatoParrafo& formato) {
     QTextBlockFormat qt;
     qt.setAlignment(kAlineaciones[static_cast<int>(formato.alineacion)]);
@@ -158,7 +158,7 @@ FormatoParrafo Leer(const QTextBlockFormat& qt) {
     return formato;
 }
 
-/// Characters that a document of the toolkit keeps for its own structure.
+/// Removes characters that the toolkit reserves for the structure of its documents.
 QString SinReservados(QString texto) {
     for (const char16_t reservado : {u'\x2029', u'\xFDD0', u'\xFDD1', u'\xFFFC'}) {
         texto.replace(QChar(reservado), QChar(QChar::ReplacementCharacter));
@@ -179,7 +179,8 @@ void Preparar(QTextDocument& documento) {
     documento.setDefaultTextOption(opcion);
 }
 
-/// Lines [desde, desde + cuantas) of the document become the paragraphs [desde, hasta) of the text; neither is empty.
+/// Replaces `cuantas` lines of the document, from line `desde` on, by the paragraphs [desde, hasta) of the text;
+/// neither is empty.
 void Reemplazar(QTextDocument& documento, int desde, int cuantas, const TextoRico& texto, int hasta,
                 Formatos& formatos) {
     QTextCursor cursor(&documento);
@@ -205,12 +206,12 @@ void Reemplazar(QTextDocument& documento, int desde, int cuantas, const TextoRic
             cursor.insertText(SinReservados(Q(tramo.texto)), formato);
         }
     }
-    // Ending with a change of format keeps what the user types next out of this step of undo.
+    // A change of format at the end keeps the user's next typing from being merged into this undo step.
     cursor.setBlockFormat(cursor.blockFormat());
     cursor.endEditBlock();
 }
 
-/// Makes the document, which shows `antes`, show `despues`.
+/// Changes the document, which shows `antes`, so that it shows `despues`; only lines that differ are replaced.
 void PonerAlDia(QTextDocument& documento, const TextoRico& antes, const TextoRico& despues, Formatos& formatos) {
     const std::vector<Parrafo>& viejos = antes.parrafos;
     const std::vector<Parrafo>& nuevos = despues.parrafos;
@@ -223,7 +224,8 @@ void PonerAlDia(QTextDocument& documento, const TextoRico& antes, const TextoRic
     auto quedan = finales.first - viejos.rbegin();
     const auto menos = static_cast<std::ptrdiff_t>(std::min(viejos.size(), nuevos.size()));
     if (desde + quedan == menos) {
-        // Lines were only added or only taken away: one that stays goes with them.
+        // Lines were only added or only removed: one unchanged line is replaced with them, because Reemplazar needs at
+        // least one line on either side.
         --(desde > 0 ? desde : quedan);
     }
     const auto fin = static_cast<std::ptrdiff_t>(viejos.size()) - quedan;
@@ -244,8 +246,8 @@ TextoRico LeerDocumento(const QTextDocument& documento) {
     return texto;
 }
 
-/// A document has as many characters as units of UTF-16 unless it holds some beyond the basic plane, and is long: its
-/// text is taken out only where the two differ.
+/// True when the document has characters outside the Unicode basic plane, so that positions in UTF-16 units and in
+/// characters differ. Only then is the text extracted to convert positions, since it may be long.
 bool ConSustitutos(const QTextDocument& documento, int longitud) { return documento.characterCount() - 1 != longitud; }
 
 int EnCaracteres(const QTextDocument& documento, int posicion, int longitud) {
@@ -277,7 +279,7 @@ void CajaTextoRico::keyPressEvent(QKeyEvent* evento) {
     } else if (evento->matches(QKeySequence::Underline)) {
         cambio.setFontUnderline(!fontUnderline());
     } else if (evento->matches(QKeySequence::InsertLineSeparator)) {
-        // A line of a report is a paragraph: there is no line end within one.
+        // Every line of a report is a paragraph, so a line break inside a paragraph becomes a new paragraph.
         textCursor().insertBlock();
         ensureCursorVisible();
         return;
@@ -312,7 +314,8 @@ VistaTextoRico::VistaTextoRico(Escritorio& escritorio, RichTextBox& caja, QWidge
     connect(texto_, &QTextEdit::textChanged, this, [this] { editado_ = true; });
     texto_->alCopiar = [this] { return caja_.Leer().SelRTF(); };
     texto_->alPegar = [this](const std::string& texto) {
-        // A text dropped here from elsewhere in the box is not told to be gone from there until all is done.
+        // When a text is moved by dragging within the box, the widget reports its removal from the old place only at
+        // the end, so the change is marked here.
         editado_ = true;
         escritorio_.App().Despachar([&] { caja_.Editor().SelRTF(texto); });
     };
@@ -321,7 +324,7 @@ VistaTextoRico::VistaTextoRico(Escritorio& escritorio, RichTextBox& caja, QWidge
 
 void VistaTextoRico::Traer(EditorTextoRico& editor) {
     if (caja_.Version() != version_) {
-        // The program is still writing: what the widget shows is older.
+        // The program changed the text after the widget was last updated: the widget's text is outdated.
         return;
     }
     const QTextCursor cursor = texto_->textCursor();

@@ -9,7 +9,7 @@
 
 namespace cuencalia {
 
-/// A text editor whose clipboard speaks RTF.
+/// A text editor that copies and pastes RTF.
 class CajaTextoRico : public QTextEdit {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ class CajaTextoRico : public QTextEdit {
 
     /// The selection as RTF source.
     std::function<std::string()> alCopiar;
-    /// Takes RTF source, or a plain text, in place of the selection.
+    /// Replaces the selection by RTF source or plain text.
     std::function<void(const std::string&)> alPegar;
 
   protected:
@@ -28,8 +28,8 @@ class CajaTextoRico : public QTextEdit {
     void insertFromMimeData(const QMimeData* datos) override;
 };
 
-/// Shows a box of formatted text. The user writes in the widget; the control fetches what he wrote when the program
-/// looks. A change of the program replaces only the lines that differ and can be undone like one of the user.
+/// Shows a box of formatted text. The user writes in the widget; the control fetches the changes when the program
+/// accesses the text. A change made by the program replaces only the lines that differ, and the user can undo it.
 class VistaTextoRico : public Vista {
   public:
     VistaTextoRico(Escritorio& escritorio, RichTextBox& caja, QWidget* padre);
@@ -44,13 +44,13 @@ class VistaTextoRico : public Vista {
 
     RichTextBox& caja_;
     CajaTextoRico* texto_;
-    TextoRico mostrado_;        ///< What the widget held when text last went one way or the other.
-    int version_ = -1;          ///< Of the control's text shown.
-    bool editado_ = false;      ///< The user changed the widget since.
-    int inicio_ = 0, fin_ = 0;  ///< Selection of the widget when it last went one way or the other.
+    TextoRico mostrado_;        ///< The text of the widget when it was last synchronised with the control.
+    int version_ = -1;          ///< Version of the control's text that the widget shows.
+    bool editado_ = false;      ///< The user has changed the widget's text since then.
+    int inicio_ = 0, fin_ = 0;  ///< Selection of the widget at the last synchronisation.
 };
 
-/// The text laid out for paper: true colours, as wide as the page is made.
+/// The text laid out for paper: with its own colours, as wide as the page.
 std::unique_ptr<QTextDocument> DocumentoParaPapel(const TextoRico& texto);
 
 }  // namespace cuencalia

@@ -15,7 +15,7 @@ namespace cuencalia {
 
 namespace {
 
-/// A command that cannot be carried out, with the reason.
+/// Thrown for a command that cannot be carried out; the text is the reason.
 struct Rechazo : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -45,7 +45,8 @@ std::string Json(const std::string& texto) {
 
 const char* Json(bool valor) { return valor ? "true" : "false"; }
 
-/// Words separated by blanks; one with blanks stands in double quotes, with \" \\ and \n inside.
+/// Splits a line into words separated by blanks. A word with blanks is written in double quotes, where \" \\ and \n
+/// stand for a quote, a backslash and a line end.
 std::vector<std::string> Separar(const std::string& linea) {
     std::vector<std::string> palabras;
     std::size_t i = 0;
@@ -90,7 +91,8 @@ int Numero(const std::string& texto) {
     return valor;
 }
 
-/// The key that gives a character, as KeyDown tells it: letters and digits by their capital, the rest by 0.
+/// The KeyDown code of the key for a character: letters and digits have the code of the capital letter or digit, the
+/// signs below their own, all others 0.
 int CodigoDeTecla(int caracter) {
     if (caracter >= 'a' && caracter <= 'z') {
         return caracter - 'a' + 'A';
@@ -98,7 +100,7 @@ int CodigoDeTecla(int caracter) {
     const bool letraODigito = (caracter >= 'A' && caracter <= 'Z') || (caracter >= '0' && caracter <= '9');
     const bool control =
         caracter == kTeclaEnter || caracter == kTeclaEscape || caracter == kTeclaRetroceso || caracter == kTeclaEspacio;
-    // The signs of the number pad, and the point.
+    // Codes of the signs on the numeric pad, and of the point.
     static constexpr std::pair<char, int> kSignos[] = {{'*', 106}, {'+', 107}, {'-', 109}, {'/', 111}, {'.', 190}};
     for (const auto& [signo, codigo] : kSignos) {
         if (caracter == signo) {

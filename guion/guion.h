@@ -11,8 +11,9 @@
 
 namespace cuencalia {
 
-/// Plays user actions on the program's real forms, without a screen, one command a line, and prints what a user would
-/// see as one JSON object a line. docs/guion.md tells the commands and their output.
+/// Plays a script of user actions on the program's real forms, without a screen. A script has one command a line; for
+/// each, what a user would see is printed as one JSON object on a line. docs/guion.md describes the commands and their
+/// output.
 class Guion {
   public:
     Guion(TablaFormas formas, std::ostream& salida);
@@ -20,7 +21,7 @@ class Guion {
 
     /// Plays one line of a script.
     void Ejecutar(const std::string& linea);
-    /// Whether a command could not be carried out.
+    /// Whether some command could not be carried out.
     bool HuboRechazo() const { return huboRechazo_; }
 
     Aplicacion& App() { return *app_; }
@@ -51,7 +52,8 @@ class Guion {
 
     Formulario& FormaActual();
     Control& Buscar(const std::string& nombre);
-    /// The control of that kind, with its page in front, ready for the user.
+    /// Finds the control of that type by name, brings its tab page to the front, and checks that the user could operate
+    /// it.
     template <typename T>
     T& Usable(const std::string& nombre, const char* clase);
     void Teclear(const std::string& texto);

@@ -17,7 +17,8 @@ struct Mensaje {
     std::string titulo;
 };
 
-/// A platform with no screen: a script or a test answers what a user would, and reads what the program showed.
+/// A platform without a screen: the script or test sets the answers of the user in advance and reads what the program
+/// showed.
 class PlataformaGuion : public Plataforma {
   public:
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
@@ -41,22 +42,22 @@ class PlataformaGuion : public Plataforma {
 
     std::vector<Mensaje> mensajes;
     std::vector<ErrorEjecucion> errores;
-    std::vector<std::string> impresas;  ///< Forms and documents sent to the printer, by name.
-    Hoja libro;                         ///< The workbook shown last.
-    std::vector<std::string> abiertos;  ///< Files handed to the shell.
+    std::vector<std::string> impresas;  ///< Names of the forms and documents sent to the printer.
+    Hoja libro;                         ///< The workbook that the program showed last.
+    std::vector<std::string> abiertos;  ///< Paths of the files that the shell was asked to open.
     std::string portapapeles;
     std::map<std::string, std::string> ajustes;
-    /// Answer of the next file dialog; none cancels it.
+    /// Answer to the next file dialog; none means Cancel.
     std::optional<std::string> archivo;
-    /// What the last file dialog asked for.
+    /// Title and filter of the last file dialog.
     std::string tituloDialogo, filtroDialogo;
     /// The form that was shown last, or null.
     Formulario* alFrente = nullptr;
-    /// Entry to pick in the next pop-up menu; none closes the menu.
+    /// Entry to pick in the next pop-up menu; none closes the menu without a choice.
     std::optional<std::string> entradaEmergente;
-    /// Whether the entry asked for was there and not greyed.
+    /// Whether the entry to pick existed and was not greyed.
     bool entradaElegida = false;
-    /// When set, the shell cannot be called.
+    /// True makes every call of the shell fail.
     bool shellFalla = false;
     bool terminado = false;
 

@@ -8,7 +8,8 @@ namespace cuencalia {
 
 namespace {
 
-// One long text may be referred to by every cell, which makes a small file a large sheet.
+// Limit on the total length of the texts in a sheet: many cells may refer to one long text, so that a small file would
+// make a very large sheet.
 constexpr std::size_t kMaxBytesDeTexto = std::size_t{64} << 20;
 
 }  // namespace

@@ -22,7 +22,7 @@ using Bytes = std::span<const std::byte>;
 enum TipoRegistro : std::uint16_t {
     kFormula = 0x0006,
     kFin = 0x000A,
-    kProtegido = 0x002F,  // FILEPASS: all that follows is encrypted
+    kProtegido = 0x002F,  // FILEPASS: everything after it is encrypted
     kContinua = 0x003C,
     kPaginaDeCodigos = 0x0042,
     kHoja = 0x0085,
@@ -43,7 +43,7 @@ constexpr std::uint16_t kSubflujoGlobal = 0x0005;
 constexpr std::uint16_t kSubflujoHoja = 0x0010;
 constexpr unsigned kMacRoman = 10000;
 
-// Little-endian fields of the data of a record and of those that continue it.
+// Reads little-endian fields from the data of a record and of the records that continue it.
 class Campos {
   public:
     explicit Campos(Bytes datos) : trozos_{datos} {}
@@ -79,7 +79,7 @@ class Campos {
 
     std::size_t EnTrozo() const { return trozos_[trozo_].size() - posicion_; }
 
-    // Moves on to the record that continues this one when this one is used up; true when it moved.
+    // At the end of a record, moves on to the record that continues it; returns whether it moved.
     bool AvanzarDeTrozo() {
         bool avanzo = false;
         while (EnTrozo() == 0) {
@@ -99,8 +99,8 @@ class Campos {
     std::size_t posicion_ = 0;
 };
 
-// Characters of a BIFF8 string ([MS-XLS] 2.5.293): one byte each (Latin-1) or two (UTF-16). Where a string goes on in a
-// continuing record, that record begins with its own flag of the width.
+// Characters of a BIFF8 string ([MS-XLS] 2.5.293): one byte each (Latin-1) or two (UTF-16). When a string goes on in a
+// continuing record, that record begins with a flag byte of its own that gives the width of its characters.
 std::string CaracteresUnicode(Campos& campos, std::size_t cuantos, bool anchos) {
     std::string texto;
     char32_t alto = 0;
@@ -129,7 +129,7 @@ std::string CaracteresUnicode(Campos& campos, std::size_t cuantos, bool anchos) 
     return texto;
 }
 
-// A BIFF8 string with its formatting runs and phonetic data, which are no part of the text.
+// A BIFF8 string. Its formatting runs and phonetic data are skipped, as they are not part of the text.
 std::string CadenaUnicode(Campos& campos) {
     const std::size_t cuantos = campos.Palabra();
     const std::uint8_t banderas = campos.Byte();
@@ -140,7 +140,8 @@ std::string CadenaUnicode(Campos& campos) {
     return texto;
 }
 
-// Text of a code page as UTF-8. Error 1004 for a page that the system does not know, and for bytes that it lacks.
+// Text of a code page as UTF-8. Error 1004 for a page unknown to the system and for bytes that the page does not
+// define.
 std::string DePagina(std::string crudo, unsigned pagina) {
     const std::string nombre = pagina == kMacRoman ? "MACINTOSH" : "CP" + std::to_string(pagina);
     const iconv_t conversor = iconv_open("UTF-8", nombre.c_str());
@@ -154,7 +155,7 @@ std::string DePagina(std::string crudo, unsigned pagina) {
     std::size_t faltan = crudo.size();
     std::size_t caben = texto.size();
     constexpr auto kFallo = static_cast<std::size_t>(-1);
-    // The second call takes out what a page of combining characters holds back.
+    // The second call flushes characters that iconv holds back in code pages with combining characters.
     const bool convertido = iconv(conversor, &entrada, &faltan, &salida, &caben) != kFallo &&
                             iconv(conversor, nullptr, nullptr, &salida, &caben) != kFallo;
     iconv_close(conversor);
@@ -173,7 +174,8 @@ std::string CadenaDePagina(Campos& campos, unsigned pagina) {
     return DePagina(std::move(crudo), pagina);
 }
 
-// 30 bits of a whole number, or the upper 30 bits of a real; the lowest bit divides by 100 ([MS-XLS] 2.5.217).
+// Decodes an RK number: 30 bits of a whole number, or the upper 30 bits of a real; the lowest bit set means divided by
+// 100 ([MS-XLS] 2.5.217).
 double NumeroRk(std::uint32_t rk) {
     const double numero = (rk & 2) != 0 ? static_cast<double>(static_cast<std::int32_t>(rk) >> 2)
                                         : std::bit_cast<double>(std::uint64_t{rk & ~std::uint32_t{3}} << 32);
@@ -206,7 +208,7 @@ struct Registro {
     Bytes datos;
 };
 
-// The records of the stream from a position on. They end with a record of their own: a stream that ends first is cut.
+// The records of the stream from a position on. The last one must be an end record: a stream without it is truncated.
 class Registros {
   public:
     Registros(Bytes flujo, std::size_t posicion) : flujo_(flujo), posicion_(posicion) {}
@@ -220,7 +222,7 @@ class Registros {
         return *registro;
     }
 
-    // The data of the record just read together with those that continue it.
+    // The data of the record just read, together with those of the records that continue it.
     Campos ConContinuacion(const Registro& registro) {
         Campos campos(registro.datos);
         for (auto otro = Mirar(); otro && otro->tipo == kContinua; otro = Mirar()) {
@@ -250,7 +252,7 @@ class Registros {
     std::size_t posicion_;
 };
 
-// What the workbook says before its sheets.
+// The part of the workbook that comes before its sheets.
 struct Globales {
     std::uint16_t version = 0;
     unsigned pagina = 1252;
@@ -260,7 +262,7 @@ struct Globales {
 
 void AnotarHoja(Campos campos, Globales& globales) {
     const std::size_t posicion = campos.Doble();
-    campos.Saltar(1);  // hidden sheets count as well
+    campos.Saltar(1);  // skips the visibility: hidden sheets count as well
     const bool esHojaDeCalculo = campos.Byte() == 0;
     if (esHojaDeCalculo && !globales.primeraHoja) {
         globales.primeraHoja = posicion;
@@ -302,7 +304,7 @@ class LectorHojaBiff {
     LectorHojaBiff(Bytes flujo, const Globales& globales, ArmadorHoja& armador)
         : registros_(flujo, *globales.primeraHoja), globales_(globales), armador_(armador) {}
 
-    // Embedded charts are substreams of their own inside that of the sheet.
+    // Embedded charts are substreams inside the substream of the sheet.
     void Leer() {
         ExigirInicioDeHoja();
         for (int abiertos = 1; abiertos > 0;) {
@@ -374,7 +376,8 @@ class LectorHojaBiff {
         }
     }
 
-    // A result that is no number has its last two bytes set and its kind in the first ([MS-XLS] 2.5.133).
+    // A formula's result: a real number, or, when its last two bytes are set, a value of the kind given in its first
+    // byte ([MS-XLS] 2.5.133).
     void LeerFormula(Campos& campos) {
         const std::uint64_t resultado = campos.Cuadruple();
         if (resultado >> 48 != 0xFFFF) {
@@ -385,7 +388,7 @@ class LectorHojaBiff {
         const auto clase = static_cast<std::uint8_t>(resultado);
         const auto valor = static_cast<std::uint8_t>(resultado >> 16);
         if (clase == kEsTexto) {
-            esperaTexto_ = true;  // it comes in a record of its own
+            esperaTexto_ = true;  // the text follows in a separate record
         } else if (clase == kEsLogico || clase == kEsError) {
             PonerLogicoOError(valor, clase == kEsError);
         } else if (clase == kEsTextoVacio) {
@@ -439,7 +442,7 @@ class LectorHojaBiff {
 };
 
 void LeerTextos(Campos campos, ArmadorHoja& armador) {
-    campos.Saltar(8);  // counts, which may lie
+    campos.Saltar(8);  // skips the counts of texts, which may be wrong
     for (std::uint32_t indice = 0; armador.FaltanTextos(); ++indice) {
         armador.DarTexto(indice, CadenaUnicode(campos));
     }

@@ -7,12 +7,12 @@
 
 namespace cuencalia {
 
-/// Reads the first worksheet of an Excel 5.0 to 2003 workbook into the gatherer: an OLE2 document with the stream of
-/// records. Error 1004 when the bytes are no sound workbook, or a protected one.
+/// Reads the first worksheet of an Excel 5.0 to 2003 workbook, an OLE2 document that contains the stream of records,
+/// into `armador`. Error 1004 when the bytes are not a valid workbook, or the workbook is protected.
 void LeerXls(std::span<const std::byte> bytes, ArmadorHoja& armador);
 
-/// Reads the bare stream of records (BIFF5 or BIFF8, [MS-XLS] 2.1.4), as some programs store it with no document
-/// around.
+/// Reads the stream of records alone (BIFF5 or BIFF8, [MS-XLS] 2.1.4), which some programs store without an OLE2
+/// document around it.
 void LeerBiff(std::span<const std::byte> flujo, ArmadorHoja& armador);
 
 }  // namespace cuencalia

@@ -15,7 +15,8 @@ namespace cuencalia {
 
 namespace {
 
-// The writer prints numbers by the locale of the calling thread, and a decimal comma makes the workbook unreadable.
+// The library prints numbers by the locale of the calling thread, and a decimal comma would make the workbook
+// unreadable.
 class PuntoDecimal {
   public:
     PuntoDecimal() : neutro_(newlocale(LC_ALL_MASK, "C", nullptr)), previo_(uselocale(neutro_)) {}
@@ -58,8 +59,9 @@ void EscribirCelda(lxw_worksheet* hoja, std::pair<int, int> posicion, const Valo
     }
 }
 
-// A disk that fills up while the library gathers its parts in temporary files of its own cuts them, and it packs them
-// as they are: a part without its end tells.
+// Checks that every part of the written workbook is complete XML; error 61 when one is not. The library first writes
+// the parts to temporary files of its own: if the disk fills up then, it packs the truncated parts without reporting an
+// error.
 void ExigirCompleto(const std::string& ruta) {
     const std::string contenido = LeerArchivo(ruta);
     try {

@@ -20,9 +20,9 @@ constexpr std::size_t kPrimeraMiniTabla = 60;
 constexpr std::size_t kPrimeraLista = 68;
 constexpr std::size_t kTablas = 76;
 constexpr std::size_t kLargoEntrada = 128;
-constexpr std::uint32_t kUltimoSector = 0xFFFFFFFA;  // greater numbers are marks
+constexpr std::uint32_t kUltimoSector = 0xFFFFFFFA;  // greater numbers have special meanings
 constexpr std::size_t kLargoMini = 64;
-constexpr std::size_t kCorteMini = 4096;  // shorter streams live in the root's stream of small sectors
+constexpr std::size_t kCorteMini = 4096;  // shorter streams are in small sectors, inside the root's stream
 
 std::uint32_t Palabra(Bytes bytes, std::size_t lugar, std::size_t largo) {
     if (lugar + largo > bytes.size()) {
@@ -47,7 +47,7 @@ bool MismoNombre(std::string_view uno, std::string_view otro) {
 }  // namespace
 
 struct DocumentoOle::Entrada {
-    std::string nombre;  // characters beyond ASCII as '?'
+    std::string nombre;  // non-ASCII characters replaced by '?'
     bool esFlujo;
     std::uint32_t anterior;
     std::uint32_t posterior;
@@ -63,7 +63,8 @@ DocumentoOle::DocumentoOle(Bytes bytes) : bytes_(bytes) {
     }
     largoSector_ = std::size_t{1} << U16(bytes, kPotenciaSector);
     sectores_ = bytes.size() / largoSector_;
-    // The header names the first tables of sectors, a list of further sectors the others.
+    // The numbers of the sectors with allocation tables: the first ones are in the header, the others in a chain of
+    // further sectors.
     std::size_t quedan = std::min<std::size_t>(U32(bytes, kCuantasTablas), sectores_);
     AgregarTablas(bytes.subspan(kTablas, kLargoCabecera - kTablas), quedan);
     for (std::uint32_t lista = U32(bytes, kPrimeraLista); quedan > 0;) {
@@ -77,7 +78,7 @@ DocumentoOle::DocumentoOle(Bytes bytes) : bytes_(bytes) {
     directorio_ = LeerCadena(U32(bytes, kPrimerDirectorio));
 }
 
-// Takes up to `quedan` tables of sectors, the numbers of whose own sectors stand in `numeros`.
+// Reads up to `quedan` allocation tables, each one sector; `numeros` contains the numbers of these sectors.
 void DocumentoOle::AgregarTablas(Bytes numeros, std::size_t& quedan) {
     for (std::size_t lugar = 0; lugar < numeros.size() && quedan > 0; lugar += 4, --quedan) {
         const Bytes tabla = Sector(U32(numeros, lugar));
@@ -87,7 +88,7 @@ void DocumentoOle::AgregarTablas(Bytes numeros, std::size_t& quedan) {
     }
 }
 
-// The last sector of a file may be cut short.
+// The bytes of a sector; the last sector of a file may be cut short.
 Bytes DocumentoOle::Sector(std::uint32_t numero) const {
     const std::size_t lugar = (std::size_t{numero} + 1) * largoSector_;
     if (lugar >= bytes_.size()) {
@@ -139,7 +140,7 @@ DocumentoOle::Entrada DocumentoOle::LeerEntrada(std::size_t indice) const {
                     U32(datos, 76),
                     U32(datos, 116),
                     U32(datos, 120)};
-    const std::size_t largoNombre = std::min<std::size_t>(U16(datos, 64), kMaxNombre);  // with a zero at its end
+    const std::size_t largoNombre = std::min<std::size_t>(U16(datos, 64), kMaxNombre);  // includes a final zero
     for (std::size_t i = 0; i + 2 < largoNombre; i += 2) {
         const std::uint32_t letra = U16(datos, i);
         entrada.nombre += letra < 0x80 ? static_cast<char>(letra) : '?';
@@ -148,7 +149,8 @@ DocumentoOle::Entrada DocumentoOle::LeerEntrada(std::size_t indice) const {
 }
 
 std::optional<std::vector<std::byte>> DocumentoOle::Flujo(std::string_view nombre) const {
-    // The entries of a storage form a tree; an embedded workbook has streams of the same names in a storage of its own.
+    // Only the root storage is searched, by following its tree of entries: an embedded workbook has streams of the same
+    // names in a storage of its own.
     std::vector<bool> vistas(directorio_.size() / kLargoEntrada);
     std::vector<std::uint32_t> porVer{LeerEntrada(0).hijo};
     while (!porVer.empty()) {

@@ -9,23 +9,24 @@
 
 namespace cuencalia {
 
-/// An OLE2 compound document ([MS-CFB]) held in memory: streams laid out in chains of sectors, like a small disk. The
-/// bytes must outlive it.
+/// An OLE2 compound document ([MS-CFB]) held in memory: streams stored in chains of sectors, as on a small disk. The
+/// bytes must outlive this object.
 ///
-/// A reader of our own: the general library walks the directory by recursion, which a hostile document of a few
-/// megabytes drives out of stack. Here every chain and walk is bounded by what the file really holds.
+/// We do not use the general library for this format, because it walks the directory recursively, so that a malicious
+/// document of a few megabytes overflows the stack. Here the length of every chain and walk is limited by the size of
+/// the file.
 class DocumentoOle {
   public:
-    /// Error 1004 when the bytes are no sound document.
+    /// Error 1004 when the bytes are not a valid document.
     explicit DocumentoOle(std::span<const std::byte> bytes);
 
-    /// The contents of a stream of the root storage; nothing when there is none of that name, whatever its capitals.
-    /// Error 1004 when its chain is damaged.
+    /// The contents of a stream of the root storage; nothing when there is no stream of that name. Upper and lower case
+    /// are not distinguished. Error 1004 when the chain of its sectors is damaged.
     std::optional<std::vector<std::byte>> Flujo(std::string_view nombre) const;
 
   private:
     struct Entrada;
-    using Cadena = std::vector<std::uint32_t>;  // next sector by sector
+    using Cadena = std::vector<std::uint32_t>;  // number of the next sector, for each sector
 
     std::span<const std::byte> Sector(std::uint32_t numero) const;
     void AgregarTablas(std::span<const std::byte> numeros, std::size_t& quedan);

@@ -18,7 +18,7 @@ namespace cuencalia {
 
 namespace {
 
-// What a part may unpack to. A full sheet of 1,048,576 rows and a few columns takes less.
+// Largest unpacked size of a part. A full sheet of 1,048,576 rows and a few columns takes less.
 constexpr std::size_t kMaxHoja = std::size_t{256} << 20;
 constexpr std::size_t kMaxTextos = std::size_t{64} << 20;
 constexpr std::size_t kMaxIndice = std::size_t{4} << 20;
@@ -71,7 +71,7 @@ double ExigirDouble(std::string_view texto) {
 // --- Relationships of a part (ECMA-376 part 2, 9.3) ---
 
 struct Relacion {
-    std::string tipo;  // last step of the type's address, which both dialects of the standard share
+    std::string tipo;  // last segment of the type's URI, the same in the transitional and strict dialects
     std::string parte;
 };
 
@@ -82,7 +82,7 @@ std::string CarpetaDe(std::string_view parte) {
     return std::string(corte == std::string_view::npos ? "" : parte.substr(0, corte));
 }
 
-// The part that a target names, seen from the folder of the part that names it.
+// The path of the part that a relationship's target names; the target is relative to the folder of the referring part.
 std::string ResolverParte(const std::string& carpeta, std::string_view destino) {
     const std::string camino = destino.starts_with('/') ? std::string(destino) : carpeta + "/" + std::string(destino);
     std::vector<std::string_view> pasos;
@@ -153,7 +153,8 @@ class LectorLibro : public LectorXml {
     }
 };
 
-// A tab may also be a chart, a dialog or a macro sheet, which are no worksheets.
+// Path of the first worksheet among the sheets. A tab may also be a chart, a dialog or a macro sheet, which are
+// skipped.
 std::string PrimeraHoja(const std::vector<std::string>& ids, const Relaciones& relaciones) {
     for (const std::string& id : ids) {
         const auto relacion = relaciones.find(id);
@@ -169,7 +170,8 @@ std::string PrimeraHoja(const std::vector<std::string>& ids, const Relaciones& r
 
 // --- Texts ---
 
-// Characters that XML cannot hold stand as "_xHHHH_" in a workbook (ECMA-376 part 1, 22.9.2.19, ST_Xstring).
+// Decodes "_xHHHH_", by which a workbook writes characters that XML cannot contain (ECMA-376 part 1, 22.9.2.19,
+// ST_Xstring).
 std::string DescifrarTexto(std::string_view cifrado) {
     constexpr std::size_t kLargoCodigo = 7;
     std::string texto;
@@ -191,7 +193,8 @@ std::string DescifrarTexto(std::string_view cifrado) {
     return texto;
 }
 
-// The shared texts that some cell uses. Runs of rich text join; phonetic runs ("rPh") are no part of the text.
+// Reads the shared texts used by some cell. Runs of rich text are joined; phonetic runs ("rPh") are not part of the
+// text.
 class LectorTextos : public LectorXml {
   public:
     explicit LectorTextos(ArmadorHoja& armador) : LectorXml("sst"), armador_(armador) {}
@@ -220,7 +223,7 @@ class LectorTextos : public LectorXml {
     std::string texto_;
 };
 
-// --- Dates of ISO 8601, which the strict dialect may store instead of serial numbers ---
+// --- ISO 8601 dates, which a workbook of the strict dialect may store instead of serial numbers ---
 
 double FraccionDeDia(std::string_view hora) {
     if (hora.ends_with('Z')) {
@@ -246,7 +249,8 @@ double DiasDeFecha(std::string_view fecha) {
     if (!dia.ok()) {
         FallarDanado();
     }
-    // Serial numbers count a 29th of February 1900 that never was, so the days before it count from one day later.
+    // Serial numbers count a 29 February 1900, which did not exist: dates before 1 March 1900 have a serial number one
+    // less than the days since 30 December 1899.
     const auto origen = sys_days(year{1899} / December / 30);
     const auto dias = (sys_days(dia) - origen).count();
     return static_cast<double>(sys_days(dia) < sys_days(year{1900} / March / 1) ? dias - 1 : dias);
@@ -271,7 +275,7 @@ struct Posicion {
     int columna;
 };
 
-// A reference such as "AB12".
+// Parses a cell reference such as "AB12".
 Posicion LeerReferencia(std::string_view referencia) {
     int columna = 0;
     std::size_t i = 0;
@@ -313,7 +317,8 @@ class LectorHoja : public LectorXml {
         }
     }
 
-    // The data end at the first row left out or without a first cell. Rows and cells stand in ascending order.
+    // The data end at the first missing row or the first row without a cell in column 1. Rows and cells are in
+    // ascending order.
     void AbrirFila(const AtributosXml& atributos) {
         const auto numero = atributos.Valor("r");
         const int fila = numero ? ExigirNumero<int>(*numero) : celda_.fila + 1;

@@ -7,8 +7,8 @@
 
 namespace cuencalia {
 
-/// Reads the first worksheet of an Office Open XML workbook (ECMA-376, transitional and strict) into the gatherer. The
-/// sheet is read only as far as its data go. Error 1004 when the bytes are no sound workbook.
+/// Reads the first worksheet of an Office Open XML workbook (ECMA-376, transitional and strict) into `armador`. The
+/// sheet is read only to the end of its data. Error 1004 when the bytes are not a valid workbook.
 void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador);
 
 }  // namespace cuencalia

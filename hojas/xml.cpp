@@ -11,7 +11,7 @@ namespace cuencalia {
 namespace {
 
 constexpr char kSeparador = '|';
-constexpr int kMaxProfundidad = 64;  // a workbook's own parts nest less than ten deep
+constexpr int kMaxProfundidad = 64;  // the parts of a valid workbook nest less than ten deep
 
 struct Nombre {
     std::string_view espacio;
@@ -32,7 +32,7 @@ bool EsPropio(const Nombre& nombre) {
            nombre.espacio == "http://schemas.openxmlformats.org/package/2006/relationships";
 }
 
-// Elements that count for nothing while their contents do.
+// Elements that are ignored while their contents are read.
 bool EsTransparente(const Nombre& nombre) {
     return nombre.espacio == "http://schemas.openxmlformats.org/markup-compatibility/2006" &&
            (nombre.local == "AlternateContent" || nombre.local == "Fallback");
@@ -59,7 +59,7 @@ std::optional<std::string_view> AtributosXml::IdRelacion() const {
     return std::nullopt;
 }
 
-// No exception may cross the parser's C code: it is kept and thrown again once the parser has returned.
+// Exceptions must not pass through the parser's C code: they are stored and thrown again once the parser has returned.
 struct LectorXml::Enlace {
     template <typename Accion>
     static void Cuidar(void* datos, Accion accion) {

@@ -12,38 +12,38 @@ struct XML_ParserStruct;
 
 namespace cuencalia {
 
-/// The attributes of an element while it is being opened.
+/// The attributes of the element that is being opened.
 class AtributosXml {
   public:
     explicit AtributosXml(const char** pares) : pares_(pares) {}
 
-    /// The attribute of this name and no namespace.
+    /// Value of the attribute with this name and no namespace.
     std::optional<std::string_view> Valor(std::string_view nombre) const;
-    /// The attribute `id` that refers to a relationship of the part, whatever prefix it was written with.
+    /// Value of the attribute `id` that refers to a relationship of the part, whatever its namespace prefix.
     std::optional<std::string_view> IdRelacion() const;
 
   private:
     const char** pares_;  // name, value, name, value, ..., null
 };
 
-/// Reads one XML part of a workbook. It sees the elements of the workbook's own vocabularies (the standard's two
-/// dialects alike) by their path from the root, "worksheet/sheetData/row"; foreign elements are passed over with all
-/// that they hold, and of alternate contents the fallback stands for the whole.
+/// Reads one XML part of a workbook. Elements of the workbook's own vocabularies (the same in both dialects of the
+/// standard) are reported by their path from the root, such as "worksheet/sheetData/row". Elements of other
+/// vocabularies are skipped with their contents; of alternate contents only the fallback is read.
 ///
-/// The whole of a part arrives by Alimentar and Concluir. Error 1004 for malformed XML, another root, a document type
-/// declaration (which the format forbids, and which could declare entities that expand without end) and absurdly deep
-/// nesting.
+/// The part is passed piece by piece to Alimentar, then Concluir is called. Error 1004 for malformed XML, another root,
+/// nesting that is too deep, and a document type declaration (which the format forbids, and which could declare
+/// entities that expand without limit).
 class LectorXml {
   public:
-    /// `raiz` is the name of the root that the part must have; empty when any root will do.
+    /// `raiz` is the name that the root element must have; empty: any name.
     explicit LectorXml(std::string raiz);
     LectorXml(const LectorXml&) = delete;
     LectorXml& operator=(const LectorXml&) = delete;
     virtual ~LectorXml();
 
-    /// Takes the next piece; false when the reader has seen enough.
+    /// Parses the next piece; returns false when the rest of the part is not needed.
     bool Alimentar(std::span<const std::byte> trozo);
-    /// Ends the part, unless the reader had seen enough before.
+    /// Ends the part; checks that it is complete, unless its rest was not needed.
     void Concluir();
 
   protected:
@@ -51,7 +51,7 @@ class LectorXml {
     virtual void AlTexto(std::string_view /*ruta*/, std::string_view /*texto*/) {}
     virtual void AlCerrar(std::string_view /*ruta*/) {}
 
-    /// The rest of the part does not matter.
+    /// Tells that the rest of the part is not needed.
     void Detener();
 
   private:
@@ -69,7 +69,7 @@ class LectorXml {
     std::string raiz_;
     std::string ruta_;
     int profundidad_ = 0;
-    int ajenos_ = 0;  // open elements from the outermost foreign one inwards
+    int ajenos_ = 0;  // depth within the outermost element of another vocabulary; 0 outside
     bool detenido_ = false;
 };
 

@@ -13,7 +13,7 @@ namespace cuencalia {
 
 namespace {
 
-// The library comments on every oddity of a damaged file, without end; the caller learns of it by the error.
+// Discards the library's many messages about a damaged file: the caller gets an error instead.
 void Callar(const char*, GLogLevelFlags, const char*, void*) {}
 
 void Iniciar() {
@@ -50,8 +50,8 @@ std::uint32_t Entero(std::string_view bytes, std::size_t lugar, std::size_t larg
     return valor;
 }
 
-// The checksums that the index at the end of the archive gives for its parts (APPNOTE.TXT 4.3.12 and 4.3.16): the
-// library does not look at them. What is not in the index, the library does not find either.
+// The CRC-32 of each part, from the index at the end of the archive (APPNOTE.TXT 4.3.12 and 4.3.16), since the library
+// does not check it. Parts missing from the index are not found by the library either.
 std::map<std::string, std::uint32_t> LeerSumas(std::string_view archivo) {
     constexpr std::size_t kLargoFinal = 22;
     constexpr std::size_t kLargoEntrada = 46;
@@ -82,7 +82,7 @@ constexpr std::array<std::uint32_t, 256> kTablaCrc = [] {
     return tabla;
 }();
 
-// CRC-32 of the bytes so far and these, complemented.
+// Updates the CRC-32 of the bytes read so far by the next ones; both values are complemented.
 std::uint32_t Sumar(std::uint32_t suma, std::span<const std::byte> bytes) {
     for (const std::byte b : bytes) {
         suma = kTablaCrc[(suma ^ std::to_integer<std::uint32_t>(b)) & 0xFF] ^ suma >> 8;

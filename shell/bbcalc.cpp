@@ -10,7 +10,7 @@ namespace cuencalia {
 namespace {
 
 constexpr double kPi15Cifras = 3.14159265358979;
-constexpr int kDigitosMaximos = 15;  // what a Double holds and Str writes
+constexpr int kDigitosMaximos = 15;  // the digits that a Double holds and Str writes
 constexpr const char* kDigitos = "0123456789";
 
 bool EsUnaria(int codigo) {
@@ -19,10 +19,10 @@ bool EsUnaria(int codigo) {
 
 bool Contiene(const std::string& texto, const char* alguno) { return texto.find_first_of(alguno) != std::string::npos; }
 
-/// A number as the Tag has it: nothing for 0.
+/// A number as stored in the Tag: empty for 0.
 std::string TextoDe(Double valor) { return valor == Double(0) ? std::string() : Trim(Str(valor)); }
 
-/// The Tag's text as the display has it: always with a point, and with a 0 where there is no digit.
+/// The Tag's text as shown on the display: always with a point, and with a 0 when it has no digit.
 std::string EnPantalla(std::string texto) {
     if (!Contiene(texto, ".")) {
         texto.insert(std::min(texto.find('E'), texto.size()), ".");
@@ -110,7 +110,7 @@ void BBCalc::ChangeSign() {
 
 std::optional<Double> BBCalc::Calcular(const std::function<Double()>& calculo) {
     try {
-        // The largest Double is written as a number beyond a Double: reading it back is part of the risk.
+        // The largest Double, rounded to 15 digits, is beyond the range of a Double, so Val may fail as well.
         return Val(TextoDe(calculo()));
     } catch (const ErrorEjecucion&) {
         App().MsgBox("No se puede cumplir con su petición.\nEsta operación ha sido cancelada.", kIconoError,
@@ -283,7 +283,7 @@ void BBCalc::MemFunction(int codigo) {
     } else if (codigo == 3) {
         memoria_ = Calcular([this] { return memoria_ + x_; }).value_or(memoria_);
     }
-    // A number that went to the memory is finished: the next digit begins another one.
+    // A number stored in the memory is complete: the next digit begins another number.
     entrando_ = false;
     ShowBox();
 }

@@ -2,8 +2,7 @@
 
 namespace cuencalia::editor {
 
-/// Contact data of those who publish this build, shown in the About box: whoever publishes another build writes its own
-/// here.
+/// Contact data of the publisher of this build, shown in the About box; another publisher replaces them here.
 inline constexpr const char* kTrabajos = "El manual del programa, en el menú Ayuda";
 inline constexpr const char* kConsultas = "Equipo de Cuencalia";
 

@@ -81,7 +81,8 @@ void frmCalculadora::ElegirModo() {
     BBCalc1.ShowBox();
 }
 
-/// The keys of the arc sine and the arc cosine work only where the function is defined.
+/// The keys for arc sine and arc cosine are enabled only while the number on the display is in the domain of the
+/// function.
 void frmCalculadora::BBCalc1_Change() {
     const Double valor = BBCalc1.Valor();
     const bool enRango = valor >= Double(-1) && valor < Double(1);
@@ -89,7 +90,7 @@ void frmCalculadora::BBCalc1_Change() {
     cmdSci[4].Enabled = enRango;
 }
 
-/// The clipboard is looked at when the menu opens: other programs write to it meanwhile.
+/// The clipboard is checked when the menu opens, since other programs may have changed it.
 void frmCalculadora::mnuEditbase_Click() { mnuEditPaste.Enabled = BBCalc1.CanPaste(); }
 
 Disposicion frmCalculadora::Disponer() {

@@ -8,7 +8,7 @@
 
 namespace cuencalia {
 
-/// The pocket calculator's keys, each of which goes on to a method of the engine. The window is shared by all modules.
+/// The pocket calculator: each key calls a method of the engine. All modules share this window.
 class frmCalculadora : public Formulario {
   public:
     explicit frmCalculadora(Aplicacion& app);
@@ -24,7 +24,7 @@ class frmCalculadora : public Formulario {
     Menu mnuEditbase{*this, "mnuEditbase", "&Edit"};
     Menu mnuEditCopy{mnuEditbase, "mnuEdit(0)", "&Copy"};
     Menu mnuEditPaste{mnuEditbase, "mnuEdit(1)", "&Paste"};
-    /// Control arrays: an element's name has the code that its key gives to the engine, "cmdOp(4)".
+    /// Control arrays; the number in an element's name is the code that its key passes to the engine: "cmdOp(4)".
     std::deque<CommandButton> cmdNum, cmdClear, cmdOp, cmdSci, cmdMem;
 
     void Form_Load() override;

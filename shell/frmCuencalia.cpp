@@ -13,10 +13,10 @@ constexpr std::string_view kAyuda = "*ayuda";
 struct Entrada {
     const char* control;
     const char* caption;
-    std::string_view abre;  ///< The form that it opens, or one of the constants above.
+    std::string_view abre;  ///< Name of the form that the entry opens, or one of the constants above.
 };
 
-/// The menu tree in order: an entry that opens nothing and is no separator starts a new menu of the bar.
+/// The menu tree in order. An entry that opens nothing and is not a separator starts a new menu of the menu bar.
 constexpr Entrada kArbol[] = {
     {"mpara", "Parámetros", kMenu},
     {"mparanoagru", "Datos no agrupados", "frmParamEsta"},

@@ -7,7 +7,7 @@
 
 namespace cuencalia {
 
-/// The main menu: the program's first window. It holds no data and does no calculation.
+/// The main menu, the first window of the program. It has no data and calculates nothing.
 class frmCuencalia : public Formulario {
   public:
     explicit frmCuencalia(Aplicacion& app);
@@ -18,7 +18,7 @@ class frmCuencalia : public Formulario {
     CommandButton bsalir{*this, "bsalir", "&Salir", "Salir del programa"};
 
     void Form_Load() override;
-    /// Ends the program at once, with no question, whatever the state of the open modules.
+    /// Ends the program at once without asking, even when modules are open.
     void bsalir_Click() { App().Terminar(); }
     void mayuayu_Click();
 

@@ -16,14 +16,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A pipe must not keep the program waiting for its other end. Null, with errno, when there is nothing to open.
+/// Opens without blocking, so that a pipe with no process at its other end does not hang the program. Returns null,
+/// with errno set, when the file cannot be opened.
 ArchivoAbierto Abrir(const fs::path& ruta, int modo, mode_t permisos = 0) {
     const int descriptor = ::open(ruta.c_str(), modo | O_CLOEXEC | O_NONBLOCK, permisos);
     return ArchivoAbierto(descriptor < 0 ? nullptr
                                          : ::fdopen(descriptor, (modo & O_ACCMODE) == O_RDONLY ? "rb" : "wb"));
 }
 
-/// Error 75 when it is no regular file.
+/// Status of the open file. Error 75 when it is not a regular file.
 struct stat DatosDe(const ArchivoAbierto& archivo) {
     struct stat datos {};
     if (::fstat(::fileno(archivo.get()), &datos) != 0 || !S_ISREG(datos.st_mode)) {
@@ -32,7 +33,8 @@ struct stat DatosDe(const ArchivoAbierto& archivo) {
     return datos;
 }
 
-/// Follows links, also one to a file that is not there yet. Of links in a circle one is left, which nobody can open.
+/// Returns the path after following symbolic links; the last target need not exist. For links that form a circle it
+/// returns one of the links, and opening that fails.
 fs::path SeguirEnlaces(fs::path ruta) {
     constexpr int kMaximoEnlaces = 40;
     std::error_code error;
@@ -44,13 +46,15 @@ fs::path SeguirEnlaces(fs::path ruta) {
 
 fs::path CarpetaDe(const fs::path& ruta) { return ruta.has_parent_path() ? ruta.parent_path() : "."; }
 
-/// True when the folder, not the file, refuses: it takes no new files, or the file is mounted by itself.
+/// True when a replacement failed because of the folder rather than the file: the folder takes no new files, or the
+/// file is a mount point of its own.
 bool LoImpideLaCarpeta(int causa) {
     constexpr std::array kCausas{EACCES, EPERM, EROFS, EBUSY, EXDEV};
     return std::find(kCausas.begin(), kCausas.end(), causa) != kCausas.end();
 }
 
-/// Brings the new name to the disk. Not every file system can, and the file is in its place already.
+/// Flushes the folder to the disk, so that the renaming of a file survives a crash. Failures are ignored: some file
+/// systems cannot do it, and the file is already in its place.
 void SincronizarCarpeta(const fs::path& carpeta) {
     const int descriptor = ::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
@@ -123,7 +127,8 @@ ReemplazoDeArchivo::~ReemplazoDeArchivo() {
 
 void ReemplazoDeArchivo::CrearProvisional(const fs::path& carpeta) {
     constexpr int kIntentos = 100;
-    // What belongs in a private file is private before it is there, too.
+    // While it is being written, the new version of an existing file is readable by its owner only: the existing file
+    // may be private.
     const mode_t permisos = viejo_ == nullptr ? 0666 : 0600;
     const std::string nombre = ".cuencalia-" + std::to_string(::getpid()) + "-";
     for (int i = 0; i < kIntentos && nuevo_ == nullptr; ++i) {
@@ -147,11 +152,13 @@ void ReemplazoDeArchivo::Publicar() {
     const int descriptor = ::fileno(nuevo_.get());
     if (viejo_ != nullptr) {
         const struct stat viejo = DatosDe(viejo_);
-        // Only the administrator may give a file away, and not every file system knows permissions.
+        // Failures are ignored: only the administrator may change a file's owner, and some file systems have no
+        // permissions.
         [[maybe_unused]] int ignorado = ::fchown(descriptor, viejo.st_uid, viejo.st_gid);
         ignorado = ::fchmod(descriptor, viejo.st_mode);
     }
-    // A name that is on the disk before the contents would be an empty file after a crash.
+    // The contents are flushed to the disk before the file is renamed: otherwise a crash could leave an empty file
+    // under the final name.
     if (std::ferror(nuevo_.get()) != 0 || std::fflush(nuevo_.get()) != 0 || ::fsync(descriptor) != 0 ||
         std::fclose(nuevo_.release()) != 0) {
         FallarPorSistema(errno, UsoArchivo::kEscribir);

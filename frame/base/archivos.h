@@ -9,15 +9,17 @@
 
 namespace cuencalia {
 
-/// What a file is wanted for: a name that leads nowhere lacks the file for a reader, the folder for a writer.
+/// What a file is opened for. It decides the error for a path that does not exist: 53 (no such file) when reading, 76
+/// (no such folder) when writing.
 enum class UsoArchivo { kLeer, kEscribir };
 
-/// Raises the error of a system call on a file that failed with this errno: 61 when the disk is full, 53 (reading) or
-/// 76 (writing) when the name leads nowhere, 75 for anything else.
+/// Raises the run-time error for a system call on a file that failed with the errno `causa`: 61 when the disk is full,
+/// 53 (reading) or 76 (writing) when the path does not exist, 75 for anything else.
 [[noreturn]] void FallarPorSistema(int causa, UsoArchivo uso);
 
-/// The bytes of a file, no more than the first `maximo` of them: who must know of a longer file asks for one byte more.
-/// Error 53: no such file; 75: it cannot be read, or is no regular file.
+/// The first `maximo` bytes of a file, or all of them if it has fewer. To find out whether a file is longer than n
+/// bytes, ask for n + 1.
+/// Error 53: no such file; 75: it cannot be read, or is not a regular file.
 std::string LeerArchivo(const std::string& ruta, std::size_t maximo = std::string::npos);
 
 struct CerrarArchivo {
@@ -25,39 +27,40 @@ struct CerrarArchivo {
 };
 using ArchivoAbierto = std::unique_ptr<std::FILE, CerrarArchivo>;
 
-/// A file that is written beside the one whose place it takes, and takes it when it is complete: until then the old
-/// file stays as it was, and the new one goes with this object. A link stays a link, and the file keeps its
-/// permissions.
+/// Replaces a file in one step. The new version is written to a temporary file in the same folder, and Publicar renames
+/// it over the old file; until then the old file is unchanged. If Publicar is never called, the destructor deletes the
+/// temporary file. A symbolic link stays a link, and the file keeps its permissions.
 ///
-/// Where the folder refuses new files but the old file may be written, the new contents wait in the system's folder of
-/// temporary files and are copied over the old ones in the end. The room is taken before the first byte is overwritten,
-/// so that a full disk leaves the old file even then; a power cut in that moment would not.
+/// Where the folder refuses new files but the old file may be written, the temporary file is in the system's folder for
+/// temporary files, and Publicar copies its contents over the old file. Disk space is reserved before the first byte is
+/// overwritten, so a full disk leaves the old file unchanged; a power cut during the copy would not.
 class ReemplazoDeArchivo {
   public:
-    /// Makes or empties no file at `ruta`. Error 76: no such folder; 75: the file may not be written, or is no regular
-    /// file; 61: the disk is full.
+    /// Prepares the replacement of `ruta`, which is neither created nor emptied yet. Error 76: no such folder; 75: the
+    /// file may not be written, or is not a regular file; 61: the disk is full.
     explicit ReemplazoDeArchivo(const std::string& ruta);
     ~ReemplazoDeArchivo();
     ReemplazoDeArchivo(const ReemplazoDeArchivo&) = delete;
     ReemplazoDeArchivo& operator=(const ReemplazoDeArchivo&) = delete;
 
-    /// Appends to the new file; the bytes may reach the disk as late as by Publicar. Error 61: the disk is full; 75:
-    /// any other failure.
+    /// Appends to the new file; the bytes may stay in a buffer until Publicar. Error 61: the disk is full; 75: any
+    /// other failure.
     void Escribir(std::string_view bytes);
-    /// Where the new file, empty, is meanwhile: for a library that writes by itself. It must have closed it before
-    /// Publicar.
+    /// Path of the temporary file, which is empty at first: for a library that writes to a path by itself. The library
+    /// must have closed the file before Publicar is called.
     const std::string& RutaProvisional() const { return provisional_; }
 
-    /// Brings the new file to the disk and puts it in its place. Errors as Escribir. Nothing may follow.
+    /// Flushes the new file to the disk and replaces the old one by it. Errors as in Escribir. Call nothing else on
+    /// this object afterwards.
     void Publicar();
 
   private:
     void CrearProvisional(const std::filesystem::path& carpeta);
     void CopiarAlViejo();
 
-    std::filesystem::path destino_;  ///< What `ruta` means once its links are followed.
-    std::string provisional_;        ///< Empty when there is none to remove.
-    ArchivoAbierto viejo_;           ///< None when there is no file to replace.
+    std::filesystem::path destino_;  ///< `ruta` with its symbolic links followed.
+    std::string provisional_;        ///< Path of the temporary file; empty when there is none to delete.
+    ArchivoAbierto viejo_;           ///< The file to be replaced; null when there is none.
     ArchivoAbierto nuevo_;
 };
 

@@ -20,7 +20,7 @@ constexpr std::size_t kMaximoRegistros = INT16_MAX;
 
 using Bytes = std::array<unsigned char, 4 * kAnchoSingle>;
 
-/// Bytes in the file's order, whatever the machine's.
+/// Writes the bytes in the order of the file, little-endian, whatever the machine's own order.
 void Poner(Bytes& bytes, std::size_t donde, float valor) {
     const auto bits = std::bit_cast<std::uint32_t>(valor);
     for (std::size_t i = 0; i < kAnchoSingle; ++i) {

@@ -11,8 +11,8 @@ namespace cuencalia {
 /// The values of one record of a series file; those beyond the record's width are 0.
 using Registro = std::array<Single, 4>;
 
-/// A headerless file of fixed records of one to four little-endian IEEE-754 Singles, read from its first record on. Its
-/// length alone tells the number of records; a tail shorter than a record is never read.
+/// Reads a headerless file of fixed records of one to four little-endian IEEE-754 Singles, from its first record on.
+/// The number of records follows from the length of the file alone; a last, incomplete record is never read.
 class LectorSerie {
   public:
     /// Error 53: no such file (also for an empty name); 75: no access, or no regular file; 6: more than 32767 records.
@@ -29,8 +29,8 @@ class LectorSerie {
     Integer registros_;
 };
 
-/// Such a file being written anew: what it held before is gone once it is open. What was written stays when writing
-/// ends early.
+/// Writes such a file. Opening it empties an existing file. The records written so far stay in the file when writing
+/// stops early.
 class EscritorSerie {
   public:
     /// Error 53: empty name; 76: no such folder; 75: no access.

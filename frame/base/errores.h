@@ -5,8 +5,8 @@
 
 namespace cuencalia {
 
-/// A run-time fault of a calculation or of the platform, with the number and the Spanish text that the user is shown.
-/// It stops the event handler at the failing statement unless the handler has a trap of its own.
+/// A run-time fault of a calculation or of the platform, with its number and the Spanish text shown to the user. It
+/// ends the event handler at the failing statement unless the handler catches it.
 class ErrorEjecucion : public std::runtime_error {
   public:
     /// Takes the text that belongs to `numero`: 5, 6, 7, 9, 11, 13, 53, 61, 75, 76 or 91. Any other number gets a

@@ -62,18 +62,18 @@ class AccesoHojas {
 
     /// The data of the first worksheet of the workbook (.xlsx or .xls, told apart by content): columns 1 to `columnas`
     /// of the rows before the first empty cell of column 1, and at most `filasMax` of them. A caller with room for n
-    /// rows asks for n + 1 to learn that there are more.
+    /// rows asks for n + 1 rows to find out whether the sheet has more.
     ///
-    /// A formula counts by its stored value, a date by its stored serial number. A logical value comes as the text
-    /// "Verdadero" or "Falso" and an error value as its literal ("#DIV/0!"), so neither passes for a number. Of merged
-    /// cells only the first has the value.
+    /// A formula is read as its stored value, a date as its stored serial number. A logical value is read as the text
+    /// "Verdadero" or "Falso" and an error value as its literal ("#DIV/0!"), so that neither is taken for a number. Of
+    /// merged cells only the first has the value.
     ///
-    /// Error 53: no such file; 75: it cannot be read; 1004, with a text that says so: it is no workbook, damaged,
-    /// protected by a password, or too large.
+    /// Error 53: no such file; 75: it cannot be read; 1004, whose text gives the reason: it is not a workbook, or is
+    /// damaged, protected by a password, or too large.
     virtual Hoja LeerPrimeraHoja(const std::string& ruta, int columnas, int filasMax) = 0;
 
-    /// Writes a new workbook (.xlsx) of one sheet with these cells, numbers with 16 significant digits. It replaces the
-    /// file only when it was written whole.
+    /// Writes a new workbook (.xlsx) of one sheet with these cells, numbers with 16 significant digits. An existing
+    /// file is replaced only once the new one is complete.
     ///
     /// Error 61: disk full; 75: no access; 76: no such folder; 1004: a cell that a workbook cannot hold (beyond row
     /// 1,048,576 or column 16,384, a number of 10^308 or more, a text of more than 32,767 characters or not UTF-8).

@@ -80,13 +80,14 @@ Double Elevar(Double a, Double b) {
 
 Double Rnd() {
     constexpr int kBitsMantisa = std::numeric_limits<double>::digits;
-    // The top 53 bits alone: std::generate_canonical may round up to 1, which is outside the range.
+    // Only the top 53 bits are used: std::generate_canonical may round up to 1, which is outside the range.
     const std::uint64_t bits = Generador()() >> (64 - kBitsMantisa);
     return std::ldexp(static_cast<double>(bits), -kBitsMantisa);
 }
 
 void Randomize(Double semilla) {
-    // Every bit of the seed counts, so that fractions of a second tell two runs apart. The sum makes -0 the same as 0.
+    // All bits of the seed are used, so that program runs started within the same second get different seeds. Adding 0
+    // turns -0 into 0, so that both give the same sequence.
     Generador().seed(std::bit_cast<std::uint64_t>(semilla.valor() + 0.0));
 }
 

@@ -13,16 +13,17 @@
 
 namespace cuencalia {
 
-/// An IEEE-754 number whose arithmetic has no silent infinities: a result out of range raises error 6, a division by
-/// zero error 11, 0 / 0 error 6. A formula is written as it stands on paper and every fault surfaces where it happens.
+/// An IEEE-754 number whose arithmetic never yields an infinity or a NaN: a result out of range raises error 6, a
+/// division by zero error 11, 0 / 0 error 6. So a formula can be written as on paper, and every fault is raised by the
+/// operation that causes it.
 template <std::floating_point F>
 class Real {
   public:
     constexpr Real() = default;
     constexpr Real(F valor) : v_(valor) {}
-    /// Whole numbers convert without ceremony: every count and index of a series is exact in a Double.
+    /// Whole numbers convert implicitly: every count and index of a series is exact in a Double.
     constexpr Real(std::integral auto valor) : v_(static_cast<F>(valor)) {}
-    /// A narrower real widens by itself; the way back is CSng.
+    /// A narrower real converts implicitly to a wider one; the opposite conversion is CSng.
     template <std::floating_point G>
     requires(sizeof(G) < sizeof(F)) constexpr Real(Real<G> otro) : v_(static_cast<F>(otro.valor())) {}
 

@@ -102,7 +102,8 @@ std::string Fraccion(const Decimal& d) {
     return fraccion;
 }
 
-/// What a digit pattern asks for. The digits between a forced one and the point are forced too: positions have no gaps.
+/// What a digit pattern asks for. The digits between a required one and the decimal point are required too, since a
+/// number cannot skip a decimal place.
 struct Patron {
     std::string_view signo;  ///< "+" or empty.
     bool punto = false;

@@ -26,11 +26,11 @@ std::string Str(Double valor);
 /// everything ("+0.0" of -5 is "-+5.0"). Error 6 for an infinity or a NaN, which a damaged file may hold.
 /// A pattern of any other shape is a fault of the program: std::invalid_argument.
 std::string Format(Double valor, std::string_view patron);
-/// A Single is written by its shortest decimal digits that read back as the same Single.
+/// As above for a Single, with its shortest decimal digits that read back as the same Single.
 std::string Format(Single valor, std::string_view patron);
 inline std::string Format(std::integral auto valor, std::string_view patron) { return Format(Double(valor), patron); }
 inline std::string Format(double valor, std::string_view patron) { return Format(Double(valor), patron); }
-/// A text comes back unchanged.
+/// Returns the text unchanged, whatever the pattern.
 std::string Format(std::string_view texto, std::string_view patron);
 
 /// Number of characters (code points), not of bytes, of a UTF-8 text. Here and below a byte that belongs to no

@@ -6,10 +6,10 @@
 
 namespace cuencalia {
 
-/// What stands for a character that cannot be told (U+FFFD).
+/// The character shown in place of bytes that are not valid UTF-8 (U+FFFD, replacement character).
 constexpr char32_t kCaracterIlegible = 0xFFFD;
 
-/// True for a code that a character may have: up to U+10FFFF, without the halves of UTF-16 pairs.
+/// True for a valid code point: up to U+10FFFF, without the surrogates of UTF-16.
 constexpr bool EsCodigoDeCaracter(char32_t codigo) {
     return codigo <= 0x10FFFF && !(codigo >= 0xD800 && codigo <= 0xDFFF);
 }

@@ -10,7 +10,8 @@ namespace {
 
 constexpr int kErrorInterno = 51;
 
-/// Counts an event for as long as it lasts, however it ends.
+/// Counts the events being handled, one inside the other: adds one when created and subtracts it when destroyed, also
+/// after an exception.
 class Profundidad {
   public:
     explicit Profundidad(int& cuenta) : cuenta_(cuenta) { ++cuenta_; }
@@ -82,7 +83,8 @@ void Aplicacion::DoEvents() {
 void Aplicacion::EntregarFoco(Control& control) {
     Control* anterior = foco_;
     foco_ = &control;
-    // The new control has the focus even when the old one's handler fails: what is typed next must reach it.
+    // The new control already has the focus here and keeps it even when the old control's lost-focus handler fails:
+    // what the user types next must reach the new control.
     std::exception_ptr fallo;
     if (anterior != nullptr) {
         try {
@@ -107,7 +109,8 @@ void Aplicacion::PulsarTecla(int codigo, int caracter) {
     if (control == nullptr) {
         return;
     }
-    // One event for the user, two for the control: a fault in KeyDown does not keep the character from KeyPress.
+    // One key of the user is two events of the control, dispatched separately: a fault in KeyDown must not suppress
+    // KeyPress.
     Despachar([&] {
         const Formulario& forma = control->Forma();
         Despachar([&] { control->KeyDown(codigo); });

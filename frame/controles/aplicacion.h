@@ -16,17 +16,17 @@ namespace cuencalia {
 /// How to make each form of the program, by its name.
 using TablaFormas = std::map<std::string, std::function<std::unique_ptr<Formulario>(Aplicacion&)>>;
 
-/// Values that all forms share; each handler runs to its end, so they need no protection.
+/// Values that all forms share. Handlers run one after the other to their end, so the values need no locking.
 struct Variables {
     std::string NombreArchivo;  ///< Name chosen in the last file dialog of a module.
     Integer NRegistros;         ///< Records of the file or sheet read last.
     int documentos = 0;         ///< Report documents made since the program started.
 };
 
-/// The running program: its forms, the keyboard focus and the one door by which events come in.
+/// The running program: its forms, the keyboard focus, and Despachar, through which every event comes in.
 class Aplicacion {
   public:
-    /// `menuPrincipal` names the form to which ModuloCerrar goes back.
+    /// `menuPrincipal` is the name of the form that ModuloCerrar shows.
     Aplicacion(Plataforma& plataforma, TablaFormas formas, std::string menuPrincipal = "frmCuencalia");
     ~Aplicacion();
     Aplicacion(const Aplicacion&) = delete;
@@ -34,49 +34,49 @@ class Aplicacion {
 
     Plataforma& Sistema() { return plataforma_; }
 
-    /// Runs what an event of the outside world starts. A run-time error that no handler trapped stops the handler at
-    /// the failing statement, is shown, and the program goes on; so does any other exception. Focus changes still
-    /// waiting are delivered at the end.
+    /// Runs `accion`, the response to an event from outside (a key, a click, a window). A run-time error that no
+    /// handler caught ends the handler at the failing statement and is shown to the user; the program goes on. Any
+    /// other exception is treated likewise. Pending focus changes are delivered at the end.
     void Despachar(const std::function<void()>& accion);
-    /// Delivers the focus changes that wait, in order: lost-focus of the old control, got-focus of the new one.
+    /// Delivers the pending focus changes in order: lost-focus of the old control, got-focus of the new one.
     void DoEvents();
 
-    /// A key on the control that has the focus: KeyDown, then KeyPress where the key has a character (0: none), then
-    /// what the control does with it.
+    /// A key pressed on the control that has the focus: fires KeyDown, then KeyPress where the key has a character (0:
+    /// none), then runs the control's own response to the key.
     void PulsarTecla(int codigo, int caracter);
-    /// Turns an entry of the outside world into the control's Click: the focus moves to it first.
+    /// Presses the control for the user: moves the focus to it, then fires its Click.
     void Pulsar(Control& control);
     /// The user closed the window of the form.
     void CerrarVentana(Formulario& forma);
-    /// The window of the form came to the front: its control gets the focus.
+    /// The window of the form came to the front: the form's active control gets the focus.
     void Activar(Formulario& forma);
 
     Control* Foco() const { return foco_; }
     void PedirFoco(Control& control);
-    /// Gives up a control that is about to go.
+    /// Drops the focus and the pending focus changes that belong to a form about to be destroyed.
     void Olvidar(const Formulario& forma);
 
     /// Whether the program has a form of this name.
     bool Existe(const std::string& forma) const { return formas_.contains(forma); }
-    /// The loaded default instance, or null.
+    /// The loaded default instance of that form, or null.
     Formulario* Cargada(const std::string& forma) const;
     std::vector<Formulario*> Cargadas() const;
     /// Whether the form is loaded, as a default instance or inside another one's window.
     bool EstaAbierta(const Formulario& forma) const;
 
-    /// Creates the form if its reference is empty, then shows it modeless.
+    /// Creates the form's default instance if it is not loaded, then shows it modeless.
     Formulario& ModuloAbrir(const std::string& forma);
     /// Unloads the form and shows the main menu.
     void ModuloCerrar(Formulario& forma);
     void Unload(Formulario& forma);
-    /// Loads and shows a window inside the window of `padre`; there may be several of one name.
+    /// Loads and shows the form `hija` inside the window of `padre`; several of them may have the same name.
     Formulario& AbrirHija(Formulario& padre, std::unique_ptr<Formulario> hija);
-    /// The window inside `padre` that was active last, or null.
+    /// The form inside `padre` that was active last, or null.
     Formulario* HijaActiva(const Formulario& padre) const;
 
     Variables& Globales() { return variables_; }
 
-    /// Ends the program at once, with no question and no unloading.
+    /// Ends the program at once, without asking the user and without unloading the forms.
     void Terminar();
     bool Terminada() const { return terminada_; }
 
@@ -96,10 +96,10 @@ class Aplicacion {
     TablaFormas formas_;
     std::string menuPrincipal_;
     std::map<std::string, std::unique_ptr<Formulario>> cargadas_;
-    /// Windows inside others, the one active last at the end.
+    /// Forms shown inside other forms' windows; the last element is the one active last.
     std::vector<std::unique_ptr<Formulario>> hijas_;
     Variables variables_;
-    /// Unloaded inside a handler of their own; they go when the handler has ended.
+    /// Forms that were unloaded inside one of their own handlers; they are destroyed when that handler has ended.
     std::vector<std::unique_ptr<Formulario>> descargadas_;
     std::deque<Control*> focosPedidos_;
     Control* foco_ = nullptr;

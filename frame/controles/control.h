@@ -12,15 +12,15 @@ class Aplicacion;
 class Control;
 class Formulario;
 
-/// What shows a control on a screen. It is told that something of its control changed, not what: it reads the control
-/// anew when it next paints.
+/// What shows a control on a screen. It is told that its control changed, but not what changed: it reads the whole
+/// control again when it next paints.
 class VistaControl {
   public:
     virtual ~VistaControl() = default;
     virtual void ModeloCambio() = 0;
 };
 
-/// A value of a control. Assigning a different value tells the control's view and runs the hook, if there is one.
+/// A value of a control. Assigning a different value notifies the control's view and runs the hook, if there is one.
 template <typename T>
 class Propiedad {
   public:
@@ -39,7 +39,7 @@ class Propiedad {
     std::function<void()> alCambiar_;
 };
 
-/// Codes of the keys that a KeyDown handler is told.
+/// Key codes passed to KeyDown handlers.
 enum CodigoTecla : int {
     kTeclaRetroceso = 8,
     kTeclaTab = 9,
@@ -59,11 +59,11 @@ enum CodigoTecla : int {
     kTeclaF2 = 113,
 };
 
-/// Buttons of the mouse as MouseDown tells them.
+/// Mouse buttons, as passed to MouseDown.
 enum BotonRaton : int { kBotonIzquierdo = 1, kBotonDerecho = 2 };
 
-/// A visible element of a form: its state and its events, with no screen. A control is a member of its form and is
-/// reached by its name.
+/// An element of a form: its state and its events, independent of any screen. A control is a member of its form and is
+/// found by its name.
 class Control {
   public:
     Control(Formulario& forma, std::string nombre);
@@ -78,9 +78,9 @@ class Control {
     Propiedad<bool> Visible{*this, true};
     Propiedad<bool> Enabled{*this, true};
     Propiedad<std::string> ToolTipText{*this};
-    /// What a screen reader calls the control where its own texts do not say it.
+    /// Name that a screen reader announces, where the control's own texts do not say what it is.
     Propiedad<std::string> NombreAccesible{*this};
-    /// A text that the form keeps with the control; nothing shows it.
+    /// A text that the form stores with the control; it is not shown.
     Propiedad<std::string> Tag{*this};
 
     Evento<> Click;
@@ -91,32 +91,32 @@ class Control {
     Evento<> MouseMove;
     Evento<int> MouseDown;  ///< BotonRaton.
 
-    /// Asks for the focus; it arrives at the next DoEvents or when the handler ends. The tab page on which the control
-    /// stands comes to the front. Error 5 when the control is hidden or disabled.
+    /// Asks for the focus; the control gets it at the next DoEvents or when the running handler ends. The tab page that
+    /// contains the control comes to the front. Error 5 when the control is hidden or disabled.
     void SetFocus();
     bool TieneFoco() const;
 
-    /// Shown, and all that it stands in shown too, tab pages included.
+    /// True when the control and everything that contains it are shown, tab pages included.
     bool EsVisible() const;
-    /// The same as if every tab page were in front.
+    /// As EsVisible, but taking every tab page as if it were in front.
     bool EsMostrable() const;
-    /// Turns every tab control around to the page on which the control stands.
+    /// Brings the tab page that contains the control to the front, in every tab control around it.
     void TraerAlFrente();
-    /// Enabled, and all that it stands in enabled too.
+    /// True when the control and everything that contains it are enabled.
     bool EsHabilitado() const;
     /// Whether this kind of control takes the keyboard.
     virtual bool AceptaFoco() const { return false; }
     bool PuedeRecibirFoco() const { return AceptaFoco() && EsVisible() && EsHabilitado(); }
 
-    /// What the control itself does with a key that its handlers left alone: `caracter` is 0 for a key without one.
+    /// The control's own response to a key, after its handlers; `caracter` is 0 for a key without a character.
     virtual void TeclaPorDefecto(int codigo, int caracter);
 
-    /// The frame or tab control in which it stands, or null; the layout of the form sets it.
+    /// The frame or tab control that contains this control, or null; the layout of the form sets it.
     Control* Contenedor() const { return contenedor_; }
-    /// Page of the tab control in which it stands (from 0), -1 elsewhere.
+    /// Page (from 0) of the tab control that contains this control, -1 when none does.
     int Pagina() const { return pagina_; }
     void PonerEn(Control* contenedor, int pagina = -1);
-    /// Of a tab control: whether that page is in front, and turning to it.
+    /// For tab controls: whether that page is in front, and bringing it to the front.
     virtual bool MuestraPagina(int /*pagina*/) const { return true; }
     virtual void MostrarPagina(int /*pagina*/) {}
 
@@ -126,7 +126,7 @@ class Control {
     void Notificar() const;
 
   protected:
-    /// For the form, which stands in nothing.
+    /// For the form itself, which no control contains.
     Control(Formulario* propia, std::string nombre) : forma_(propia), nombre_(std::move(nombre)) {}
 
   private:

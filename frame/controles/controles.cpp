@@ -154,7 +154,7 @@ Frame::Frame(Formulario& forma, std::string nombre, std::string caption) : Contr
 SSTab::SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos)
     : Control(forma, std::move(nombre)), titulos_(std::move(titulos)) {}
 
-/// What is typed must not go on to a page that is out of sight.
+/// A control on a page that is no longer in front loses the focus, so that typing does not go to a hidden control.
 void SSTab::AlCambiarFicha() {
     const Control* foco = App().Foco();
     if (foco != nullptr && &foco->Forma() == &Forma() && !foco->EsVisible() && PuedeRecibirFoco()) {

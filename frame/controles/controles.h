@@ -25,7 +25,7 @@ class TextBox : public Control {
     Propiedad<std::string> Text{*this, {}, [this] { AlCambiarTexto(); }};
     Propiedad<int> SelStart{*this};
     Propiedad<int> SelLength{*this};
-    Propiedad<bool> Locked{*this};  ///< Shows a result: it can be selected and copied, not written.
+    Propiedad<bool> Locked{*this};  ///< True on boxes for results: the text can be selected and copied, not edited.
 
     Evento<> Change;
 
@@ -34,10 +34,11 @@ class TextBox : public Control {
     FlexGrid* Sobre() const { return sobre_; }
 
     bool AceptaFoco() const override { return true; }
-    /// Writes the character at the insertion point in place of the selection; Backspace, Delete and the arrows do as
-    /// expected.
+    /// Replaces the selection by the character, or inserts it at the insertion point; Backspace, Delete and the arrow
+    /// keys edit and move as usual.
     void TeclaPorDefecto(int codigo, int caracter) override;
-    /// What the user wrote by means that no key shows (paste, an input method), with where the cursor stands now.
+    /// The user changed the text by other means than keys (paste, an input method). `selStart` and `selLength` tell
+    /// where the cursor and the selection are now.
     void EscritoPorUsuario(const std::string& texto, int selStart, int selLength);
     void Seleccionar(int inicio, int longitud);
 
@@ -51,22 +52,22 @@ class TextBox : public Control {
     };
 
     FlexGrid* sobre_ = nullptr;
-    /// Where the cursor is to stand when Change fires for what the user wrote.
+    /// Cursor and selection to be set when Change fires for a text that the user wrote.
     std::optional<Marca> trasEscribir_;
 };
 
-/// What a label is there for; the screen chooses its looks by it.
+/// What a label is for; the screen chooses its appearance by it.
 enum class Papel {
     Texto,
-    Encabezado,  ///< Heads a part of the window.
-    Nota,        ///< Explains; may take several lines.
-    Titulo,      ///< The program's name over its picture.
-    Lema,        ///< What stands below it.
-    Pantalla,    ///< The number on a calculator's display, at its right edge.
-    Resultado,   ///< A result told in words; may take several lines.
+    Encabezado,  ///< Heading of a part of the window.
+    Nota,        ///< Explanation; may take several lines.
+    Titulo,      ///< The program's name, over its background picture.
+    Lema,        ///< The line below the program's name.
+    Pantalla,    ///< The number on the calculator's display, right-aligned.
+    Resultado,   ///< A result in words; may take several lines.
 };
 
-/// A text that names or tells something.
+/// A text that names another control or tells the user something.
 class Label : public Control {
   public:
     Label(Formulario& forma, std::string nombre, std::string caption = {}, Papel papel = Papel::Texto);
@@ -74,7 +75,7 @@ class Label : public Control {
     Papel SuPapel() const { return papel_; }
 
     Propiedad<std::string> Caption{*this};
-    /// The control that the label names: its access key goes there.
+    /// Sets the control that the label names: the label's access key moves the focus to it.
     void Nombra(Control& control) { nombrado_ = &control; }
     Control* Nombrado() const { return nombrado_; }
 
@@ -88,17 +89,17 @@ class CommandButton : public Control {
     CommandButton(Formulario& forma, std::string nombre, std::string caption, std::string toolTip = {});
 
     Propiedad<std::string> Caption{*this};  ///< `&` marks the access key.
-    Propiedad<std::string> Picture{*this};  ///< Name of a picture of an ImageList; empty for none.
+    Propiedad<std::string> Picture{*this};  ///< Name of the picture shown on the button; empty for none.
     Propiedad<Color> BackColor{*this};
-    Propiedad<bool> ConColor{*this};  ///< Whether BackColor is used in place of the look of the other buttons.
+    Propiedad<bool> ConColor{*this};  ///< True: BackColor is used; false: the look of the other buttons.
 
     bool AceptaFoco() const override { return true; }
-    /// ENTER and the blank press it.
+    /// ENTER and the space bar press the button.
     void TeclaPorDefecto(int codigo, int caracter) override;
 };
 
-/// One of several choices: turning it on turns off the others that stand in the same frame, and fires Click, also when
-/// code does it.
+/// One of several choices. Turning an option on turns off the others in the same frame or tab page, and fires Click,
+/// also when the program does it.
 class OptionButton : public Control {
   public:
     OptionButton(Formulario& forma, std::string nombre, std::string caption, bool encendida = false);
@@ -113,7 +114,7 @@ class OptionButton : public Control {
     void AlCambiarValor();
 };
 
-/// A list of entries with a text that may be none of them.
+/// A list of entries with an editable text, which need not be one of the entries.
 class ComboBox : public Control {
   public:
     ComboBox(Formulario& forma, std::string nombre, std::vector<std::string> entradas = {},
@@ -125,9 +126,9 @@ class ComboBox : public Control {
 
     Evento<> Change;
 
-    /// Position of the entry that reads as Text does (from 0), or -1.
+    /// Position (from 0) of the entry equal to Text, or -1.
     int ListIndex() const;
-    /// Picks an entry as the user would: sets Text and fires Click.
+    /// Picks an entry as if the user did: sets Text and fires Click.
     void Elegir(int indice);
 
     bool AceptaFoco() const override { return true; }
@@ -142,7 +143,7 @@ class Frame : public Control {
     Propiedad<std::string> Caption{*this};
 };
 
-/// Pages with a tab each.
+/// A tab control: pages, each with a tab.
 class SSTab : public Control {
   public:
     SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos);
@@ -161,12 +162,12 @@ class SSTab : public Control {
     std::vector<std::string> titulos_;
 };
 
-/// The line at the foot of a window, in panels.
+/// The line at the foot of a window, divided into panels.
 class StatusBar : public Control {
   public:
     StatusBar(Formulario& forma, std::string nombre, int paneles = 1);
 
-    const std::string& Panel(int numero) const;  ///< From 1. Error 9 for a panel that is not there.
+    const std::string& Panel(int numero) const;  ///< From 1. Error 9 for a panel that does not exist.
     void PonerPanel(int numero, const std::string& texto);
     int Paneles() const { return static_cast<int>(textos_.size()); }
 
@@ -174,15 +175,15 @@ class StatusBar : public Control {
     std::vector<std::string> textos_;
 };
 
-/// The names of the pictures that a form's buttons show, numbered from 1: the picture at rest at an odd number, the lit
-/// one at the next even number.
+/// The names of the pictures that a form's buttons show, numbered from 1. Each button has two: the normal picture has
+/// an odd number, the lit one the next even number.
 class ImageList : public Control {
   public:
     ImageList(Formulario& forma, std::string nombre);
 
-    /// Adds the pair of a button's pictures and returns the number of the one at rest.
+    /// Adds the two pictures of a button and returns the number of the normal one.
     int AgregarPar(const std::string& imagen);
-    const std::string& Imagen(int numero) const;  ///< Error 9 for a number that is not there.
+    const std::string& Imagen(int numero) const;  ///< Error 9 for a number that does not exist.
 
   private:
     std::vector<std::string> imagenes_;
@@ -212,7 +213,7 @@ class Menu : public Control {
     Propiedad<std::string> Caption{*this};
     const std::vector<Menu*>& Entradas() const { return entradas_; }
     bool EsSeparador() const { return Caption() == "-"; }
-    /// Fires Click unless the entry is greyed; says whether it did.
+    /// Fires Click unless the entry is greyed; returns whether it did.
     bool Elegir();
 
   private:

@@ -7,17 +7,17 @@
 
 namespace cuencalia {
 
-/// Number of the error of a dialog whose Cancel counts as one.
+/// Error number that a file dialog raises on Cancel, where Cancel is to raise an error.
 inline constexpr int kDialogoCancelado = 32755;
 
-/// A file dialog of a form. It remembers the name of its last use for as long as the form is loaded; Cancel leaves that
-/// name as it was.
+/// A file dialog of a form. While the form is loaded it remembers the file name chosen last; Cancel leaves that name
+/// unchanged.
 class CommonDialog : public Control {
   public:
     CommonDialog(Formulario& forma, std::string nombre) : Control(forma, std::move(nombre)) { Visible = false; }
 
     std::string DialogTitle;
-    std::string Filter;  ///< Labels and patterns joined by bars.
+    std::string Filter;  ///< Labels and patterns separated by bars: "Valores X|*.X".
     std::string FileName;
 
     void ShowOpen() { Preguntar(ModoArchivo::Abrir); }

@@ -9,7 +9,7 @@ namespace cuencalia {
 
 namespace {
 
-constexpr int kAltoFila = 300;  // a line of 9 points with air above and below
+constexpr int kAltoFila = 300;  // twips: a line of 9-point text with some room above and below
 
 std::size_t S(int n) { return static_cast<std::size_t>(n); }
 

@@ -7,13 +7,13 @@
 
 namespace cuencalia {
 
-/// Where the text of a column stands in its cells.
+/// Horizontal alignment of a column's texts.
 enum AlineacionColumna : int { kAlinearIzquierda = 1, kAlinearCentro = 4, kAlinearDerecha = 7 };
 
 /// A grid of texts with fixed rows and columns at its edges and one current cell. Rows and columns are numbered from 0,
-/// lengths are twips (1/1440 inch). A row or column that is not there raises error 9.
+/// lengths are twips (1/1440 inch). A row or column that does not exist raises error 9.
 ///
-/// Moving the current cell fires LeaveCell before and RowColChange after, also when code does it.
+/// Moving the current cell fires LeaveCell before the move and RowColChange after it, also when the program moves it.
 class FlexGrid : public Control {
   public:
     FlexGrid(Formulario& forma, std::string nombre, std::string nombreAccesible = {});
@@ -28,7 +28,8 @@ class FlexGrid : public Control {
     int Cols() const { return columnas_; }
     int FixedRows() const { return filasFijas_; }
     int FixedCols() const { return columnasFijas_; }
-    /// New rows are empty; rows that go are forgotten. A current cell beyond the end moves to the last row or column.
+    /// Sets the number of rows. Added rows are empty; the contents of removed rows are lost. A current cell that no
+    /// longer exists moves to the last row or column.
     void PonerRows(int filas);
     void PonerCols(int columnas);
     void PonerFixedRows(int filas);
@@ -38,17 +39,17 @@ class FlexGrid : public Control {
     int Col() const { return columna_; }
     int RowSel() const { return filaSel_; }
     int ColSel() const { return columnaSel_; }
-    /// Moves the current cell; the selection shrinks to it.
+    /// Moves the current cell to that row; the selection becomes the current cell alone.
     void PonerRow(int fila);
     void PonerCol(int columna);
     void PonerCelda(int fila, int columna);
-    /// Extends the selection from the current cell to that one; a place beyond the grid means its last row or column.
+    /// Extends the selection from the current cell to that one; a row or column beyond the grid means the last one.
     void Seleccionar(int filaSel, int columnaSel);
 
     /// First row shown below the fixed ones. Scroll fires when it changes.
     int TopRow() const { return filaSuperior_; }
     void PonerTopRow(int fila);
-    /// Rows of data that fit below the heading; the screen sets it.
+    /// Data rows that fit on the screen below the fixed rows; the screen sets it.
     int FilasVisibles() const { return filasVisibles_; }
     void PonerFilasVisibles(int filas) { filasVisibles_ = filas < 1 ? 1 : filas; }
 
@@ -66,7 +67,7 @@ class FlexGrid : public Control {
 
     /// Empties every cell; the number of rows and columns stays.
     void Clear();
-    /// Adds a last row with that text in its first column.
+    /// Adds a row at the end, with that text in its first column.
     void AddItem(const std::string& texto);
     void RemoveItem(int fila);
 
@@ -76,10 +77,10 @@ class FlexGrid : public Control {
     bool AceptaFoco() const override { return true; }
     /// Arrows, page keys, Home and End move the current cell.
     void TeclaPorDefecto(int codigo, int caracter) override;
-    /// A press of a mouse button on a cell: the focus arrives first, then the cell becomes current, then MouseDown.
-    /// On a fixed column the row moves and the column stays; on a heading nothing moves.
+    /// A press of a mouse button on a cell. In this order: the grid gets the focus, the cell becomes current, MouseDown
+    /// fires. On a fixed column only the row of the current cell changes; on a heading the current cell stays.
     void Presionar(BotonRaton boton, int fila, int columna);
-    /// The user scrolled: `fila` is now the first one shown.
+    /// The user scrolled: `fila` is the first row shown below the fixed ones.
     void DesplazadoPorUsuario(int fila) { PonerTopRow(fila); }
 
   private:
@@ -92,7 +93,7 @@ class FlexGrid : public Control {
     void ValidarFila(int fila) const;
     void ValidarColumna(int columna) const;
     void Mover(int fila, int columna);
-    /// The nearest place that a current cell can have.
+    /// Moves the current cell to the nearest cell that may be current, after the grid's size or fixed cells changed.
     void Recolocar();
     void HacerVisible();
 

@@ -9,8 +9,8 @@
 
 namespace cuencalia {
 
-/// A window of the program: its controls, its menus and how they are laid out. A form exists as one default instance
-/// that the application creates on first use.
+/// A window of the program: its controls, its menus and their layout. A form has one default instance, which the
+/// application creates on first use.
 class Formulario : public Control {
   public:
     Formulario(Aplicacion& app, std::string nombre, std::string caption);
@@ -27,7 +27,7 @@ class Formulario : public Control {
 
     const Disposicion& Distribucion() const { return disposicion_; }
 
-    /// The form inside whose window this one stands, or null.
+    /// The form whose window contains this one, or null.
     Formulario* Padre() const { return padre_; }
     void PonerPadre(Formulario& padre) { padre_ = &padre; }
 
@@ -36,17 +36,17 @@ class Formulario : public Control {
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
 
-    /// The control that has the focus whenever this form is the active one, or null.
+    /// The control that gets the focus when this form becomes active, or null.
     Control* ControlActivo() const { return activo_; }
     void PonerControlActivo(Control* control) { activo_ = control; }
-    /// The first control, in reading order, that can take the keyboard.
+    /// The first control, in reading order, that can take the focus.
     Control* PrimerControl() const;
 
     void Registrar(Control& control) { controles_.push_back(&control); }
     void AgregarABarra(Menu& menu) { barra_.push_back(&menu); }
 
   protected:
-    /// The layout; each form gives its own.
+    /// The layout of the form; each form defines its own.
     virtual Disposicion Disponer() { return {}; }
 
   private:

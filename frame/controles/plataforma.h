@@ -24,49 +24,50 @@ enum Icono : int {
 struct Aviso {
     std::string texto;
     Icono icono = kSinIcono;
-    std::string titulo = {};  ///< Empty: the program's own.
+    std::string titulo = {};  ///< Empty: the program's own title.
 };
 
 /// What a file dialog is for.
 enum class ModoArchivo { Abrir, Guardar };
 
-/// What the program asks of the system that it runs on. The desktop answers with windows and dialogs, tests and scripts
-/// with a platform of their own.
+/// What the program needs from the system on which it runs. The desktop implements it with windows and dialogs; tests
+/// and scripts have an implementation without a screen.
 class Plataforma {
   public:
     virtual ~Plataforma() = default;
 
-    /// Shows a message and returns when it was read. An empty title means the program's own.
+    /// Shows a message and returns when the user has closed it. An empty title means the program's own title.
     virtual void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) = 0;
     /// Shows the number and text of a run-time error that no handler caught.
     virtual void MostrarError(const ErrorEjecucion& error) = 0;
 
-    /// A form was loaded and is to be shown, or is shown already: its window comes to the front.
+    /// Shows the window of a loaded form, or brings it to the front if it is shown already.
     virtual void MostrarForma(Formulario& forma) = 0;
-    /// The form is about to go: its window closes.
+    /// Closes the window of a form that is about to be destroyed.
     virtual void DescargarForma(Formulario& forma) = 0;
     /// Opens a menu at the pointer; the entry that the user picks fires its Click before this returns.
     virtual void MenuEmergente(Menu& menu) = 0;
-    /// Sends the form's image to the default printer, with no dialog; tells the user where there is no printer.
+    /// Prints an image of the form on the default printer, with no dialog; tells the user when there is no printer.
     virtual void ImprimirForma(Formulario& forma) = 0;
-    /// Asks for a printer under that title and prints the document, or what is selected in it. Cancel prints nothing.
+    /// Lets the user choose a printer, in a dialog with that title, and prints the document, or only its selection.
+    /// Cancel prints nothing.
     virtual void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) = 0;
     /// Ends the program's message loop.
     virtual void Terminar() = 0;
-    /// Runs after each event and all that came of it: the moment to paint.
+    /// Called after an event and everything that it caused have been handled: time to repaint.
     virtual void DespuesDeDespachar() {}
 
-    /// Asks the shell to open a file with the program that the user has for it. A missing file is no error; a shell
-    /// that cannot be called is (ErrorEjecucion).
+    /// Asks the desktop shell to open a file with the user's program for that type. A missing file is no error; a shell
+    /// that cannot be called raises ErrorEjecucion.
     virtual void AbrirConShell(const std::string& ruta) = 0;
 
-    /// Folder of the installed program: help and correction tables stand below it.
+    /// Folder of the installed program, which contains the help and the correction tables.
     virtual std::string CarpetaInstalacion() const = 0;
 
-    /// Makes the program's folder the current one, where file dialogs without an earlier choice begin.
+    /// Makes the program's folder the current one: file dialogs start there until the user has chosen a file.
     virtual void IrACarpetaDelPrograma() {}
-    /// Asks for a file to open or to save. `nombre` comes in as the name of the last use and goes out as the choice;
-    /// on Cancel it stays as it was. The filter joins labels and patterns by bars: "Valores X|*.X".
+    /// Lets the user choose a file to open or to save. `nombre` holds the name of the last use on entry and the choice
+    /// on return; on Cancel it is unchanged. The filter is labels and patterns separated by bars: "Valores X|*.X".
     virtual void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                                std::string& nombre) = 0;
 
@@ -79,7 +80,7 @@ class Plataforma {
     virtual std::string TextoDelPortapapeles() const = 0;
     virtual void PonerEnPortapapeles(const std::string& texto) = 0;
 
-    /// A setting of this user, kept between runs, or `porOmision`.
+    /// A setting of this user, kept between runs of the program, or `porOmision` when it was never stored.
     virtual std::string LeerAjuste(const std::string& clave, const std::string& porOmision) const = 0;
     virtual void GuardarAjuste(const std::string& clave, const std::string& valor) = 0;
 };

@@ -8,22 +8,22 @@
 
 namespace cuencalia {
 
-/// What a box of numbers takes from the keyboard.
+/// Characters that a box for numbers accepts from the keyboard.
 enum class Cifras {
     Enteras,        ///< Digits.
-    ConUnSoloPunto  ///< Digits, and a point while the text has none.
+    ConUnSoloPunto  ///< Digits, and one point.
 };
 
-/// Lets only those characters, Backspace and ENTER through to the box.
+/// Makes the box accept only those characters, Backspace and ENTER.
 void SoloNumero(TextBox& caja, Cifras cifras = Cifras::ConUnSoloPunto);
 
-/// ENTER in the box does that instead of being a character.
+/// Runs `accion` when ENTER is pressed in the box; ENTER is then not treated as a character.
 void AlPulsarEnter(TextBox& caja, std::function<void()> accion);
 
-/// ENTER leads from each box to the next one, and from the last box to `destino`.
+/// Makes ENTER move the focus from each box to the next one, and from the last box to `destino`.
 void EncadenarEnter(const std::vector<TextBox*>& cajas, Control& destino);
 
-/// Whether the box has a text; without one the user is told and the focus goes there.
+/// Returns whether the box has a text; when it has none, shows `aviso` and moves the focus to the box.
 bool Exigir(TextBox& caja, const Aviso& aviso);
 
 }  // namespace cuencalia

@@ -7,7 +7,7 @@ namespace cuencalia {
 
 namespace {
 
-/// A number of a sheet by the pattern of the cells; a text as it stands.
+/// Text of a sheet's cell for the grid: a number is formatted by the pattern, a text is unchanged.
 std::string TextoDeCelda(const ValorCelda& valor, const char* patron) {
     if (const auto* numero = std::get_if<Double>(&valor)) {
         return Format(*numero, patron);
@@ -112,7 +112,7 @@ void ComandosArchivo::bCargarExcel_Click() {
         modulo_.App().Globales().NombreArchivo = cdCargarExcel.FileName;
         const int columnas = modulo_.datos.UltimaColumna();
         const int cabeza = formato_->filasDeCabeza;
-        // One row more than the arrays hold, to learn that a sheet is too long for them.
+        // One row more than the arrays hold, to find out whether the sheet is too long for them.
         const int filasMax = modulo_.FilasMax() + cabeza;
         const Hoja hoja =
             modulo_.App().Sistema().Hojas().LeerPrimeraHoja(cdCargarExcel.FileName, columnas, filasMax + 1);

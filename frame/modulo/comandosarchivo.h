@@ -15,7 +15,7 @@ class ModuloCalculo;
 /// The commands by which a module stores its series, reads it back, and imports it from a sheet.
 class ComandosArchivo {
   public:
-    /// Without a format the three buttons stay greyed.
+    /// Without a format the three file buttons are greyed.
     ComandosArchivo(ModuloCalculo& modulo, const FormatoSerie* formato);
     ComandosArchivo(const ComandosArchivo&) = delete;
     ComandosArchivo& operator=(const ComandosArchivo&) = delete;
@@ -23,7 +23,7 @@ class ComandosArchivo {
     CommandButton bCrear, bAccesar, bCargarExcel;
     CommonDialog cdCrear, cdAccesar, cdCargarExcel;
 
-    /// Stores the grid's columns as Single records; an older file of that name goes without a question.
+    /// Stores the grid's columns as Single records; overwrites an existing file without asking.
     void bCrear_Click();
     /// Reads a series file into the grid.
     void bAccesar_Click();
@@ -31,8 +31,8 @@ class ComandosArchivo {
     void bCargarExcel_Click();
 
   private:
-    /// Runs a file command under the trap that all three share: a cancelled dialog gives the message with the file's
-    /// name, any other error ends the command in silence with what was done so far.
+    /// Runs a file command with the error handling common to the three: a cancelled dialog shows the message with the
+    /// name of the file; any other error ends the command silently and keeps what it has done so far.
     void ConTrampa(const char* mensaje, const std::function<void()>& orden);
     void Terminar(int filas);
 

@@ -4,21 +4,21 @@
 
 namespace cuencalia {
 
-/// Patterns of a number in the cells of a data grid.
+/// Patterns by which a data grid shows the numbers of its cells.
 inline constexpr const char* kPatronEdicionA = "#0.0#######";
 inline constexpr const char* kPatronEdicionB = "0.0#######";
 
-/// What a module's series files hold, what its file dialogs say, and what else a load brings.
+/// The format of a module's series files and sheets, and the texts of its file dialogs.
 struct FormatoSerie {
-    int valores = 1;            ///< Singles a record, 1 to 4: the data columns of the grid in order.
-    const char* rotuloCrear{};  ///< Label of the filter when a file is made.
+    int valores = 1;            ///< Singles in a record, 1 to 4: the data columns of the grid in order.
+    const char* rotuloCrear{};  ///< Label of the file filter when a file is created.
     const char* rotuloAccesar{};
-    const char* extension{};                      ///< Pattern of the filter.
-    int registrosDeCola = 0;                      ///< Records of a file behind those of the data rows.
-    int filasDeCabeza = 0;                        ///< Rows of a sheet before those of the data.
-    bool conHoja = true;                          ///< Whether the module loads sheets at all.
-    const char* patronArchivo = kPatronEdicionA;  ///< Of a number in the grid after the load of a file.
-    const char* patronHoja = kPatronEdicionB;     ///< The same after that of a sheet.
+    const char* extension{};                      ///< File name pattern of the filter.
+    int registrosDeCola = 0;                      ///< Records of a file after those of the data rows.
+    int filasDeCabeza = 0;                        ///< Rows of a sheet before the data rows.
+    bool conHoja = true;                          ///< Whether the module can load sheets.
+    const char* patronArchivo = kPatronEdicionA;  ///< Shows the numbers loaded from a file.
+    const char* patronHoja = kPatronEdicionB;     ///< Shows the numbers loaded from a sheet.
 
     std::string FiltroCrear() const { return std::string(rotuloCrear) + "|" + extension; }
     std::string FiltroAccesar() const { return std::string(rotuloAccesar) + "|" + extension; }

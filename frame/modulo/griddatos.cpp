@@ -90,7 +90,7 @@ void GridDatos::GridEdit(int keyAscii) {
 
 void GridDatos::ConfirmarCelda() {
     txtt.Text = Format(Val(txtt.Text()), kPatronEdicionA);
-    // The grid's got-focus handler stores the text; it must have run before the cursor leaves the cell.
+    // The grid's got-focus handler stores the text, so DoEvents must run it before the current cell moves.
     grdt.SetFocus();
     app_.DoEvents();
     MoverCelda();
@@ -204,7 +204,7 @@ void GridDatos::grdt_MouseDown(int boton) {
         mnuEditInsertar.Enabled = false;
         grdt.PonerRow(FilaEntrada());
         grdt.PonerCol(1);
-        // The whole of the data is selected: deleting on the entry row empties the grid.
+        // All data are selected, since Eliminar on the entry row empties the grid.
         grdt.Seleccionar(1, descripcion_.columnaSelEntrada > 0 ? descripcion_.columnaSelEntrada : columnaSel);
     } else {
         grdt.PonerCol(1);
@@ -219,7 +219,7 @@ void GridDatos::OcultarEdicion() {
     }
     txtt.Visible = false;
     if (txtt.TieneFoco()) {
-        // The keys must not go on to a box that is gone.
+        // The edit box had the focus and is hidden now: keys must not go to it any more.
         grdt.SetFocus();
     }
 }

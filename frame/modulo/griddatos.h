@@ -14,24 +14,24 @@ namespace cuencalia {
 /// Labels of the data rows, numbered from 1: " 1", " 2", …
 std::string EtiquetaNumero(int fila);
 
-/// What tells one module's data grid from another's.
+/// The properties in which the data grids of the modules differ.
 struct DescripcionGrid {
-    std::vector<std::string> encabezados;         ///< The row label's first.
-    std::vector<int> anchos = {};                 ///< Twips; columns without one have 700 (labels) or 1800.
-    std::string patronEdicion = kPatronEdicionA;  ///< How the edit box offers a number: kPatronEdicionA or B.
-    std::function<std::string(int)> etiqueta = EtiquetaNumero;  ///< What stands in the first column of a data row.
-    int columnaSel = 0;         ///< Last column that a right click selects; 0: the last data column.
-    int columnaSelEntrada = 0;  ///< The same on the entry row; 0: as elsewhere.
+    std::vector<std::string> encabezados;  ///< Headings of the columns; the first is that of the row labels.
+    std::vector<int> anchos = {};          ///< Column widths in twips; a column without one has 700 (labels) or 1800.
+    std::string patronEdicion = kPatronEdicionA;  ///< Pattern of the number in the edit box: kPatronEdicionA or B.
+    std::function<std::string(int)> etiqueta = EtiquetaNumero;  ///< Label of a data row, shown in its first column.
+    int columnaSel = 0;         ///< Last column selected by a right click; 0: the last data column.
+    int columnaSelEntrada = 0;  ///< As columnaSel, for the entry row; 0: the same column as there.
     std::string titulo = "Ingreso de datos:";
 };
 
-/// The grid into which a module's data are typed, with its floating edit box, row menu, heading and note. `grdt` is the
-/// master copy of the data.
+/// The grid into which a module's data are typed, with its floating edit box, row menu, heading and note. The texts in
+/// `grdt` are the data themselves: the modules' arrays are filled from them.
 ///
 /// The last row of the grid is the entry row: it becomes data when its last column is confirmed.
 class GridDatos {
   public:
-    /// `estado` tells in its first panel how data are typed.
+    /// Shows in the first panel of `estado` how data are typed.
     GridDatos(Formulario& forma, StatusBar& estado, DescripcionGrid descripcion);
     GridDatos(const GridDatos&) = delete;
     GridDatos& operator=(const GridDatos&) = delete;
@@ -48,9 +48,9 @@ class GridDatos {
 
     /// Empties the grid and builds its headings.
     void IniciarGrid();
-    /// Opens the edit box over the current cell; a printable character replaces what the cell held.
+    /// Opens the edit box over the current cell; a printable character replaces the old contents of the cell.
     void GridEdit(int keyAscii);
-    /// Stores the edit box in the cell and moves on, as ENTER does.
+    /// Stores the text of the edit box in the cell and moves to the next cell, as ENTER does.
     void ConfirmarCelda();
     void MoverCelda();
     void RenumerarGrid();
@@ -61,13 +61,13 @@ class GridDatos {
     void MenorQue4Celdas() { IrACeldaPorLlenar(4); }
     void MenorQue5Celdas() { IrACeldaPorLlenar(5); }
 
-    /// Makes room for the rows of a load; each is labelled before it is filled.
+    /// Gives the grid as many data rows as are to be loaded; the loader labels each row before it fills it.
     void EmpezarCarga(int filas) { grdt.PonerRows(filas + 2); }
     void RotularFila(int fila) { grdt.PonerTextMatrix(fila, 0, descripcion_.etiqueta(fila)); }
-    /// Marks the end of a load and leaves the cursor on the entry row.
+    /// Ends a load: marks the entry row and makes it current.
     void TerminarCarga(int filas);
 
-    /// The grid with its heading and its note.
+    /// Layout of the grid with its heading and its note.
     Disposicion Zona();
 
   private:

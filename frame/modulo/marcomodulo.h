@@ -11,15 +11,15 @@
 
 namespace cuencalia {
 
-/// A button and the name of its pair of pictures.
+/// A button and the name of its two pictures, normal and lit.
 struct BotonConImagen {
     CommandButton* boton;
     const char* imagen;
 };
 
 /// What every module window has, with or without a data grid: the action buttons with their lit pictures, the status
-/// bar, the calculation behind its trap, the report and the way back to the main menu. A button that nothing answers is
-/// greyed.
+/// bar, the calculation with its error handling, the report and the way back to the main menu. A button whose Click has
+/// no handler is greyed.
 class MarcoModulo : public Formulario {
   public:
     MarcoModulo(Aplicacion& app, std::string nombre, const std::string& titulo);
@@ -36,11 +36,11 @@ class MarcoModulo : public Formulario {
     CommandButton bReporte{*this, "bReporte", "&Reporte", "Generar reporte"};
     CommandButton bCalculadora{*this, "bCalculadora", "Calculadora", "Calculadora científica"};
 
-    bool calculado = false;  ///< Results exist for the commands that need them; each module says when.
+    bool calculado = false;  ///< Whether results exist for the commands that need them; each module sets it.
 
     void Form_Load() override;
 
-    /// The calculation; a run-time error in it is told in the module's own words, where it has some.
+    /// Runs Calcular; a run-time error shows the module's own message, if it has declared one.
     void bCalcular_Click();
     void bLimpiar_Click() { LimpiarModulo(); }
     virtual void bImprimir_Click();
@@ -50,43 +50,46 @@ class MarcoModulo : public Formulario {
     /// Shows the report window and writes the module's report into its active document.
     void bReporte_Click();
 
-    /// The module's report, from the head on.
+    /// Writes the module's report from its heading on.
     virtual void GenerarReporte(Reporte& reporte) = 0;
 
     /// Empties the window as if it had just been opened.
     virtual void LimpiarModulo() { LimpiarResultados(); }
-    /// Empties the result tables and boxes, and what else the module clears before a load.
+    /// Empties the result tables and boxes, and whatever else the module clears before it loads data.
     void LimpiarResultados();
 
-    /// Sets the button's picture at rest (lit false) or lit.
+    /// Shows the lit picture of the button, or the normal one.
     void EfectoBoton(CommandButton& boton, bool encendido);
-    /// All buttons in that container go dark; null: all buttons of the form.
+    /// Shows the normal picture of all buttons in that container; null: of all buttons of the form.
     void ApagarBotones(const Control* contenedor);
 
   protected:
     virtual void Calcular() = 0;
-    /// Clears what is neither a result table nor a result box.
+    /// Clears what the module has besides result tables and result boxes.
     virtual void LimpiarOtros() {}
 
-    /// The tables that the module fills: built empty at the start, and emptied with the results.
+    /// Declares the module's result tables: their headings are built when the form loads, and they are emptied with the
+    /// results.
     void DeclararTablas(std::vector<Tabla*> tablas) { tablas_ = std::move(tablas); }
-    /// Boxes that show results: not written by the user, and emptied with the results.
+    /// Declares boxes that show results: the user cannot edit them, and they are emptied with the results.
     void DeclararResultados(const std::vector<TextBox*>& cajas);
-    /// Boxes that the user fills and that are emptied with the results.
+    /// Declares boxes that the user fills; they are emptied with the results too.
     void DeclararEntradas(const std::vector<TextBox*>& cajas);
-    /// What a run-time error in Calcular is told as. Without it the error goes on to the program's own handler.
+    /// Sets the message shown for a run-time error in Calcular. Without it the error goes on to the program's own
+    /// handler.
     void AvisarFallos(Aviso aviso) { fallo_ = std::move(aviso); }
     virtual void AlFallar() { App().MsgBox(*fallo_); }
 
-    /// Gives all buttons their pictures: `accion` stand beside Calcular, `otros` elsewhere on the window.
+    /// Gives all buttons their pictures: the buttons in `accion` are placed beside Calcular, those in `otros`
+    /// elsewhere.
     void DeclararBotones(std::vector<BotonConImagen> accion, const std::vector<BotonConImagen>& otros = {});
-    /// The buttons of Frame7, and the order in which they and the calculator's number their pictures.
+    /// The buttons of Frame7 and of the calculator, in the order in which their pictures are numbered.
     virtual std::vector<BotonConImagen> BotonesResultados();
 
-    /// Whether there are results; the user is told when there are none.
+    /// Returns whether there are results; when there are none, shows `aviso`.
     bool ExigirCalculo(const Aviso& aviso = kGraficarSinCalculos);
 
-    /// What stands between the buttons and the status bar.
+    /// Layout of the part between the buttons and the status bar.
     virtual Disposicion Cuerpo() = 0;
     Disposicion Disponer() override;
     virtual std::vector<Disposicion> ZonaResultados() { return {bReporte}; }

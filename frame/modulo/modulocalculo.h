@@ -11,15 +11,15 @@
 
 namespace cuencalia {
 
-/// What tells one calculation module from another in the frame that they share.
+/// The properties in which the calculation modules differ.
 struct DescripcionModulo {
     std::string titulo;
     DescripcionGrid datos;
-    const FormatoSerie* archivo = nullptr;  ///< Of the module's series files; null for a module without files.
+    const FormatoSerie* archivo = nullptr;  ///< Format of the series files; null for a module without files.
 };
 
-/// A module whose data are typed into a grid: the frame of nearly all calculation windows. The module reads the grid
-/// into its arrays by CargarMatrices before each use.
+/// A module whose data are typed into a grid, as in nearly all calculation windows. The module copies the grid into its
+/// arrays by CargarMatrices before each use.
 class ModuloCalculo : public MarcoModulo {
   public:
     ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionModulo descripcion);
@@ -27,7 +27,7 @@ class ModuloCalculo : public MarcoModulo {
     GridDatos datos;
     ComandosArchivo archivos;
 
-    /// Number of data rows at the last CargarMatrices; stale after any edit of the grid.
+    /// Number of data rows at the last CargarMatrices; not updated when the grid is edited.
     int n = 0;
 
     void Form_Load() override;
@@ -36,14 +36,14 @@ class ModuloCalculo : public MarcoModulo {
     virtual void CargarMatrices();
     void LimpiarModulo() override;
 
-    /// Record i of the data, from the arrays. Error 6 for a value beyond a Single.
+    /// Record i of a series file, from the arrays. Error 6 for a value beyond the range of a Single.
     Registro RegistroDe(int i) const;
-    /// Most rows that the arrays take.
+    /// Greatest number of rows that the arrays can hold.
     int FilasMax() const;
-    /// The records that a module's files hold behind those of the data rows, and what a load does with them.
+    /// The records that a file of this module has after those of the data rows, and their use when a file is loaded.
     virtual std::vector<Registro> RegistrosDeCola() { return {}; }
     virtual void LeerCola(const std::vector<Registro>& /*registros*/) {}
-    /// What a load does with the rows of a sheet that stand before those of the data.
+    /// Uses the rows of a loaded sheet that come before the data rows.
     virtual void LeerCabeza(const Hoja& /*hoja*/) {}
 
   protected:
@@ -54,9 +54,9 @@ class ModuloCalculo : public MarcoModulo {
     std::vector<BotonConImagen> BotonesResultados() override;
     std::vector<Disposicion> ZonaResultados() override;
 
-    /// What the module shows beside the data grid.
+    /// Layout of what the module shows beside the data grid.
     virtual Disposicion Contenido() { return Espacio(); }
-    /// The data grid at the left of the module's contents. A module that has it elsewhere lays itself out.
+    /// Layout with the data grid at the left of Contenido. A module with the grid elsewhere overrides this.
     Disposicion Cuerpo() override;
 
   private:

@@ -12,12 +12,12 @@ struct ColumnaTabla {
     int ancho;  ///< Twips.
 };
 
-/// What a result table looks like while it is empty.
+/// The size and headings of a result table, before it is filled.
 struct DescripcionTabla {
-    int filas;  ///< Headings included.
+    int filas;  ///< Rows, headings included.
     std::vector<ColumnaTabla> columnas;
     int columnasFijas = 0;
-    std::vector<std::string> unidades = {};  ///< A second line of headings; empty for a table without one.
+    std::vector<std::string> unidades = {};  ///< Second line of headings; empty when there is none.
     int altoEncabezado = 340;                ///< Twips.
     int borde = 1;
 };
@@ -29,14 +29,14 @@ class Tabla : public FlexGrid {
 
     /// Empties the table and writes its headings.
     void Iniciar() { Iniciar(descripcion_.filas); }
-    /// The same with another number of rows, headings included.
+    /// The same with another number of rows than described, headings included.
     void Iniciar(int filas);
 
-    /// Writes the texts from that column on. Error 9 for a row or column that is not there.
+    /// Writes the texts into a row, from that column on. Error 9 for a row or column that does not exist.
     void PonerFila(int fila, const std::vector<std::string>& textos, int columna = 0);
     /// Writes the texts downwards from row 1 on.
     void PonerColumna(int columna, const std::vector<std::string>& textos);
-    /// Empties the cells of the rows from that one on that have a text in their first column.
+    /// Empties the cells of every row from that one on whose first column has a text.
     void VaciarDesde(int fila);
 
   private:

@@ -14,7 +14,7 @@ namespace cuencalia {
 
 namespace {
 
-/// Takes away and returns what follows the place.
+/// Cuts off the part of the paragraph after the given place and returns it.
 std::vector<Tramo> CortarDesde(Parrafo& parrafo, std::size_t tramo, std::size_t byte) {
     std::vector<Tramo> cola;
     if (tramo >= parrafo.tramos.size()) {
@@ -63,7 +63,8 @@ std::vector<int> EditorTextoRico::Alineaciones() const {
 
 void EditorTextoRico::SelStart(int caracter) {
     const int nuevo = std::clamp(caracter, 0, longitud_);
-    // Walking on from where it stands keeps the usual steps of a cursor short.
+    // When the cursor moves forward, counting starts at its present place, so that the usual small steps take little
+    // time.
     if (nuevo == longitud_) {
         punto_ = Final();
     } else {
@@ -206,7 +207,7 @@ TextoRico EditorTextoRico::Seleccion() const {
 template <typename Cambio>
 void EditorTextoRico::CambiarParrafos(Cambio cambio) {
     const Punto fin = FinalSeleccion();
-    // A selection that ends with a line break does not touch the line after it.
+    // A selection that ends with a line break does not include the line after the break.
     const bool soloSalto = fin.parrafo > punto_.parrafo && fin.byte == 0;
     const std::size_t hasta = soloSalto ? fin.parrafo - 1 : fin.parrafo;
     for (std::size_t i = punto_.parrafo; i <= hasta; ++i) {
@@ -226,7 +227,7 @@ void EditorTextoRico::BorrarSeleccion() {
     for (Tramo& tramo : cola) {
         actual.Agregar(std::move(tramo));
     }
-    // The line break that stays is the last one, and with it the format of its paragraph.
+    // The joined line ends with the line break of the last selected line, and so takes the format of that line.
     actual.formato = documento_.parrafos[fin.parrafo].formato;
     const auto inicio = documento_.parrafos.begin();
     documento_.parrafos.erase(inicio + static_cast<std::ptrdiff_t>(punto_.parrafo + 1),

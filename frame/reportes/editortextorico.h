@@ -9,9 +9,9 @@
 
 namespace cuencalia {
 
-/// What a rich-text box offers the program: a document, empty at first, with a selection. Positions and lengths count
-/// characters (code points), a line break being one. Inserting at one place again and again costs the text inserted,
-/// not the document; only a line break moves the lines after it.
+/// The contents of a rich-text box for the program: a document, empty at first, with a selection. Positions and lengths
+/// count characters (code points), a line break being one. The time to insert at the same place repeatedly depends on
+/// the text inserted, not on the size of the document; only inserting a line break moves the lines after it.
 class EditorTextoRico {
   public:
     const TextoRico& Documento() const { return documento_; }
@@ -21,53 +21,56 @@ class EditorTextoRico {
     /// The plain text, with \n between lines.
     std::string Text() const { return documento_.Texto(); }
     std::vector<std::string> Lineas() const;
-    /// The alignment of each line, as in SelAlignment.
+    /// The alignment of each line, with the values of SelAlignment.
     std::vector<int> Alineaciones() const;
-    /// Characters of the document.
+    /// Number of characters of the document.
     int Longitud() const { return longitud_; }
 
-    /// Beginning of the selection. Setting it leaves nothing selected; a value outside the document goes to its nearer
-    /// end.
+    /// Position where the selection begins. Setting it leaves nothing selected; a value outside the document is moved
+    /// to the nearer end.
     int SelStart() const { return inicio_; }
     void SelStart(int caracter);
-    /// Characters selected. Setting it selects no further than the end of the document.
+    /// Number of characters selected. A length that goes beyond the end of the document is cut there.
     int SelLength() const { return largo_; }
     void SelLength(int caracteres);
 
-    /// Left indent in twips of the paragraphs that the selection touches, or of the one with the insertion point. Lines
-    /// begun there later inherit it. Reading gives that of the first paragraph.
+    /// Left indent in twips of the paragraphs that the selection touches, or of the paragraph with the insertion point.
+    /// New lines begun there inherit it. Reading gives the indent of the first of those paragraphs.
     int SelIndent() const { return ParrafoActual().formato.sangriaIzquierda; }
     void SelIndent(int twips);
-    /// Right indent in twips, as SelIndent.
+    /// Right indent in twips, for the same paragraphs as SelIndent.
     int SelRightIndent() const { return ParrafoActual().formato.sangriaDerecha; }
     void SelRightIndent(int twips);
-    /// Alignment, as SelIndent: 0 left, 1 right, 2 centred, 3 justified. Error 5 for another value.
+    /// Alignment of the same paragraphs as SelIndent: 0 left, 1 right, 2 centred, 3 justified. Error 5 for another
+    /// value.
     int SelAlignment() const { return static_cast<int>(ParrafoActual().formato.alineacion); }
     void SelAlignment(int alineacion);
 
     /// The selection as RTF source.
     std::string SelRTF() const;
-    /// Replaces the selection by RTF source, or by the text as it stands if it is not RTF source. The insertion point
-    /// ends behind it.
+    /// Replaces the selection by RTF source; text that is not RTF source is inserted as plain text. The insertion point
+    /// is then after the inserted text.
     void SelRTF(std::string_view texto);
     /// The selection as plain text.
     std::string SelText() const;
-    /// Replaces the selection by the text as it stands, in the format of what it replaces or else of the character
-    /// before. The insertion point ends behind it.
+    /// Replaces the selection by plain text, in the format of the replaced text, or of the character before when
+    /// nothing was selected. The insertion point is then after the inserted text.
     void SelText(std::string_view texto);
-    /// Replaces the selection by a formatted text. As a paragraph's format belongs to its line break, the lines that
-    /// the text brings whole keep their own; the rest of the line broken keeps its.
+    /// Replaces the selection by a formatted text. A paragraph's format belongs to its line break: every inserted line
+    /// with a line break of its own keeps its format, and the rest of the line at the insertion point keeps the format
+    /// of that line.
     void Insertar(TextoRico texto);
 
-    /// Reads an RTF file, or a plain text in UTF-8 or else Windows-1252. Error 53 if there is no such file, 75 if it
-    /// cannot be read; the document then stays.
+    /// Reads an RTF file, or a plain text in UTF-8 or, if it is not valid UTF-8, Windows-1252. Error 53 if there is no
+    /// such file, 75 if it cannot be read; the document is then unchanged.
     void LoadFile(const std::string& ruta);
-    /// Writes the document as RTF beside the file and puts it in its place when it is complete. Error 61 if it does not
-    /// fit on the disk, 76 if its folder does not exist, 75 for any other failure; the old file then stays.
+    /// Writes the document as RTF; an existing file is replaced only when the new one is complete. Error 61 if it does
+    /// not fit on the disk, 76 if its folder does not exist, 75 for any other failure; the old file is then unchanged.
     void SaveFile(const std::string& ruta) const;
 
   private:
-    /// A place between two characters. Never at the beginning of a piece that has another one before it.
+    /// A place between two characters. Between two pieces of a paragraph it is the end of the first, not the beginning
+    /// of the second.
     struct Punto {
         std::size_t parrafo = 0;
         std::size_t tramo = 0;
@@ -90,8 +93,8 @@ class EditorTextoRico {
     int longitud_ = 0;
     int inicio_ = 0;
     int largo_ = 0;
-    Punto punto_;              ///< Where inicio_ is.
-    FormatoCaracter formato_;  ///< Of the text typed next.
+    Punto punto_;              ///< The same place as inicio_.
+    FormatoCaracter formato_;  ///< Format of the text to be typed next.
 };
 
 }  // namespace cuencalia

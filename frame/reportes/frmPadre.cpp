@@ -116,7 +116,7 @@ void frmPadre::mnuFilePrint_Click() {
     try {
         App().Sistema().ImprimirDocumento(*documento, documento->rtfText.Leer().SelLength() > 0, "Imprimir");
     } catch (const ErrorEjecucion&) {
-        // A print job that fails is the printer's matter: the document stays as it is.
+        // A failed print job is ignored here: it does not affect the document.
     }
 }
 

@@ -6,8 +6,8 @@
 
 namespace cuencalia {
 
-/// A report document: its Caption is its file name once it was opened or saved under a new name, and reads "Documento"
-/// and a number until then.
+/// A report document. Its Caption reads "Documento" and a number until it is opened from a file or saved under a new
+/// name; then it is the file name.
 class frmDocumento : public Formulario {
   public:
     frmDocumento(Aplicacion& app, const std::string& caption);
@@ -42,7 +42,7 @@ class frmPadre : public Formulario {
     Menu mnuEditCopy{mnuEdit, "mnuEditCopy", "&Copiar"};
     Menu mnuEditPaste{mnuEdit, "mnuEditPaste", "&Pegar"};
 
-    /// Place of the window in twips; the user's settings keep it.
+    /// Position and size of the window in twips, kept in the user's settings.
     Propiedad<double> Left{*this}, Top{*this}, Width{*this}, Height{*this};
     Propiedad<bool> Minimizada{*this};
 

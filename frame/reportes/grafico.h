@@ -9,19 +9,19 @@
 
 namespace cuencalia {
 
-/// Values that the modules give to a chart's properties.
+/// Values for the properties of a chart.
 enum TipoGrafico : int { kGraficoLineas = 6, kGraficoAreas = 8 };
 enum EstiloGrafico : int { kLineasUnidas = 0, kSimbolosSueltos = 1 };
 enum ModoDibujo : int { kBorrarGrafico = 1, kDibujarGrafico = 2 };
 enum FondoGrafico : int { kFondoGris = 7, kFondoPapel = 11 };
 
 /// A chart of NumSets data sets of NumPoints points each, in the units of the module that draws it. It is hidden until
-/// the module draws on it.
+/// the module draws it.
 class GraficoModulo : public Control {
   public:
     struct Conjunto {
         std::string leyenda;
-        std::vector<std::optional<Double>> x, y;  ///< Empty where nothing was written.
+        std::vector<std::optional<Double>> x, y;  ///< An element is empty until it is written.
     };
 
     GraficoModulo(Formulario& forma, std::string nombre, std::string nombreAccesible = "Gráfico");
@@ -39,11 +39,11 @@ class GraficoModulo : public Control {
 
     int NumPoints() const { return puntos_; }
     int NumSets() const { return static_cast<int>(conjuntos_.size()); }
-    /// Either empties all values and legends. Error 5 for less than 1.
+    /// Either of these empties all values and legends. Error 5 for less than 1.
     void PonerNumPoints(int puntos);
     void PonerNumSets(int conjuntos);
 
-    /// The point and the set to be written next, from 1. Error 5 for one that is not there.
+    /// The point and the set to be written next, from 1. Error 5 for one that does not exist.
     void PonerThisPoint(int punto);
     void PonerThisSet(int conjunto);
     int ThisPoint() const { return punto_; }
@@ -51,20 +51,21 @@ class GraficoModulo : public Control {
 
     /// Legend of the current set.
     void PonerLegendText(const std::string& texto);
-    /// y and x of the current point of the current set. With AutoInc each of the two has its own next point, so that
-    /// all the y may be written first, set after set, and then all the x.
+    /// Writes y and x of the current point of the current set. With AutoInc, y and x advance separately, so that all y
+    /// values may be written first, set after set, and then all x values.
     void PonerGraphData(Double y);
     void PonerXPosData(Double x);
 
     const std::vector<Conjunto>& Conjuntos() const { return conjuntos_; }
-    /// The x with which each point of a set (from 1) is drawn, empty for a point that has none. A set without positions
-    /// takes those of the first set, and without those its points stand at 1 to n. Error 5 for a set that is not there.
+    /// The x at which each point of a set (from 1) is drawn, empty for a point without one. A set for which no x was
+    /// written takes those of the first set; if that has none either, the points are at 1 to n. Error 5 for a set that
+    /// does not exist.
     std::vector<std::optional<Double>> Abscisas(int conjunto) const;
 
-    /// The keyboard reads the points one by one.
+    /// The chart takes the focus so that the keyboard can step through its points.
     bool AceptaFoco() const override { return true; }
 
-    /// Hides the chart; what it showed is not shown again, as the next drawing begins by emptying it.
+    /// Hides the chart. Its values are not shown again, since the next drawing begins by emptying it.
     void LimpiarGrafico(int fondo = kFondoPapel);
 
   private:
@@ -81,25 +82,25 @@ class GraficoModulo : public Control {
     Lugar siguienteY_, siguienteX_;
 };
 
-/// What a module's chart has of its own in the drawing sequence that all share.
+/// The settings in which the charts of the modules differ, for GraficoDibujar.
 struct DescripcionGrafico {
     int tipo = kGraficoLineas;
     int estilo = kLineasUnidas;
     int fondo = kFondoPapel;
-    bool conTrama = false;  ///< Whether PatternData is set.
-    std::string titulo{};   ///< Under the axis.
+    bool conTrama = false;  ///< Whether the module sets PatternData.
+    std::string titulo{};   ///< Title under the x axis.
     int autoInc = 1;
-    std::optional<int> puntos{};     ///< NumPoints, where it is not the length of the first set.
-    std::optional<int> conjuntos{};  ///< NumSets, where it is not the number of the sets.
+    std::optional<int> puntos{};     ///< NumPoints, when it differs from the length of the first set.
+    std::optional<int> conjuntos{};  ///< NumSets, when it differs from the number of series.
 };
 
-/// One data set of a chart; without x its positions are not written.
+/// One data set of a chart; when x is empty, no x values are written.
 struct SerieGrafico {
     std::string leyenda{};
     std::vector<Double> x{}, y{};
 };
 
-/// Draws the sets and shows the chart. Error 5 for more sets or points than it has room for.
+/// Draws the sets and shows the chart. Error 5 for more sets or points than NumSets and NumPoints allow.
 void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcion,
                     const std::vector<SerieGrafico>& series);
 

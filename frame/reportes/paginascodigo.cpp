@@ -10,7 +10,8 @@ namespace cuencalia {
 namespace {
 
 // clang-format off
-/// Unicode mapping tables of the vendors (unicode.org/Public/MAPPINGS/VENDORS); Mac OS Roman goes by its Windows number.
+/// Source: Unicode mapping tables of the vendors (unicode.org/Public/MAPPINGS/VENDORS). Mac OS Roman has its Windows
+/// code page number.
 constexpr std::array<PaginaCodigo, 8> kPaginas{{
     {1250,
         u"€\uFFFD‚\uFFFD„…†‡\uFFFD‰Š‹ŚŤŽŹ\uFFFD‘’“”•–—\uFFFD™š›śťžź"

@@ -5,17 +5,17 @@
 
 namespace cuencalia {
 
-/// The upper half of a code page: bytes 0x80 to 0xFF. The lower one is ASCII.
+/// The upper half of a code page: bytes 0x80 to 0xFF. The lower half is ASCII.
 struct PaginaCodigo {
     int numero;
     std::u16string_view mitadAlta;
 };
 
-/// The code page of this number; Windows-1252 stands for one that is not known.
+/// The code page with this number; Windows-1252 for an unknown number.
 const PaginaCodigo* BuscarPagina(int numero);
 
-/// The code page of a Windows character set, by the number that font tables give it; none for the set that stands for
-/// the document's own.
+/// The code page of a Windows character set, by its number in RTF font tables; null for the set that means the
+/// document's own code page.
 const PaginaCodigo* PaginaDeJuego(int juego);
 
 char32_t Descodificar(const PaginaCodigo& pagina, unsigned char byte);

@@ -8,27 +8,27 @@
 
 namespace cuencalia {
 
-/// A box of formatted text. The program reads and writes it through Editor; on a screen the user writes in the view, and
-/// what he wrote is fetched before the program looks.
+/// A box of formatted text. The program reads it through Leer and writes it through Editor. On a screen the user types
+/// into the view, and the user's changes are fetched from the view before the program accesses the text.
 class RichTextBox : public Control {
   public:
     RichTextBox(Formulario& forma, std::string nombre) : Control(forma, std::move(nombre)) {}
 
     Propiedad<int> Left{*this}, Top{*this}, Width{*this}, Height{*this};
 
-    /// The text as it is now, to look at.
+    /// The current text, for reading.
     const EditorTextoRico& Leer();
-    /// The text, to change; the view shows it anew.
+    /// The current text, for writing; the view shows it again afterwards.
     EditorTextoRico& Editor();
 
     bool AceptaFoco() const override { return true; }
     void TeclaPorDefecto(int codigo, int caracter) override;
 
-    /// For the view: runs before the program looks at the text, and brings over what the user did.
+    /// For the view: sets the function that brings the user's changes into the text before the program accesses it.
     void AlConsultar(std::function<void(EditorTextoRico&)> traer) { traer_ = std::move(traer); }
-    /// Grows with each change that the program made.
+    /// Increases with each change made by the program.
     int Version() const { return version_; }
-    /// The text that the view last took over or handed over.
+    /// The text without fetching the user's latest changes from the view.
     const EditorTextoRico& SinTraer() const { return editor_; }
 
   private:

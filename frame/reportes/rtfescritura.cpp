@@ -14,7 +14,7 @@ namespace {
 class Escritor {
   public:
     Escritor(const TextoRico& texto, ClaseRtf clase) : texto_(texto), clase_(clase) {
-        NumeroFuente(kFuenteReporte);  // that of text without a font
+        NumeroFuente(kFuenteReporte);  // font 0, used by text without a font of its own
     }
 
     std::string Escribir() {
@@ -62,7 +62,7 @@ class Escritor {
     }
 
     void EscribirTramo(const Tramo& tramo) {
-        // LibreOffice takes a raised text to last until its group ends.
+        // LibreOffice ends superscript and subscript only at the end of their group.
         const bool enGrupo = tramo.formato.posicion != PosicionVertical::kNormal;
         cuerpo_ += enGrupo ? "{" : "";
         if (caracter_ == nullptr || *caracter_ != tramo.formato) {
@@ -101,7 +101,8 @@ class Escritor {
             cuerpo_ += "\\cf" + std::to_string(NumeroColor(*formato.color));
         }
         if (formato.fondo) {
-            // Some programs know the one word, some the other.
+            // The background colour is written twice, since some programs know only \highlight and others only
+            // \chcbpat.
             const std::string numero = std::to_string(NumeroColor(*formato.fondo));
             cuerpo_ += "\\highlight" + numero + "\\chshdng0\\chcbpat" + numero;
         }
@@ -144,7 +145,8 @@ class Escritor {
         }
     }
 
-    /// A UTF-16 unit as a signed number, with the one character that \uc1 promises to older readers.
+    /// Appends a UTF-16 unit as a signed number, followed by the one substitute character ("?") that \uc1 announces for
+    /// readers without Unicode.
     static void AgregarUnidad(std::string& destino, char32_t unidad) {
         destino += "\\u" + std::to_string(static_cast<std::int16_t>(unidad)) + "?";
     }
@@ -157,7 +159,7 @@ class Escritor {
         return lugar->second;
     }
 
-    /// From 1: the first entry of the table is the reader's own colour.
+    /// Number of the colour in the colour table, from 1: entry 0 is the reader's default colour.
     std::size_t NumeroColor(std::uint32_t color) {
         const auto [lugar, nuevo] = numeroColor_.try_emplace(color, colores_.size() + 1);
         if (nuevo) {

@@ -12,8 +12,8 @@ namespace rtf {
 
 namespace {
 
-// What a paragraph and a font name may hold is bounded, since the reader makes copies of them: a hostile source would
-// otherwise turn a few bytes into a long copy again and again.
+// Limits on the tab stops of a paragraph and the length of a font name. The reader copies them, so that without limits
+// a small malicious source could make it copy long data again and again.
 constexpr std::size_t kMaximoTabuladores = 32;
 constexpr std::size_t kMaximoNombreFuente = 64;
 
@@ -40,7 +40,7 @@ TextoRico Lector::Leer(ClaseRtf clase) {
             case '\\':
                 LeerControl();
                 break;
-            default:  // Line ends of the source are no text.
+            default:  // Line ends in the source are not part of the text.
                 break;
         }
     }
@@ -71,7 +71,7 @@ void Lector::CerrarGrupo() {
     }
     const bool ultimo = grupos_.empty() || (grupos_.size() == 1 && grupos_.front().veces == 1);
     if (ultimo) {
-        // The line still open keeps the format it was in.
+        // The document ends here; the last line, if it has no paragraph mark, keeps its present format.
         terminado_ = true;
         return;
     }
@@ -118,7 +118,8 @@ void Lector::LeerControl() {
 
 void Lector::Palabra(std::string_view palabra, Parametro parametro) {
     const bool opcional = std::exchange(opcional_, false);
-    // Binary data may hold anything, so its length counts even where the text does not.
+    // \bin is obeyed even where text is skipped: the binary data after it may contain braces and backslashes, so they
+    // must be skipped by their length.
     const bool binario = palabra == "bin";
     if (EsSustituto() && !binario) {
         return;
@@ -184,7 +185,7 @@ void Lector::Hexadecimal() {
 
 void Lector::Byte(unsigned char byte) { Emitir(byte < 0x80 ? byte : Descodificar(PaginaVigente(), byte)); }
 
-/// Bytes of the source that stand for themselves.
+/// Reads bytes that are text, not control words.
 void Lector::Literal(std::string_view texto) {
     opcional_ = false;
     const std::size_t saltados = std::min(texto.size(), static_cast<std::size_t>(porSaltar_));
@@ -195,7 +196,7 @@ void Lector::Literal(std::string_view texto) {
     }
 }
 
-/// Counts one of the characters that a \u before made superfluous.
+/// True when the character is a substitute for a \u read before, and is to be skipped; counts it.
 bool Lector::EsSustituto() {
     if (porSaltar_ == 0) {
         return false;
@@ -244,7 +245,7 @@ void Lector::Tabulador(int twips) {
     }
 }
 
-/// A UTF-16 unit, or the whole code that some programs write.
+/// Reads the number of a \u: a UTF-16 unit, or a whole code point, which some programs write.
 void Lector::Unidad(int unidad) {
     constexpr int kUnidades = 0x10000;
     const int codigo = unidad < 0 ? unidad + kUnidades : unidad;
@@ -331,7 +332,7 @@ void Lector::PartirLinea() {
     trasMarca_ = false;
 }
 
-/// A paragraph looks as its end says.
+/// Gives the paragraph the format that is in force at its end.
 void Lector::FijarParrafo() {
     const EstadoParrafo& estado = estado_.parrafo;
     texto_.parrafos.back().formato = {

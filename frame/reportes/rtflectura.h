@@ -13,7 +13,7 @@
 #include "frame/reportes/paginascodigo.h"
 #include "frame/reportes/rtf.h"
 
-/// What reading RTF is made of: the machine that walks through the source, and the words that act on it.
+/// Parts of the RTF reader: the state machine that goes through the source, and the control words that act on it.
 namespace cuencalia::rtf {
 
 constexpr int kMaximoTwips = 31680;  // 22 inches, the longest measure of the definition.
@@ -34,7 +34,7 @@ struct Parametro {
 
 enum class Destino : std::uint8_t { kTexto, kFuentes, kColores, kNinguno };
 
-/// Character properties in the numbers of the source: small, because every open group may keep a copy.
+/// Character properties, as the numbers given in the source. It is small, because every open group may keep a copy.
 struct EstadoCaracter {
     int fuente = kFuenteSinNombrar;
     int medioPuntos = kMedioPuntosBase;
@@ -57,16 +57,16 @@ struct EstadoParrafo {
     int primera = 0;
     int antes = 0;
     int despues = 0;
-    std::shared_ptr<std::vector<int>> tabuladores;  ///< Shared with the groups around.
+    std::shared_ptr<std::vector<int>> tabuladores;  ///< Shared with the enclosing groups until changed.
 
     bool operator==(const EstadoParrafo&) const = default;
 };
 
-/// What a group restores when it ends.
+/// The state that is saved when a group begins and restored when it ends.
 struct Estado {
     EstadoCaracter caracter;
     EstadoParrafo parrafo;
-    int sustitutos = 1;  ///< Characters that stand after a \u for older readers.
+    int sustitutos = 1;  ///< Number of characters after each \u for readers without Unicode.
     Destino destino = Destino::kTexto;
 
     bool operator==(const Estado&) const = default;
@@ -74,17 +74,17 @@ struct Estado {
 
 struct Fuente {
     std::string nombre;
-    const PaginaCodigo* pagina = nullptr;  ///< nullptr: the document's.
+    const PaginaCodigo* pagina = nullptr;  ///< nullptr: the code page of the document.
 };
 
-/// The state machine behind LeerRtf: what the words of the source act on.
+/// The state machine of LeerRtf, on which the control words act.
 class Lector {
   public:
     explicit Lector(std::string_view fuente) : resto_(fuente) {}
 
     TextoRico Leer(ClaseRtf clase);
 
-    // Called by the words.
+    // Called by the actions of the control words.
     Estado& Actual() { return estado_; }
     EstadoCaracter& CaracterActual() { return estado_.caracter; }
     EstadoParrafo& ParrafoActual() { return estado_.parrafo; }
@@ -104,7 +104,7 @@ class Lector {
   private:
     struct GrupoAbierto {
         Estado estado;
-        std::size_t veces;  ///< Groups opened one inside the other in this same state.
+        std::size_t veces;  ///< Number of nested groups opened in this same state.
     };
 
     void AbrirGrupo();
@@ -130,8 +130,8 @@ class Lector {
     Estado estado_;
     std::vector<GrupoAbierto> grupos_;
     bool terminado_ = false;
-    bool opcional_ = false;  ///< The last control was \*.
-    int porSaltar_ = 0;      ///< Substitutes still to come after a \u.
+    bool opcional_ = false;  ///< The last control symbol was \*.
+    int porSaltar_ = 0;      ///< Substitute characters after a \u still to be skipped.
     char32_t sustitutoAlto_ = 0;
 
     const PaginaCodigo* pagina_ = BuscarPagina(1252);
@@ -140,14 +140,14 @@ class Lector {
     int fuenteDefinida_ = kFuenteSinNombrar;
     Fuente definicion_;
     std::vector<std::optional<std::uint32_t>> colores_;
-    std::optional<std::uint32_t> colorDefinido_;  ///< None: the reader's own.
+    std::optional<std::uint32_t> colorDefinido_;  ///< None: the reader's default colour.
 
     TextoRico texto_;
-    std::optional<EstadoCaracter> vigente_;  ///< State in which the last piece was begun.
+    std::optional<EstadoCaracter> vigente_;  ///< State in which the last piece of text began.
     bool trasMarca_ = false;                 ///< A paragraph mark was the last thing written.
 };
 
-/// What a control word does.
+/// The action of a control word.
 using Accion = void (*)(Lector&, Parametro);
 
 /// The action of a control word; null for a word that is not known.

@@ -47,14 +47,14 @@ void UsarPagina(Lector& lector, Parametro) {
 void TerminarParrafo(Lector& lector, Parametro) { lector.TerminarParrafo(); }
 void PartirLinea(Lector& lector, Parametro) { lector.PartirLinea(); }
 
-/// Groups that hold no text of the document.
+/// Groups whose contents are not text of the document.
 constexpr std::string_view kSinTexto[] = {
     "stylesheet", "filetbl", "info",    "pict",    "header",   "headerl", "headerr",   "headerf",
     "footer",     "footerl", "footerr", "footerf", "ftnsep",   "ftnsepc", "ftncn",     "aftnsep",
     "aftnsepc",   "aftncn",  "fldinst", "objdata", "objclass", "objname", "bkmkstart", "bkmkend",
     "annotation", "xe",      "tc",      "tcn",     "rxe",      "falt",    "panose",    "nonesttables"};
 
-/// All kinds of underline: a document has one.
+/// All kinds of underline, which are read as one.
 constexpr std::string_view kSubrayados[] = {"ul",         "uld",       "uldash",     "uldashd", "uldashdd", "uldb",
                                             "ulhwave",    "ulldash",   "ulth",       "ulthd",   "ulthdash", "ulthdashd",
                                             "ulthdashdd", "ulthldash", "ululdbwave", "ulw",     "ulwave"};
@@ -80,7 +80,7 @@ std::unordered_map<std::string_view, Accion> Palabras() {
         {"green", [](Lector& l, Parametro p) { l.Componente(8, p.valor); }},
         {"blue", [](Lector& l, Parametro p) { l.Componente(0, p.valor); }},
 
-        {"nesttableprops", [](Lector&, Parametro) {}},  // optional, but the end of the row stands in it
+        {"nesttableprops", [](Lector&, Parametro) {}},  // marked optional, but contains the end of the table row
 
         {"plain", [](Lector& l, Parametro) { l.CaracterActual() = {}; }},
         {"f", [](Lector& l, Parametro p) { l.ElegirFuente(p.valor); }},

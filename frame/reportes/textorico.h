@@ -13,7 +13,7 @@ inline constexpr const char* kFuenteReporte = "Courier New";
 
 enum class PosicionVertical : std::uint8_t { kNormal, kSuperindice, kSubindice };
 
-/// How characters look. Colours are 0xRRGGBB; without one the reader's own colour is used.
+/// Format of characters. Colours are 0xRRGGBB; none means the reader's default colour.
 struct FormatoCaracter {
     std::string fuente = kFuenteReporte;
     int medioPuntos = 20;  ///< Font size in half points.
@@ -28,18 +28,18 @@ struct FormatoCaracter {
     bool operator==(const FormatoCaracter&) const = default;
 };
 
-/// Alignment of a paragraph, with the numbers that SelAlignment knows it by.
+/// Alignment of a paragraph; the values are those of SelAlignment.
 enum class Alineacion : std::uint8_t { kIzquierda = 0, kDerecha = 1, kCentrada = 2, kJustificada = 3 };
 
-/// How a paragraph stands on the page. Lengths in twips (1/1440 inch).
+/// Format of a paragraph. Lengths in twips (1/1440 inch).
 struct FormatoParrafo {
     Alineacion alineacion = Alineacion::kIzquierda;
     int sangriaIzquierda = 0;
     int sangriaDerecha = 0;
-    int primeraLinea = 0;  ///< Indent of the first line, counted from sangriaIzquierda.
+    int primeraLinea = 0;  ///< Indent of the first line relative to sangriaIzquierda.
     int espacioAntes = 0;
     int espacioDespues = 0;
-    std::vector<int> tabuladores;  ///< Tab stops, counted from the margin.
+    std::vector<int> tabuladores;  ///< Tab stops, measured from the margin.
 
     bool operator==(const FormatoParrafo&) const = default;
 };
@@ -57,14 +57,14 @@ struct Parrafo {
     FormatoParrafo formato;
     std::vector<Tramo> tramos;
 
-    /// Appends the piece, joining it to the last one if they look the same; nothing if it is empty.
+    /// Appends the piece; joins it to the last one if their formats are equal. An empty piece is ignored.
     void Agregar(Tramo tramo);
     std::string Texto() const;
 
     bool operator==(const Parrafo&) const = default;
 };
 
-/// A formatted text: at least one paragraph. Paragraphs are parted by line breaks, so the text "a\n" has two.
+/// A formatted text of at least one paragraph. Paragraphs are separated by line breaks, so the text "a\n" has two.
 struct TextoRico {
     std::vector<Parrafo> parrafos{1};
 
@@ -74,7 +74,8 @@ struct TextoRico {
     bool operator==(const TextoRico&) const = default;
 };
 
-/// The text in one format. LF, CR and CR LF end a line; NUL is left out; a byte that is not UTF-8 becomes U+FFFD.
+/// A plain text in one format. LF, CR and CR LF end a line; NUL is left out; a byte that is not valid UTF-8 becomes
+/// U+FFFD.
 TextoRico DeTextoPlano(std::string_view texto, const FormatoCaracter& caracter = {},
                        const FormatoParrafo& parrafo = {});
 

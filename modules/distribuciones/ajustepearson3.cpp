@@ -30,7 +30,8 @@ void AjustePearson3::Ajustar() {
     const ParametrosEstadisticos m = ParametrosMuestrales(v, n);
     const MomentosLineales l = CalcularMomentosLineales(v, n);
     const Pearson3 ord = Pearson3PorMomentos(m.media, m.desviacion, m.Cs);
-    // Without a distribution of these L-moments the scale of 0 ends the fit below.
+    // When no distribution has these L-moments, all parameters are 0, and the division by the scale 0 in Reducir raises
+    // an error that ends the fit.
     const Pearson3 lin = Pearson3PorMomentosLineales(l.L1, l.L2, l.L3 / l.L2).value_or(Pearson3{});
     const bool negativaOrd = Reducir(ord, Yord);
     const bool malOrd = m.Cs < 0 || negativaOrd;

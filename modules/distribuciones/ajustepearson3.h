@@ -5,8 +5,9 @@
 
 namespace cuencalia {
 
-/// Fit to the Pearson type III distribution, of the values or of their logarithms. A kind of moments whose parameters
-/// leave values below x0 has no probabilities: its flag is set, the verdict says so and its evaluation is refused.
+/// Fit to the Pearson type III distribution, of the values or of their logarithms. When the parameters by one kind of
+/// moments leave some values below x0, these values have no probability: the flag for that kind of moments is set, the
+/// verdict says that its parameters are incorrect, and they are not evaluated.
 class AjustePearson3 : public MarcoAjuste {
   public:
     Pearson3 ordinarios, lineales;
@@ -19,7 +20,7 @@ class AjustePearson3 : public MarcoAjuste {
     bool paramMalOrd = false, paramMalLin = false;
 
   protected:
-    /// `enVeredicto` names the distribution where the verdict says that the parameters are incorrect.
+    /// `enVeredicto` is the name of the distribution in the verdict that the parameters are incorrect.
     AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion,
                    const DistribucionPearson3& distribucion, const char* enVeredicto);
 
@@ -30,7 +31,7 @@ class AjustePearson3 : public MarcoAjuste {
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
 
   private:
-    /// Reduced variables of xo; says whether one of them is negative.
+    /// Calculates the reduced variables of xo; returns whether one of them is negative.
     bool Reducir(const Pearson3& d, Serie& Y) const;
     const Pearson3& Elegidos() const { return Ordinario() ? ordinarios : lineales; }
     bool Incorrectos() const { return Ordinario() ? paramMalOrd : paramMalLin; }

@@ -36,7 +36,8 @@ void AjustePosicionEscala::Ajustar() {
         Gord(i) = distribucion_.acumulada(Yord(i));
         Glin(i) = distribucion_.acumulada(Ylin(i));
     }
-    // Only now: the evaluations of the last fit outlive a series that has none.
+    // The parameters are stored only here: when the fit of a series fails above, those of the last successful fit can
+    // still be evaluated.
     ordinarios = ord;
     lineales = lin;
 }

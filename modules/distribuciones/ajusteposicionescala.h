@@ -5,10 +5,10 @@
 
 namespace cuencalia {
 
-/// Fit to a distribution of position and scale, of the values or of their logarithms.
+/// Fit to a distribution with a position and a scale parameter, of the values or of their logarithms.
 class AjustePosicionEscala : public MarcoAjuste {
   public:
-    Serie ylog;  ///< Logarithms of xo, where the distribution is of logarithms.
+    Serie ylog;  ///< Logarithms of xo, for the distributions of logarithms.
 
   protected:
     AjustePosicionEscala(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion,

@@ -5,8 +5,8 @@
 
 namespace cuencalia {
 
-/// Fit of a series of values above 0 to the log-normal distribution of three parameters. It has ordinary moments alone:
-/// Yord holds Z, Gord F(Z).
+/// Fit of a series of values above 0 to the log-normal distribution of three parameters. There is only one kind of fit;
+/// of the result columns, Yord contains the reduced variable Z and Gord its probability F(Z).
 class frmDisLogNormal3 : public MarcoAjuste {
   public:
     explicit frmDisLogNormal3(Aplicacion& app);

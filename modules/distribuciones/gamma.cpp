@@ -8,7 +8,8 @@ namespace {
 
 constexpr int kRondas = 1200;
 
-/// The fraction of x by which a round moves it in the upper tail: small steps, as the density is small there.
+/// The fraction of x by which one round of Gammainversa moves x in the upper tail; the steps are small because the
+/// density is small there.
 Double Paso(Double p) {
     if (p < 0.9) {
         return 0.1;
@@ -16,13 +17,14 @@ Double Paso(Double p) {
     return p < 0.995 ? 0.01 : 0.002;
 }
 
-/// The fourth roots of a, a(a+1), a(a+1)(a+2) …: they depend on the shape alone and are worked out once for all the x
-/// that a search or a series of values needs.
+/// The fourth roots of a, a(a+1), a(a+1)(a+2) …: they depend on the shape a alone, so they are calculated once and used
+/// for every x of a search or a series.
 class RaicesFactoriales {
   public:
     explicit RaicesFactoriales(Double a) : a_(a) { raices_.reserve(128); }
 
-    /// The root of the product of k factors, k not more than one beyond the last.
+    /// The fourth root of the product of k factors. Roots must be asked for in order: k may exceed the greatest k asked
+    /// for before by at most 1.
     Double operator()(std::size_t k) {
         if (k > raices_.size()) {
             d_ *= a_ + (k - 1);
@@ -43,12 +45,12 @@ Double SumarSerie(Double a, RaicesFactoriales& raices, Double x) {
     std::size_t k = 0;
     do {
         ++k;
-        // The term x^(a+k-1) e^-x / (a (a+1) … (a+k-1)) by third powers and fourth roots: neither the power nor the
-        // product overflows on the way.
+        // The term x^(a+k-1) e^-x / (a (a+1) … (a+k-1)), calculated from the third root of the power and the fourth
+        // root of the product, so that neither overflows.
         const Double raiz = raices(k);
         const Double u = Elevar(x, (a + (k - 1)) / 3) / raiz;
         if (k == 1) {
-            e_menos_x = Exp(-x);  // Behind the power, which is what fails of a negative x.
+            e_menos_x = Exp(-x);  // After Elevar: for a negative x it is Elevar that must raise its error first.
         }
         const Double v = e_menos_x / raiz;
         const Double termino = u * (u * (v * u));

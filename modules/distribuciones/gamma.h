@@ -5,10 +5,11 @@
 namespace cuencalia {
 
 /// The gamma function of x in g, for x > 0: Stirling's series at x + 10, then ten steps of the recurrence
-/// g(x) = g(x + 1) / x. Its third coefficient is 1/1286 where the series has 1/1260: the relative error is
-/// (1/1286 - 1/1260) / (x + 10)^5, at most 1.61e-10 in size (so that g(1) is not quite 1) and 5e-14 at x = 40. Between
-/// -10 and 0 it loses its digits step by step. x moves during the calculation and comes back with its value, but for
-/// the last bits. Errors: 6 above x = 161.624, as g(x + 10) is beyond a Double; 11 at the poles; 5 from -10 down.
+/// g(x) = g(x + 1) / x. The third coefficient used is 1/1286 where the series has 1/1260: the relative error is
+/// (1/1286 - 1/1260) / (x + 10)^5, at most 1.61e-10 in size (so that g(1) is not quite 1) and 5e-14 at x = 40.
+/// For x between -10 and 0 the precision decreases step by step. x is changed during the calculation and has its old
+/// value again on return, except for the last bits. Errors: 6 above x = 161.624, as g(x + 10) is beyond a Double; 11 at
+/// the poles; 5 from -10 down.
 /// Source: Abramowitz, M. and Stegun, I. A. (1964), Handbook of Mathematical Functions, National Bureau of Standards,
 /// formulas 6.1.40 and 6.1.15.
 void gammacompleta(Double& x, Double& g);
@@ -22,12 +23,13 @@ void gammacompleta(Double& x, Double& g);
 void gammaacumulada(Double a, Double x, Double& r, Double g);
 
 /// The x with P(a, x) = p, for a > 0 and 0 < p < 1, by successive corrections from x = a on until P is within 5e-5 of
-/// p; r is P at the last x but one. n counts the rounds: it is 1201 when 1200 of them did not suffice, and x is then
-/// the last one, which may be far off. That happens below p = 0.8 where x times the density at x exceeds 6p, so for p =
-/// 0.5 above a shape of 57, for p = 0.2 above 21; from 0.8 to 0.9 where it exceeds 20(1 - p), above a shape of 196 to
-/// 120. From p = 0.9 on the search creeps up to x from below: with 5e-5 of 1 - p left, x is at most 0.25 percent too
-/// small at p = 0.99, 1.4 at 0.995 to 0.999 and 6.6 at 0.9999 (shapes from 0.1 to 150). a as in gammacompleta. Errors
-/// of both functions above; 5 or 11 where r reaches 1 and p is from 0.8 on.
+/// p. r is the value of P before the last correction of x. n is the number of rounds: 1201 when 1200 rounds did not
+/// suffice, and then the x of the last round is returned, which may be far off. That happens below p = 0.8 where x
+/// times the density at x exceeds 6p, so for p = 0.5 above a shape of 57, for p = 0.2 above 21; from 0.8 to 0.9 where
+/// it exceeds 20(1 - p), above a shape of 196 to 120. From p = 0.9 on the search creeps up to x from below: with 5e-5
+/// of 1 - p left, x is at most 0.25 percent too small at p = 0.99, 1.4 at 0.995 to 0.999 and 6.6 at 0.9999 (shapes from
+/// 0.1 to 150). a is changed and restored as x is in gammacompleta. Errors of both functions above; 5 or 11 where r
+/// reaches 1 and p is from 0.8 on.
 void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n);
 
 /// P(a, x), with the gamma function of a worked out first; errors as in gammaacumulada.

@@ -143,7 +143,7 @@ void MarcoAjuste::LlenarTabla() {
                              Format(tercera(i), kPatronProbabilidad), Format(cuarta(i), kPatronProbabilidad),
                              Format(Delta(i), kPatronProbabilidad)});
     }
-    // A longer series may have been fitted before: its last rows belong to no value of this one.
+    // The table may contain the fit of a longer series: rows beyond the n values of this series are emptied.
     grddis.VaciarDesde(n + 1);
 }
 
@@ -241,7 +241,7 @@ void MarcoAjuste::ReportarTabla(Reporte& reporte) {
     for (const std::string& encabezado : encabezados) {
         linea += "   " + encabezado;
     }
-    // The table ends with the rows that the last fit has filled.
+    // The report has the rows of the table that the last fit filled.
     int filas = 0;
     while (filas + 1 < grddis.Rows() && !grddis.TextMatrix(filas + 1, 0).empty()) {
         ++filas;

@@ -10,31 +10,31 @@
 
 namespace cuencalia {
 
-/// What tells one distribution's window from another in the frame that they share.
+/// The properties in which the windows of the distributions differ.
 struct DescripcionAjuste {
-    std::string titulo;           ///< Of the window.
-    const char* nombre;           ///< Of the distribution, in the verdict.
-    const char* marcoParametros;  ///< Title of the frame of the parameters.
-    const char* tituloReporte;    ///< Of the parameters in the report.
+    std::string titulo;           ///< Title of the window.
+    const char* nombre;           ///< Name of the distribution in the verdict.
+    const char* marcoParametros;  ///< Title of the frame around the parameters.
+    const char* tituloReporte;    ///< Title of the parameters in the report.
     bool porAmbosMomentos = true;
     const char* encabezadoOrdinarios = "Con momentos ordinarios:";  ///< Above the parameters on the window.
     const char* encabezadoLineales = "Con momentos lineales:";
     std::vector<std::string> encabezadosTeoricos{"G(Y) Ordinario",
                                                  "G(Y) Mom Lineal"};  ///< Columns 3 and 4 of the table.
-    /// Of columns 3 to 5 in the report; without any they are the table's, with a blank behind.
+    /// Headings of columns 3 to 5 in the report; empty: the headings of the table, each followed by a blank.
     std::vector<std::string> encabezadosReporte{};
-    std::vector<std::string> leyendas{"Exp", "Ord", "ML"};  ///< Of the chart's curves.
+    std::vector<std::string> leyendas{"Exp", "Ord", "ML"};  ///< Legends of the chart's curves.
     const char* patronDeltaTeorico = "#####0.###0";
     const char* patronDeltaTabular = "###0.###0";
     const char* patronT = "###0.0";
     const char* patronP = "###.#0";
-    /// What bPmayor says is to be evaluated when there is no fit yet.
+    /// What cannot be evaluated, in the message that bPmayor gives when there is no fit yet.
     const char* avisoPmayor = "la probabilidad de no excedencia";
-    bool parametrosTrasTabla = false;      ///< Whether the parameters are shown after the table, not before it.
-    Icono iconoNoPositivos = kIconoError;  ///< Of the refusal of values without a logarithm.
+    bool parametrosTrasTabla = false;      ///< True: the parameters are shown after the table is filled; false: before.
+    Icono iconoNoPositivos = kIconoError;  ///< Icon of the message that refuses values without a logarithm.
 };
 
-/// A parameter on the window and in the report.
+/// A parameter shown on the window and in the report.
 struct CampoParametro {
     CampoParametro(Formulario& forma, const char* nombre, const char* rotulo, const char* enReporte,
                    const Double& valor);
@@ -42,10 +42,10 @@ struct CampoParametro {
     Label etiqueta;
     TextBox caja;
     const char* enReporte;
-    const Double& valor;  ///< As the last fit left it.
+    const Double& valor;  ///< Value from the last fit.
 };
 
-/// What a distribution that is fitted by both kinds of moments has on its window to choose between them.
+/// The controls by which the user chooses between ordinary and linear moments.
 struct TipoDeAjuste {
     TipoDeAjuste(Formulario& forma, const DescripcionAjuste& descripcion);
 
@@ -54,14 +54,14 @@ struct TipoDeAjuste {
     Label lblOrdinarios, lblLineales;
 };
 
-/// Fit of a series of annual values to a probability distribution: parameters by ordinary and by linear moments, test
-/// of Smirnov-Kolmogorov, chart, report, and evaluation of the fitted distribution at a return period (years) or at a
-/// discharge (m3/s). A distribution adds its parameters, its probabilities and its quantile.
+/// Fit of a series of annual values to a probability distribution: parameters by ordinary and by linear moments,
+/// Smirnov-Kolmogorov test, chart, report, and evaluation of the fitted distribution at a return period (years) or at a
+/// discharge (m3/s). Each derived class adds the parameters, probabilities and quantile of its distribution.
 class MarcoAjuste : public ModuloCalculo {
   public:
     MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion);
 
-    std::optional<TipoDeAjuste> tipo;  ///< Missing where there is one kind of fit alone.
+    std::optional<TipoDeAjuste> tipo;  ///< Empty for a distribution with only one kind of fit.
     Frame fraNivel{*this, "fraNivel", "Nivel significación:"};
     OptionButton opt020{*this, "opt020", "0.20"}, opt010{*this, "opt010", "0.10"};
     OptionButton opt005{*this, "opt005", "0.05", true}, opt001{*this, "opt001", "0.01"};
@@ -88,7 +88,7 @@ class MarcoAjuste : public ModuloCalculo {
     Serie xo;                   ///< x in ascending order.
     Probabilidades PX;          ///< Empirical probability of xo.
     Probabilidades Gord, Glin;  ///< Theoretical probability of xo by ordinary and by linear moments.
-    Serie Yord, Ylin;           ///< Reduced variable of xo by each.
+    Serie Yord, Ylin;           ///< Reduced variable of xo by ordinary and by linear moments.
     Serie Delta;
 
     void LimpiarGrafico();
@@ -105,27 +105,29 @@ class MarcoAjuste : public ModuloCalculo {
 
     using Campos = std::vector<CampoParametro*>;
 
-    /// Which parameters stand on the window and in the report, in that order; the second list stays empty where there
-    /// is one kind of moments alone.
+    /// Sets the parameters shown on the window and in the report, in that order; `lineales` is empty for a distribution
+    /// with only one kind of moments.
     void DeclararParametros(Campos ordinarios, Campos lineales = {});
 
     const DescripcionAjuste& Ajuste() const { return ajuste_; }
     /// Whether the ordinary moments are chosen.
     bool Ordinario() const { return !tipo || tipo->optOrdinario.Value; }
 
-    /// Whether the values in x can be fitted at all; says why not.
+    /// Returns whether the values in x can be fitted at all; when not, tells the user why.
     virtual bool AdmiteDatos() { return true; }
-    /// The same once xo has them in order.
+    /// As AdmiteDatos, for conditions on the sorted series in xo.
     virtual bool AdmiteSerie() { return true; }
-    /// Parameters, reduced variables and theoretical probabilities of xo(1) to xo(n); errors end the calculation.
+    /// Calculates parameters, reduced variables and theoretical probabilities of xo(1) to xo(n); an error ends the
+    /// calculation.
     virtual void Ajustar() = 0;
-    /// Whether the parameters let the test go on; says why not.
+    /// Returns whether the test can go on with these parameters; when not, tells the user why.
     virtual bool AdmiteParametros() { return true; }
-    /// Whether the chosen parameters can be evaluated; says why not.
+    /// Returns whether the chosen parameters can be evaluated; when not, tells the user why.
     virtual bool PuedeEvaluar() { return true; }
-    /// The discharge of a non-exceedance probability, by the chosen parameters.
+    /// The discharge with that non-exceedance probability, by the chosen parameters.
     virtual Double Cuantil(Double p) = 0;
-    /// Non-exceedance probability of a discharge by the chosen parameters; nothing after a message of its own.
+    /// Non-exceedance probability of a discharge by the chosen parameters; nothing when it does not exist, after
+    /// telling the user so.
     virtual std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) = 0;
     /// The two theoretical columns of the test table.
     virtual std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const { return {Gord, Glin}; }
@@ -140,7 +142,7 @@ class MarcoAjuste : public ModuloCalculo {
     void MostrarEjes(bool visibles);
     void LlenarTabla();
     const NivelSignificacion& Nivel() const;
-    /// Whether there is a fit to evaluate and a value to evaluate it at; says what is missing.
+    /// Returns whether there is a fit and a value at which to evaluate it; when not, tells the user what is missing.
     bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
     void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
     void ReportarTabla(Reporte& reporte);

@@ -9,8 +9,8 @@ namespace cuencalia {
 /// formula 26.2.17.
 Double FuncionNormal(Double z);
 
-/// The z with P(Z < z) = p, for 0 < p < 1. Absolute error in z below 4.5e-4, the same at both ends.
-/// Outside the range nothing is tested: 11 at p = 0 and p = 1, and no meaning elsewhere.
+/// The z with P(Z < z) = p, for 0 < p < 1. Absolute error in z below 4.5e-4, in both tails alike. p is not checked: p =
+/// 0 and p = 1 raise error 11, and other values outside the range give a meaningless result.
 /// Source: Abramowitz and Stegun (1964), formula 26.2.23.
 Double InversaNormal(Double p);
 

@@ -6,7 +6,7 @@ namespace cuencalia {
 
 namespace {
 
-/// The shape by |tau|, in the ranges of small and of great skew.
+/// The shape as a function of |tau|, by one formula for small and one for great skewness.
 Double Forma(Double tauAbs) {
     if (tauAbs >= Double(1) / 3) {
         const Double z = 1 - tauAbs;

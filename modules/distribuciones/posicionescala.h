@@ -4,14 +4,13 @@
 
 namespace cuencalia {
 
-/// Position and scale of a distribution, in the unit of its variable.
+/// Position and scale of a distribution, in the unit of its variable v.
 struct PosicionEscala {
     Double posicion, escala;
 };
 
-/// A distribution of two parameters that is a standard one moved and stretched: with v = x, or v = ln x in the forms of
-/// logarithms, the reduced variable y = (v - posicion) / escala has the standard cumulative function whatever the
-/// sample.
+/// A distribution of two parameters, position and scale. With v = x, or v = ln x for distributions of logarithms, the
+/// reduced variable y = (v - posicion) / escala has the same cumulative function for every sample.
 struct DistribucionPosicionEscala {
     bool deLogaritmos;
     /// Parameters by the mean and the deviation (divisor n - 1) of v.
@@ -23,14 +22,14 @@ struct DistribucionPosicionEscala {
     /// The y of a non-exceedance probability, 0 < p < 1.
     Double (*cuantil)(Double p);
 
-    /// y = (v - posicion) / escala. Errors: 11 or 6 for a scale of 0; of logarithms, 5 for x <= 0.
+    /// y = (v - posicion) / escala. Errors: 11 or 6 for a scale of 0; in distributions of logarithms, 5 for x <= 0.
     Double Reducida(PosicionEscala parametros, Double x) const {
         const Double v = deLogaritmos ? Log(x) : x;
         return (v - parametros.posicion) / parametros.escala;
     }
     /// Non-exceedance probability of x; errors as above.
     Double Probabilidad(PosicionEscala parametros, Double x) const { return acumulada(Reducida(parametros, x)); }
-    /// The x of a non-exceedance probability, 0 < p < 1; the errors of `cuantil` outside it.
+    /// The x of a non-exceedance probability, 0 < p < 1; for other p the errors of `cuantil`.
     Double Cuantil(PosicionEscala parametros, Double p) const {
         const Double v = parametros.posicion + parametros.escala * cuantil(p);
         return deLogaritmos ? Exp(v) : v;

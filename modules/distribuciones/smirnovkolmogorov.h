@@ -6,8 +6,8 @@ namespace cuencalia {
 
 /// A significance level of the Smirnov-Kolmogorov test.
 struct NivelSignificacion {
-    Double c;           ///< Of the critical value c / sqrt(n).
-    const char* texto;  ///< As the verdict says it, with the blank before it.
+    Double c;           ///< Numerator of the critical value c / sqrt(n).
+    const char* texto;  ///< The level as the verdict names it, with a blank before it.
 };
 
 inline constexpr NivelSignificacion kNivel20{1.07, " 20%"};
@@ -23,9 +23,10 @@ inline Double PosicionWeibull(int i, int n) { return Double(i) / (n + 1); }
 /// The greatest of delta(1) to delta(n), n >= 1.
 Double MayorDelta(const ArregloBase<Double>& delta, int n);
 
-/// The difference that is not exceeded by chance at that level in n values, by the formula for large samples whatever
-/// the n: below 35 values it is some percent greater than the exact one, so the test accepts a little more. With
-/// parameters taken from the same values the exact one is half to two thirds of it (docs/numerics.md).
+/// The critical difference: one that n values do not exceed by chance at that level. The formula for large samples is
+/// used for every n: below 35 values its result is some percent greater than the exact one, so the test accepts a
+/// little more. When the parameters are estimated from the same values, the exact critical difference is half to two
+/// thirds of this result (docs/numerics.md).
 /// Source: Massey, F. J. (1951), The Kolmogorov-Smirnov test for goodness of fit, J. Am. Stat. Assoc. 46(253), 68-78.
 inline Double DeltaTabular(const NivelSignificacion& nivel, int n) { return nivel.c / Sqr(n); }
 

@@ -17,8 +17,8 @@ Clases FormarClases(const ArregloBase<Double>& ordenada, int n) {
         const Double rango = ultimo - primero;
         const Double sentido = rango / Abs(rango);
         const Double k = minimo == 0 ? 1 : 0;
-        // The width is taken from the sum of the extremes, not from their difference, so that the classes from zero on
-        // reach the greatest value when the least one is small.
+        // The width is calculated from the sum of the extremes, not from their difference, so that classes which begin
+        // at zero reach the greatest value when the least one is small.
         dx = sentido * (primero + ultimo + k * Abs(dx) / 2) / Double(clases.NC);
         LI = primero - minimo * sentido;
     }

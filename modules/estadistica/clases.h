@@ -9,7 +9,7 @@ struct Clases {
     using Columna = Arreglo<Double, 1, 50>;
 
     Integer NC;             ///< Number of classes.
-    Double ancho;           ///< Width of a class; its sign is that of the range.
+    Double ancho;           ///< Width of a class; it has the sign of the range.
     Columna LCI, MCL, LCS;  ///< Lower limit, class mark, upper limit, in the units of the series.
     Columna FA;             ///< Absolute frequency.
 };
@@ -18,8 +18,9 @@ struct Clases {
 /// 21, p. 65): K = 1 + 1.33 ln n classes, rounded half up, centred on the least and the greatest value. Where the data
 /// are not negative but the first class would begin below zero, the classes begin at zero instead.
 ///
-/// A value on a limit goes into the lower class; values above the last limit are in none, so the frequencies may sum up
-/// to less than n. All values equal give classes of no width. Error 5 for n = 0, error 6 for n = 1 (0 / 0).
+/// A value on a limit belongs to the lower class; values above the last limit belong to no class, so the frequencies
+/// may add up to less than n. When all values are equal, the classes have the width 0. Error 5 for n = 0, error 6 for n
+/// = 1 (0 / 0).
 Clases FormarClases(const ArregloBase<Double>& ordenada, int n);
 
 }  // namespace cuencalia

@@ -73,7 +73,7 @@ void frmDistriFre::Dibujar(const char* funcion, const Clases::Columna& ordenadas
     if (!ExigirCalculo({"Ejecutar cálculos antes de graficar"})) {
         return;
     }
-    // The curve starts at the origin of the axes, whatever the first class is.
+    // The curve starts at the point (0, 0), wherever the first class begins.
     SerieGrafico serie{.x = {0}, .y = {0}};
     for (int i = 1; i <= NC; ++i) {
         serie.x.push_back(clases.MCL(i));

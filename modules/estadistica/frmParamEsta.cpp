@@ -13,8 +13,8 @@ std::vector<std::string> Textos(const ParametrosEstadisticos& p) {
             Format(p.Cv, "0.##00"),    Format(p.Cs, "0.##00"),       Format(p.Ck, "0.##00")};
 }
 
-/// The L-moment ratios in the rows of the conventional parameters: L2 is the dispersion itself, not a standard
-/// deviation made from it, and the variance row holds its square.
+/// The L-moments as texts for the rows of the conventional parameters: the row of the standard deviation shows L2
+/// itself, the row of the variance the square of L2.
 std::vector<std::string> Textos(const MomentosLineales& l) {
     return {Format(l.L1, "0.0000"),        Format(l.L2 * l.L2, "0.0###"), Format(l.L2, "0.0000"),
             Format(l.L2 / l.L1, "0.0000"), Format(l.L3 / l.L2, "0.0000"), Format(l.L4 / l.L2, "0.0000")};
@@ -40,7 +40,7 @@ void frmParamEsta::Calcular() {
         datos.MenorQue2Celdas();
         return;
     }
-    // Everything is computed before anything is shown: a series that stops the calculation leaves the window as it was.
+    // All results are computed before any is shown, so that an error leaves the window unchanged.
     const std::vector<std::string> pm = Textos(ParametrosMuestrales(x, n));
     const std::vector<std::string> pp = Textos(ParametrosPoblacionales(x, n));
     OrdenarCopia();

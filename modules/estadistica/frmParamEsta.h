@@ -5,7 +5,7 @@
 
 namespace cuencalia {
 
-/// Statistical parameters of a series: sample, population and linear moments side by side, and the series in order.
+/// Statistical parameters of a series: sample, population and linear moments side by side, and the sorted series.
 class frmParamEsta : public ModuloSerie {
   public:
     explicit frmParamEsta(Aplicacion& app);

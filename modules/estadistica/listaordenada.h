@@ -7,7 +7,7 @@
 
 namespace cuencalia {
 
-/// The list of a series in ascending order that a module shows on demand, with its label; hidden until then.
+/// The list, with its label, in which a module shows the sorted series on demand; hidden until then.
 class ListaOrdenada {
   public:
     explicit ListaOrdenada(Formulario& forma);

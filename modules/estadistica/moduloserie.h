@@ -7,7 +7,7 @@
 
 namespace cuencalia {
 
-/// A module of one series X that can show it in ascending order.
+/// A module with one series X, which it can show in ascending order.
 class ModuloSerie : public ModuloCalculo {
   public:
     ModuloSerie(Aplicacion& app, std::string nombre, std::string titulo);
@@ -17,13 +17,13 @@ class ModuloSerie : public ModuloCalculo {
     Serie x;
     Serie xo;  ///< x in ascending order.
 
-    /// Lists the series as the grid holds it now; it needs no calculation.
+    /// Lists the sorted values of the grid as they are now; no calculation is needed before.
     void bOrdenar_Click();
 
   protected:
     void LimpiarOtros() override { orden.OcultarGrid(); }
 
-    /// Sorts a copy of the series that was read last.
+    /// Sorts a copy of the series that CargarMatrices read last.
     void OrdenarCopia();
 };
 

@@ -10,7 +10,8 @@ struct MomentosCentrales {
     Double M3, M4;  // third and fourth central moments, divisor n
 };
 
-/// Two passes, mean first: summing raw powers in one pass would lose every digit of a series with little spread.
+/// Two passes, the mean first: sums of raw powers in a single pass would lose all digits of a series with little
+/// spread.
 MomentosCentrales CalcularMomentosCentrales(const ArregloBase<Double>& x, int n) {
     Double S;
     for (int i = 1; i <= n; ++i) {
@@ -87,7 +88,7 @@ MomentosLineales CalcularMomentosLineales(const ArregloBase<Double>& ordenada, i
     const Double N = n;
     Double T1, T2, T3, T4;
     for (int i = 1; i <= n; ++i) {
-        // Ways of choosing one, two and three of the values below x(i) (a, b, c) and above it (d, e, f).
+        // Number of ways to choose one, two and three of the values below x(i) (a, b, c) and above it (d, e, f).
         const Double a = i - 1;
         const Double b = a * (i - 2) / 2;
         const Double c = b * (i - 3) / 3;
@@ -100,7 +101,7 @@ MomentosLineales CalcularMomentosLineales(const ArregloBase<Double>& ordenada, i
         T3 += x * (b - 2 * a * d + e);
         T4 += x * (c - 3 * b * d + 3 * a * e - f);
     }
-    // Ways of choosing two, three and four of all n values.
+    // Number of ways to choose two, three and four of all n values.
     const Double C2 = N * (N - 1) / 2;
     const Double C3 = C2 * (N - 2) / 3;
     const Double C4 = C3 * (N - 3) / 4;

@@ -13,8 +13,8 @@ struct ParametrosEstadisticos {
 /// Sample parameters of x(1) to x(n), corrected for small samples. With mk the k-th central moment of divisor n:
 ///   varianza s² = n·m2 / (n-1)                Cs = n²·m3 / ((n-1)(n-2)·s³)
 ///   Cv = s / media                            Ck = n³·m4 / ((n-1)(n-2)(n-3)·s⁴)
-/// Defined for n >= 4, a spread and a mean other than 0; otherwise the quotient at fault raises error 11, or 6 where it
-/// is 0 / 0 (two values give 6, their m3 being 0). Error 9 when the array has no x(1) to x(n).
+/// Defined for n >= 4, a spread and a mean other than 0; otherwise the division that fails raises error 11, or 6 for
+/// 0 / 0 (two values give 6, since their m3 is 0). Error 9 when the array has no x(1) to x(n).
 /// Source: Kite, G. W. (1977), Frequency and Risk Analyses in Hydrology, Water Resources Publications, Fort Collins.
 ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n);
 

@@ -9,8 +9,8 @@ namespace cuencalia {
 /// About n²/2 comparisons: half a millisecond for the 1500 values of a Serie.
 void OrdenarSerie(ArregloBase<Double>& x, int n);
 
-/// The same order by the selection of the frequency fits: in each round the value after the place to be filled is the
-/// first candidate, only a lesser one replaces it, and a swap is always made.
+/// Sorts likewise, with the variant of selection used by the frequency fits: in each round the first candidate is the
+/// value after the place to be filled, only a lesser value replaces the candidate, and the swap is always made.
 void OrdenarPorSeleccion(ArregloBase<Double>& x, int n);
 
 }  // namespace cuencalia

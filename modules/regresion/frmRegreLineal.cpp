@@ -34,12 +34,14 @@ void frmRegreLineal::Calcular() {
     if (n <= 1) {
         App().MsgBox("Para el ajuste a la ecuación se requiere por lo menos dos puntos", kIconoError, "Error");
         datos.MenorQue2Celdas();
-        // A refused fit counts as made: the line of the last fit is applied, or 0 if there was none.
+        // The refused fit still sets `calculado`: the user can go on evaluating the line of the last fit, or a line
+        // with a = b = 0 if there was none.
         calculado = true;
         return;
     }
     const RectaRegresion recta = AjustarRecta(x, y, n);
-    // The line stands even where it has no correlation: equal ordinates give b = 0, which bCalX reports.
+    // The line is stored before the correlation is calculated, which may fail: equal ordinates give b = 0, and bCalX
+    // then reports that.
     a = recta.a;
     b = recta.b;
     const Double R = CoeficienteCorrelacion(recta);

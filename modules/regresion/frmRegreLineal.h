@@ -5,7 +5,7 @@
 
 namespace cuencalia {
 
-/// Straight line through pairs of numbers of any sign, applied in both directions.
+/// Least-squares line through pairs of numbers of any sign; it gives y for an x and x for a y.
 class frmRegreLineal : public ModuloCalculo {
   public:
     explicit frmRegreLineal(Aplicacion& app);
@@ -24,7 +24,7 @@ class frmRegreLineal : public ModuloCalculo {
     GraficoModulo Graph1{*this, "Graph1", "Gráfico de los pares de datos"};
 
     Arreglo<Double, 1, 1550> x, y;
-    Double a, b;  ///< Of the last fit, unrounded; 0 as long as there was none.
+    Double a, b;  ///< Coefficients of the last fit, unrounded; 0 when there was none.
 
     void bGraficar_Click();
     void bCalY_Click();
@@ -37,7 +37,8 @@ class frmRegreLineal : public ModuloCalculo {
     Disposicion Contenido() override;
 
   private:
-    /// Empties the result box; says whether the known value was given, with the message and the focus if it was not.
+    /// Empties the result box and returns whether the known value was typed; when not, tells the user and moves the
+    /// focus to its box.
     bool PrepararEvaluacion(TextBox& conocido, TextBox& resultado, const std::string& nombreConocido,
                             const std::string& nombreResultado);
 };

@@ -14,7 +14,8 @@ struct RectaRegresion {
 /// Least-squares line through the pairs (x(i), y(i)), i = 1 to n:
 ///   Sxx = Σx² - n·xm², Syy and Sxy alike;  b = Sxy / Sxx;  a = ym - b·xm
 /// For n >= 2. Error 11 or 6 when all x are equal. The sums of raw products lose digits where the spread is small
-/// against the mean: of the 16 digits of a Double about twice as many as the mean has before the spread begins.
+/// compared with the mean: of the 16 digits of a Double, about twice the number of digits that the mean has in front of
+/// the first digit that varies.
 /// Source: Draper, N. R. and Smith, H. (1966), Applied Regression Analysis, Wiley, New York, chapter 1.
 RectaRegresion AjustarRecta(const ArregloBase<Double>& x, const ArregloBase<Double>& y, int n);
 
