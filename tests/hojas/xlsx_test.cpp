@@ -18,7 +18,7 @@ TEST(Xlsx, Celdas) {
     const std::string textos =
         "<si><t xml:space='preserve'> simple </t></si>"
         "<si><r><rPr><b/></rPr><t>ri</t></r><r><t>co</t></r><rPh sb='0' eb='2'><t>NO</t></rPh><phoneticPr/></si>"
-        "<si><t>a_x0041_b_x000D__x00G0__x20</t></si>";
+        "<si><t>a_x0041_b_x000D__x00G0__x0042-_x20</t></si>";
     const std::string filas =
         "<row r='1'><c r='A1' t='s'><v>2</v></c><c r='B1' t='s'><v>0</v></c><c r='C1' t='s'><v> 1 </v></c></row>"
         "<row r='2'><c t='inlineStr'><is><r><t>en </t></r><rPh sb='0' "
@@ -29,7 +29,7 @@ TEST(Xlsx, Celdas) {
         "<row r='4'><c><v>1</v></c><c r='C4'><v>3</v></c><c><v>4</v></c><c r='AA4'><v>9</v></c></row>"
         "<row><c t='n'><v>-7</v></c><c><v/></c><c t='str'><v></v></c></row>";
     // Serial 59 is the 28th of February 1900, 45351 the 29th of February 2024.
-    const Filas esperadas = {{"aAb\r_x00G0__x20", " simple ", "rico", kVacia},
+    const Filas esperadas = {{"aAb\r_x00G0__x0042-_x20", " simple ", "rico", kVacia},
                              {"en línea", "de fórmula", Double(45351.25), Double(59)},
                              {Double(0.0015), Double(0.125), "Falso", "#REF!"},
                              {Double(1), kVacia, Double(3), Double(4)},
@@ -41,7 +41,8 @@ TEST(Xlsx, LosDatosAcabanEnLaPrimeraCeldaVaciaDeLaColumnaA) {
     const std::string uno = "<row r='1'><c r='A1'><v>1</v></c></row>";
     const std::string tres = "<row r='3'><c r='A3'><v>3</v></c></row>";
     for (const char* const dos : {"", "<row r='2'><c r='B2'><v>2</v></c></row>", "<row r='2'><c r='A2' s='1'/></row>",
-                                  "<row r='2'><c r='A2' t='s'><v>0</v></c></row>", "<row r='3'/><mal formado"}) {
+                                  "<row r='2'><c r='A2' t='s'><v>0</v></c></row>", "<row r='3'/><mal formado",
+                                  "<row r='3'><c><v>x</v></c></row>"}) {
         EXPECT_EQ(Leer(LibroCon(uno + dos + tres, "<si><t/></si>"), 1), kUno) << dos;
     }
     EXPECT_EQ(Leer(LibroCon(uno + "<row r='2'><c r='A2'><v>x</v></c></row><mal formado"), 1, 1), kUno);
