@@ -91,7 +91,7 @@ TEST(Xls, LaPrimeraHojaDeCalculo) {
     // sectors, the other is not.
     const std::string uno = LibroBiff({{0, Numero(0, 1)}});
     const std::string otro = LibroBiff({{0, Numero(0, 2)}}) + std::string(5000, '\0');
-    EXPECT_EQ(Leer(Ole({{"MBD00/Workbook", otro}, {"Workbook", uno}}), 1), kUno);
+    EXPECT_EQ(Leer(Ole({{"A", "x"}, {"MBD00/Workbook", otro}, {"Workbook", uno}}), 1), kUno);
     EXPECT_EQ(Leer(Ole({{"A/Workbook", uno}, {"WORKBOOK", otro}}), 1), Filas{{Double(2)}});
 }
 
