@@ -18,8 +18,8 @@
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vistatextorico.h"
-#include "frame/reportes/rtf.h"
 #include "frame/reportes/editortextorico.h"
+#include "frame/reportes/rtf.h"
 
 namespace cuencalia {
 

@@ -2,8 +2,8 @@
 #include <iostream>
 #include <string>
 
-#include "shell/formas.h"
 #include "guion/guion.h"
+#include "shell/formas.h"
 
 int main(int argc, char** argv) {
     std::ifstream archivo;

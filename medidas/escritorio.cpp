@@ -2,7 +2,6 @@
 // the help of a graphics card.
 
 #include "escritorio/escritorio.h"
-#include "escritorio/vista.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,8 +12,9 @@
 
 #include "escritorio/estilo.h"
 #include "escritorio/ventana.h"
-#include "frame/controles/flexgrid.h"
+#include "escritorio/vista.h"
 #include "frame/base/textos.h"
+#include "frame/controles/flexgrid.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {

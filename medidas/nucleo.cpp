@@ -12,11 +12,11 @@
 #include <vector>
 
 #include "frame/base/archivoserie.h"
-#include "frame/controles/flexgrid.h"
 #include "frame/base/textos.h"
+#include "frame/controles/flexgrid.h"
+#include "guion/plataformaguion.h"
 #include "hojas/libros.h"
 #include "shell/formas.h"
-#include "guion/plataformaguion.h"
 
 namespace cuencalia::pruebas {
 

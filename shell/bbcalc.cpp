@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/controles/aplicacion.h"
 #include "frame/base/textos.h"
+#include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 

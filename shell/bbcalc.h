@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "frame/controles/controles.h"
 #include "frame/base/numeros.h"
+#include "frame/controles/controles.h"
 
 namespace cuencalia {
 
