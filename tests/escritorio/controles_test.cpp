@@ -65,34 +65,19 @@ TEST_F(Controles, AKeyArrivesWithItsCodeAndItsCharacter) {
         int codigo, caracter;
         Qt::KeyboardModifiers con = Qt::NoModifier;
     };
-    const Caso casos[] = {{Qt::Key_Backspace, "\b", 8, 8},
-                          {Qt::Key_Return, "\r", 13, 13},
-                          {Qt::Key_Enter, "\r", 13, 13},
-                          {Qt::Key_Escape, "\x1b", 27, 27},
-                          {Qt::Key_Space, " ", 32, 32},
-                          {Qt::Key_PageUp, "", 33, 0},
-                          {Qt::Key_PageDown, "", 34, 0},
-                          {Qt::Key_End, "", 35, 0},
-                          {Qt::Key_Home, "", 36, 0},
-                          {Qt::Key_Left, "", 37, 0},
-                          {Qt::Key_Up, "", 38, 0},
-                          {Qt::Key_Right, "", 39, 0},
-                          {Qt::Key_Down, "", 40, 0},
-                          {Qt::Key_Delete, "\x7f", 46, 0},
-                          {Qt::Key_5, "5", 53, 53},
-                          {Qt::Key_X, "x", 88, 120},
-                          {Qt::Key_Asterisk, "*", 106, 42, Qt::ShiftModifier},
-                          {Qt::Key_Plus, "+", 107, 43},
-                          {Qt::Key_Minus, "-", 109, 45},
-                          {Qt::Key_Slash, "/", 111, 47},
-                          {Qt::Key_F2, "", 113, 0},
-                          {Qt::Key_Period, ".", 190, 46},
-                          {Qt::Key_Comma, ",", 190, 44},
-                          {Qt::Key_Ntilde, "ñ", 0, 241},
-                          {Qt::Key_E, "€", 69, 0x20ac, Qt::ControlModifier | Qt::AltModifier},
-                          {Qt::Key_unknown, "😀", 0, 0x1f600},
-                          {Qt::Key_X, "\x18", -1, 0, Qt::ControlModifier},
-                          {Qt::Key_F5, "", -1, 0}};
+    // clang-format off
+    const Caso casos[] = {
+        {Qt::Key_Backspace, "\b", 8, 8}, {Qt::Key_Return, "\r", 13, 13}, {Qt::Key_Enter, "\r", 13, 13},
+        {Qt::Key_Escape, "\x1b", 27, 27}, {Qt::Key_Space, " ", 32, 32}, {Qt::Key_PageUp, "", 33, 0},
+        {Qt::Key_PageDown, "", 34, 0}, {Qt::Key_End, "", 35, 0}, {Qt::Key_Home, "", 36, 0}, {Qt::Key_Left, "", 37, 0},
+        {Qt::Key_Up, "", 38, 0}, {Qt::Key_Right, "", 39, 0}, {Qt::Key_Down, "", 40, 0},
+        {Qt::Key_Delete, "\x7f", 46, 0}, {Qt::Key_5, "5", 53, 53}, {Qt::Key_X, "x", 88, 120},
+        {Qt::Key_Asterisk, "*", 106, 42, Qt::ShiftModifier}, {Qt::Key_Plus, "+", 107, 43},
+        {Qt::Key_Minus, "-", 109, 45}, {Qt::Key_Slash, "/", 111, 47}, {Qt::Key_F2, "", 113, 0},
+        {Qt::Key_Period, ".", 190, 46}, {Qt::Key_Comma, ",", 190, 44}, {Qt::Key_Ntilde, "ñ", 0, 241},
+        {Qt::Key_E, "€", 69, 0x20ac, Qt::ControlModifier | Qt::AltModifier}, {Qt::Key_unknown, "😀", 0, 0x1f600},
+        {Qt::Key_X, "\x18", -1, 0, Qt::ControlModifier}, {Qt::Key_F5, "", -1, 0}};
+    // clang-format on
     Clic(*Widget<QTableView>(F().grd1).viewport());
     for (const Caso& caso : casos) {
         Sucesos();

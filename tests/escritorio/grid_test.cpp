@@ -32,13 +32,6 @@ TEST_F(Grid, FixedRowsAndColumnsAreHeadingsAndTheRestCells) {
     EXPECT_EQ(Texto(0, 0), "3,1");
     EXPECT_EQ(Encabezado(0, Qt::Vertical), "2");
     EXPECT_EQ(Encabezado(0, Qt::Horizontal), "0,1\n1,1") << "every fixed row";
-    Hacer([this] {
-        G().PonerFixedCols(0);
-        G().PonerRows(4);
-    });
-    Hacer([this] { G().PonerRows(3); });
-    EXPECT_EQ(Tabla().model()->rowCount(), 1);
-    EXPECT_EQ(Texto(0, 0), " 2");
 }
 
 TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {

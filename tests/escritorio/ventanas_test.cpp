@@ -122,18 +122,6 @@ TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
     EXPECT_EQ(Widget(F().txt1).property("text"), "");
 }
 
-TEST_F(Ventanas, TheSchemeReachesWhatIsPainted) {
-    for (const auto esquema : {estilo::Esquema::Oscuro, estilo::Esquema::Claro}) {
-        estilo::Aplicar(*qApp, esquema);
-        QCoreApplication::processEvents();
-        for (const Control* control : std::initializer_list<Control*>{&F().grd1, &F().txt1, &F()}) {
-            const QImage foto = Widget(*control).grab().toImage();
-            const bool oscuro = foto.pixelColor(foto.width() - 5, foto.height() / 2).lightness() < 128;
-            EXPECT_EQ(oscuro, esquema == estilo::Esquema::Oscuro) << control->Nombre();
-        }
-    }
-}
-
 }  // namespace
 
 }  // namespace cuencalia::pruebas

@@ -194,15 +194,5 @@ TEST_F(AplicacionTest, UnaFormaDescargadaNoRecibeMasTeclasNiFoco) {
     EXPECT_TRUE(sistema.errores.empty());
 }
 
-TEST_F(AplicacionTest, TerminarNoPreguntaNiDescarga) {
-    FormaPrueba& dos = Abrir("frmDos");
-    Tomar();
-    dos.b2.Click.Conectar([&] { app.Terminar(); });
-    app.Pulsar(dos.b2);
-    EXPECT_TRUE(app.Terminada() && sistema.terminado);
-    app.Pulsar(dos.b1);
-    EXPECT_EQ(Tomar(), "-A ") << "the program is over";
-}
-
 }  // namespace
 }  // namespace cuencalia

@@ -158,21 +158,6 @@ TEST_F(ReportesTest, SeAcumulanDondeEstaElCursor) {
     EXPECT_TRUE(sistema.errores.empty());
 }
 
-// The table is what the grid shows, also what was left in it without ENTER; reading it moves the grid's cursor.
-TEST_F(ReportesTest, TablaDeLaCuadricula) {
-    app.Despachar([&] { M().datos.grdt.Presionar(kBotonIzquierdo, 1, 1); });
-    for (const char c : std::string("1\n2\n3\n")) {
-        app.PulsarTecla(c == '\n' ? int{kTeclaEnter} : 0, c == '\n' ? int{kTeclaEnter} : c);
-    }
-    M().datos.grdt.PonerTextMatrix(2, 1, "z");
-    Elegir(Padre().mnuFileNew);
-    Reportar();
-    std::string lleno = kVacio;
-    EXPECT_EQ(Texto().Text(), lleno.insert(kVacio.rfind("---"), " 1\t\t1.0\t\t\n 2\t\tz\t\t\n 3\t\t3.0\t\t\n"));
-    EXPECT_EQ(M().datos.grdt.Row(), 3);
-    EXPECT_EQ(M().datos.grdt.TextMatrix(4, 0), "[?]");
-}
-
 TEST_F(ReportesTest, DocumentosYSuVentana) {
     Elegir(Padre().mnuFileNew);
     EXPECT_EQ(Titulo(), "Documento 2");

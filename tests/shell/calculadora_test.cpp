@@ -208,16 +208,5 @@ TEST_F(CalculadoraTest, Teclado) {
     EXPECT_TRUE(F().BBCalc1.PicDisplay.TieneFoco());
 }
 
-TEST_F(CalculadoraTest, UnaParaTodosLosModulos) {
-    Marcar("5 MS + 3");
-    Abrir("frmCalculadora");
-    Marcar("=");
-    EXPECT_EQ(Pantalla(), "8.");
-    app.CerrarVentana(F());
-    Abrir("frmCalculadora");
-    EXPECT_EQ(Pantalla(), ".0");
-    EXPECT_FALSE(F().Image1.Visible);
-}
-
 }  // namespace
 }  // namespace cuencalia

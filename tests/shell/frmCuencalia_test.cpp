@@ -40,21 +40,6 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
     EsperarSilencio();
 }
 
-TEST_F(CuencaliaTest, UnaVentanaYVueltaAlMenu) {
-    // Chosen twice it is one window.
-    for (const auto& [entrada, forma, boton] :
-         {std::tuple{"mparanoagru", "frmParamEsta", "bMenu"}, {"mayuacerca", "frmacerc", "bsalir"}}) {
-        Elegir(entrada);
-        Formulario* abierta = app.Cargada(forma);
-        Elegir(entrada);
-        EXPECT_EQ(app.Cargada(forma), abierta);
-        app.Pulsar(*abierta->Controls(boton));
-        EXPECT_EQ(app.Cargadas().size(), 1U) << forma;
-        EXPECT_EQ(sistema.alFrente, &F());
-    }
-    EXPECT_FALSE(sistema.terminado);
-}
-
 TEST_F(CuencaliaTest, SalirTerminaSinPreguntar) {
     Elegir("mparanoagru");
     app.PulsarTecla('5', '5');
