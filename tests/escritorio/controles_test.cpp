@@ -25,10 +25,7 @@ TEST_F(Controles, APropertyShowsOnTheWidget) {
         {[](auto& f) { f.opt2.Value = false; }, "opt2", "checked", false},
         {[](auto& f) { f.cmb1.Text = "ni uno ni dos"; }, "cmb1", "currentText", "ni uno ni dos"},
         {[](auto& f) { f.cmb2.Text = "b"; }, "cmb2", "currentText", "b"},
-        {[](auto& f) {
-             f.cmb2.List = Textos{"b", "a", "b2"};
-         },
-         "cmb2", "currentIndex", 0},
+        {[](auto& f) { f.cmb2.List = f.otros; }, "cmb2", "currentIndex", 0},
         {[](auto& f) { f.Frame1.Caption = "Grupo"; }, "Frame1", "title", "Grupo"},
         {[](auto& f) { f.SSTab1.Tab = 1; }, "SSTab1", "currentIndex", 1},
         {[](auto& f) { f.StatusBar1.PonerPanel(1, "Listo"); }, "StatusBar1", "text", "Listo"},

@@ -11,11 +11,11 @@ namespace {
 using Mensajes = Mesa;
 
 TEST_F(Mensajes, AMessageStandsAsItIs) {
-    const std::pair<Icono, QMessageBox::Icon> iconos[] = {{kSinIcono, QMessageBox::NoIcon},
-                                                          {kIconoError, QMessageBox::Critical},
-                                                          {kIconoPregunta, QMessageBox::Question},
-                                                          {kIconoAdvertencia, QMessageBox::Warning},
-                                                          {kIconoInformacion, QMessageBox::Information}};
+    // clang-format off
+    const std::pair<Icono, QMessageBox::Icon> iconos[] = {
+        {kSinIcono, QMessageBox::NoIcon}, {kIconoError, QMessageBox::Critical}, {kIconoPregunta, QMessageBox::Question},
+        {kIconoAdvertencia, QMessageBox::Warning}, {kIconoInformacion, QMessageBox::Information}};
+    // clang-format on
     for (const auto& [modelo, pantalla] : iconos) {
         escritorio_->MsgBox("a < b & <b>c</b>", modelo, "Título");
         EXPECT_EQ(vigia_.mensajes.back().icono, pantalla);

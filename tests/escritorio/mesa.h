@@ -67,7 +67,7 @@ class FormaDePrueba : public Formulario {
     Menu mnu1{*this, "mnu1", "&Menú"}, mnuUno{mnu1, "mnuUno", "&Uno"}, mnuDos{mnu1, "mnuDos", "Dos"};
     Menu mnuFila{*this, "mnuFila", "Fila", false}, mnuBorrar{mnuFila, "mnuBorrar", "Borrar"};
 
-    Textos sucesos;
+    Textos sucesos, otros{"b", "a", "b2"};
     Textos punteros;  ///< The controls that were told of the pointer over them.
 
   protected:

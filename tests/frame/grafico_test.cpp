@@ -103,10 +103,12 @@ TEST_F(GraficoTest, FueraDeLimites) {
     Tamano(2, 3);
     G.PonerThisPoint(2);
     G.PonerThisSet(3);
-    for (const auto& [poner, alto] : {std::pair{&GraficoModulo::PonerNumPoints, 0},
-                                      {&GraficoModulo::PonerNumSets, 0},
-                                      {&GraficoModulo::PonerThisPoint, 3},
-                                      {&GraficoModulo::PonerThisSet, 4}}) {
+    using Grafico = GraficoModulo;
+    // clang-format off
+    const std::pair<void (Grafico::*)(int), int> casos[] = {
+        {&Grafico::PonerNumPoints, 0}, {&Grafico::PonerNumSets, 0}, {&Grafico::PonerThisPoint, 3}, {&Grafico::PonerThisSet, 4}};
+    // clang-format on
+    for (const auto& [poner, alto] : casos) {
         for (const int malo : {0, -1, alto}) {
             EXPECT_EQ(NumeroDeError([&, p = poner] { (G.*p)(malo); }), 5) << malo;
         }

@@ -278,9 +278,6 @@ TEST_F(ModuloTest, MenuDeFila) {
     };
     EXPECT_EQ(seleccion(2), "2,1 2,1");
     EXPECT_EQ(seleccion(3), "3,1 1,2");
-    Celda(1, 3);
-    app.Despachar([&] { M().datos.InsertarFila(); });
-    EXPECT_EQ(Ver(), " 1,,,| 2,1.0,2.0,3.0| 3,4.0,5.0,6.0|[?],,,| @1,1");
 }
 
 TEST_F(ModuloTest, DondeQuedaElCursor) {
