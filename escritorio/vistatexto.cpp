@@ -24,8 +24,14 @@ class VistaTexto : public Vista {
             linea_->setAlignment(Qt::AlignHCenter);
         }
         connect(linea_, &QLineEdit::textEdited, this, [this] { Devolver(); });
-        connect(linea_, &QLineEdit::cursorPositionChanged, this, [this] { Devolver(); });
-        connect(linea_, &QLineEdit::selectionChanged, this, [this] { Devolver(); });
+        // A box that is left drops its mark. Told, it would get the focus back: the program knows of no other yet.
+        const auto moverse = [this] {
+            if (linea_->hasFocus()) {
+                Devolver();
+            }
+        };
+        connect(linea_, &QLineEdit::cursorPositionChanged, this, moverse);
+        connect(linea_, &QLineEdit::selectionChanged, this, moverse);
     }
 
   protected:
