@@ -171,7 +171,7 @@ QIcon Icono(const QString& nombre) {
     if (hallado != iconos.constEnd()) {
         return *hallado;
     }
-    const QIcon icono =
+    QIcon icono =
         nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
     iconos.insert(nombre, icono);
     return icono;

@@ -50,7 +50,7 @@ QColor Legible(const QColor& color, const QColor& fondo) {
 /// Converts the formats of the model to those of the toolkit, for a given background colour.
 class Formatos {
   public:
-    explicit Formatos(QColor papel) : papel_(std::move(papel)) {}
+    explicit Formatos(QColor papel) : papel_(papel) {}
 
     const QTextCharFormat& De(const FormatoCaracter& formato) {
         if (!hecho_ || formato != ultimo_) {
@@ -260,7 +260,7 @@ int EnUtf16(const QTextDocument& documento, int caracteres, int longitud) {
 
 std::string RtfDe(const QMimeData& datos) {
     for (const char* tipo : kTiposRtf) {
-        const std::string fuente = datos.data(QLatin1String(tipo)).toStdString();
+        std::string fuente = datos.data(QLatin1String(tipo)).toStdString();
         if (EsRtf(fuente)) {
             return fuente;
         }
