@@ -171,8 +171,7 @@ QIcon Icono(const QString& nombre) {
     if (hallado != iconos.constEnd()) {
         return *hallado;
     }
-    QIcon icono =
-        nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
+    QIcon icono = nombre.isEmpty() || !QFile::exists(Archivo(nombre)) ? QIcon() : QIcon(new MotorSvg(Archivo(nombre)));
     iconos.insert(nombre, icono);
     return icono;
 }
