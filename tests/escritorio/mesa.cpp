@@ -14,16 +14,9 @@ Vigia::Vigia() {
 Vigia::~Vigia() { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
 
 void Vigia::Mirar() {
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    if (menu != nullptr && emergente) {
-        // What the entry opens must find this timer running.
-        QTimer::singleShot(0, menu, [menu, entrada = *std::exchange(emergente, {})] {
-            const QList<QAction*> acciones = menu->actions();
-            const auto accion = std::find_if(acciones.begin(), acciones.end(),
-                                             [&](const QAction* una) { return una->text() == entrada; });
-            menu->setActiveAction(accion == acciones.end() ? nullptr : *accion);
-            QTest::keyClick(menu, accion == acciones.end() ? Qt::Key_Escape : Qt::Key_Return);
-        });
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
     }
     auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (auto* caja = qobject_cast<QMessageBox*>(dialogo)) {
@@ -46,7 +39,7 @@ FormaDePrueba::FormaDePrueba(Aplicacion& app) : Formulario(app, "frmPrueba", "Pr
     txtt.FlotarSobre(grd1);
     txtt.Visible = false;
     grd1.PonerRows(40);
-    grd1.PonerCols(4);
+    grd1.PonerCols(columnas);
     for (int i = 0; i < 160; ++i) {
         grd1.PonerTextMatrix(i / 4, i % 4, std::to_string(i / 4) + "," + std::to_string(i % 4));
     }
@@ -73,14 +66,13 @@ FormaDePrueba::FormaDePrueba(Aplicacion& app) : Formulario(app, "frmPrueba", "Pr
 }
 
 Disposicion FormaDePrueba::Disponer() {
+    const Disposicion fichas = Fichas(SSTab1, {Columna({txt2}), Columna({txt3, Disposicion(Graph1).Estira(1)})});
     return Columna({Fila({lbl1, txt1, Grupo(Frame1, {btn1, opt1, opt2}), cmb1, cmb2}),
-                    Fila({Disposicion(grd1).Estira(1), txtt, Fichas(SSTab1, {Columna({txt2}), Columna({txt3})})}),
-                    StatusBar1});
+                    Fila({Disposicion(grd1).Estira(1), txtt, fichas}), StatusBar1});
 }
 
-Mesa::Mesa(TablaFormas otras) {
+Mesa::Mesa() {
     TablaFormas formas = FormasDelPrograma();
-    formas.merge(otras);
     formas["frmPrueba"] = [](Aplicacion& app) { return std::make_unique<FormaDePrueba>(app); };
     escritorio_ = std::make_unique<Escritorio>(std::move(formas));
     static_cast<Programa*>(qApp)->alFallar = [this](const ErrorEjecucion& error) { escritorio_->MostrarError(error); };
@@ -93,7 +85,7 @@ Mesa::~Mesa() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-void Mesa::Abrir(const char* forma) {
+void Mesa::Abrir(const std::string& forma) {
     Hacer([&] { escritorio_->App().ModuloAbrir(forma); });
     ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
 }
@@ -105,17 +97,6 @@ QMainWindow* Mesa::Ventana(const std::string& forma) {
         }
     }
     return nullptr;
-}
-
-void Mesa::ElegirEnBarra(const Formulario& forma, const QString& entrada) {
-    for (QAction* accion : Ventana(forma.Nombre())->menuBar()->findChildren<QAction*>()) {
-        if (accion->text() == entrada) {
-            accion->trigger();
-            QCoreApplication::processEvents();
-            return;
-        }
-    }
-    FAIL() << "no entry " << Std(entrada);
 }
 
 void Mesa::Clic(QWidget& widget, QPoint donde, Qt::MouseButton boton) {

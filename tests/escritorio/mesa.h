@@ -5,11 +5,12 @@
 #include <QtTest>
 #include <QtWidgets>
 #include <functional>
-#include <optional>
 
 #include "escritorio/escritorio.h"
+#include "escritorio/ventana.h"
 #include "escritorio/vista.h"
 #include "frame/controles/flexgrid.h"
+#include "frame/reportes/grafico.h"
 
 /// How a failed comparison shows a text of the toolkit.
 inline void PrintTo(const QString& texto, std::ostream* salida) { *salida << '"' << texto.toStdString() << '"'; }
@@ -37,8 +38,6 @@ class Vigia : public QObject {
     QStringList otrosDialogos;
     /// Looks at the next file dialog and names the file to pick in it.
     std::function<QString(QFileDialog&)> elegir;
-    /// The entry to pick in the next pop-up menu; an empty text closes it.
-    std::optional<QString> emergente;
     QList<QUrl> abiertos;
 
   public slots:
@@ -55,6 +54,8 @@ class FormaDePrueba : public Formulario {
   public:
     explicit FormaDePrueba(Aplicacion& app);
 
+    static inline int columnas = 4;  ///< Of its grid.
+
     TextBox txt1{*this, "txt1", "Caja"}, txtt{*this, "txtt"}, txt2{*this, "txt2"}, txt3{*this, "txt3"};
     Label lbl1{*this, "lbl1", "&Texto:"};
     CommandButton btn1{*this, "btn1", "&Botón"};
@@ -63,11 +64,12 @@ class FormaDePrueba : public Formulario {
     Frame Frame1{*this, "Frame1", "Marco"};
     SSTab SSTab1{*this, "SSTab1", {"Una", "Otra"}};
     FlexGrid grd1{*this, "grd1"};
+    GraficoModulo Graph1{*this, "Graph1", "Gráfico de la serie"};
     StatusBar StatusBar1{*this, "StatusBar1", 3};
     Menu mnu1{*this, "mnu1", "&Menú"}, mnuUno{mnu1, "mnuUno", "&Uno"}, mnuDos{mnu1, "mnuDos", "Dos"};
     Menu mnuFila{*this, "mnuFila", "Fila", false}, mnuBorrar{mnuFila, "mnuBorrar", "Borrar"};
 
-    Textos sucesos, otros{"b", "a", "b2"};
+    Textos sucesos;
     Textos punteros;  ///< The controls that were told of the pointer over them.
 
   protected:
@@ -78,13 +80,15 @@ class FormaDePrueba : public Formulario {
 /// pointer or has the focus.
 class Mesa : public testing::Test {
   protected:
-    /// The program's own forms, the form above and others that a test has.
-    explicit Mesa(TablaFormas otras = {});
+    Mesa();
     ~Mesa() override;
 
     void Hacer(const std::function<void()>& accion) { escritorio_->App().Despachar(accion); }
     /// Opens a form, or brings its window to the front.
-    void Abrir(const char* forma);
+    void Abrir(const std::string& forma);
+    void Cerrar(Formulario& forma) {
+        Hacer([&] { escritorio_->App().Unload(forma); });
+    }
     const Control* Foco() { return escritorio_->App().Foco(); }
     /// What was written down since the last look.
     Textos Sucesos() { return std::exchange(F().sucesos, {}); }
@@ -98,7 +102,6 @@ class Mesa : public testing::Test {
         return dynamic_cast<W&>(*static_cast<Vista*>(control.Vista())->Widget());
     }
 
-    void ElegirEnBarra(const Formulario& forma, const QString& entrada);
     static void Clic(QWidget& widget, QPoint donde, Qt::MouseButton boton = Qt::LeftButton);
     static void Clic(QWidget& widget) { Clic(widget, widget.rect().center()); }
     static void Apuntar(QWidget& widget, QPoint donde);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 #include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
@@ -10,135 +9,109 @@
 namespace cuencalia {
 namespace {
 
-using Enteros = std::vector<int>;
+class FormaConGrafico : public Formulario {
+  public:
+    explicit FormaConGrafico(Aplicacion& app) : Formulario(app, "frmGrafico", "Gráfico") {}
+    GraficoModulo Graph1{*this, "Graph1"};
+};
+
+using Valores = std::vector<std::optional<Double>>;
 
 class GraficoTest : public testing::Test {
   protected:
-    void Tamano(int puntos, int conjuntos) {
-        G.PonerNumPoints(puntos);
-        G.PonerNumSets(conjuntos);
+    const Valores& X(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).x; }
+    const Valores& Y(std::size_t conjunto) { return G.Conjuntos().at(conjunto - 1).y; }
+    template <typename Paso>
+    static int Error(Paso paso) {
+        return NumeroDeError([&] { return paso(), 0; });
     }
-    void Escribir(const Enteros& y, const Enteros& x) {
-        for (const int valor : y) {
-            G.PonerGraphData(valor);
-        }
-        for (const int valor : x) {
-            G.PonerXPosData(valor);
-        }
-    }
-    /// Legend, x and y of each set, with a hyphen where nothing was written.
-    std::string Datos() const {
-        std::string texto;
-        for (const auto& [leyenda, x, y] : G.Conjuntos()) {
-            texto += leyenda;
-            for (const auto& [letra, valores] : {std::pair{"x", x}, {" y", y}}) {
-                texto += letra;
-                for (const auto& valor : valores) {
-                    texto += valor ? Str(*valor) : " -";
-                }
-            }
-            texto += "; ";
-        }
-        return texto;
-    }
-    Enteros Lugar() const { return {G.NumPoints(), G.NumSets(), G.ThisPoint(), G.ThisSet()}; }
-    Enteros Aspecto() const { return {G.Visible(), G.Background(), G.BorderStyle(), G.DrawMode()}; }
-    Enteros Clase() const { return {G.GraphType(), G.GraphStyle(), G.AutoInc()}; }
 
     PlataformaGuion sistema;
     Aplicacion app{sistema, {}};
-    Formulario forma{app, "frmGrafico", "Gráfico"};
-    GraficoModulo G{forma, "Graph1"};
+    FormaConGrafico forma{app};
+    GraficoModulo& G = forma.Graph1;
 };
 
 // All the y first, set after set, and then all the x: each kind has its own next point.
-TEST_F(GraficoTest, AutoIncRecorrePuntosYConjuntos) {
-    Tamano(2, 3);
-    Escribir({1, 2, 3, 4, 5, 6}, {10, 20, 30, 40, 50, 60});
-    EXPECT_EQ(Datos(), "x 10 20 y 1 2; x 30 40 y 3 4; x 50 60 y 5 6; ");
-    EXPECT_EQ(NumeroDeError([&] { G.PonerGraphData(7); }), 5) << "there is no fourth set";
-    EXPECT_EQ(NumeroDeError([&] { G.PonerXPosData(7); }), 5);
-
-    Tamano(3, 2);
-    G.PonerThisSet(2);
-    G.PonerThisPoint(2);
-    Escribir({1, 2}, {9});
-    EXPECT_EQ(Datos(), "x - - - y - - -; x - 9 - y - 1 2; ") << "it goes on from where it was told";
-    G.PonerThisPoint(1);
-    G.PonerThisSet(1);
-    Escribir({5}, {});
-    EXPECT_EQ(Datos(), "x - - - y 5 - -; x - 9 - y - 1 2; ");
-}
-
-TEST_F(GraficoTest, SinAutoIncSeEscribeElPuntoElegido) {
-    Tamano(2, 2);
-    G.AutoInc = 0;
-    Escribir({1, 2}, {});
-    EXPECT_EQ(Datos(), "x - - y 2 -; x - - y - -; ") << "the same point again";
-    G.PonerThisPoint(2);
-    G.PonerThisSet(2);
-    Escribir({3}, {4});
-    EXPECT_EQ(Datos(), "x - - y 2 -; x - 4 y - 3; ");
-}
-
-TEST_F(GraficoTest, EscribirElTamanoVacia) {
-    const auto llenar = [&] {
-        Tamano(2, 2);
-        G.PonerThisSet(2);
-        G.PonerLegendText("Ord");
-        Escribir({1}, {2});
-    };
-    llenar();
+TEST_F(GraficoTest, AutoIncGoesThroughPointsAndSets) {
     G.PonerNumPoints(2);
-    EXPECT_EQ(Datos(), "x - - y - -; x - - y - -; ") << "also when the number is the same";
-    EXPECT_EQ(Lugar(), (Enteros{2, 2, 1, 1}));
-    llenar();
-    G.PonerNumSets(1);
-    EXPECT_EQ(Datos(), "x - - y - -; ");
-    Escribir({8}, {});
-    EXPECT_EQ(Datos(), "x - - y 8 -; ") << "writing begins at the first point";
-}
-
-TEST_F(GraficoTest, FueraDeLimites) {
-    Tamano(2, 3);
-    G.PonerThisPoint(2);
-    G.PonerThisSet(3);
-    using Grafico = GraficoModulo;
-    // clang-format off
-    const std::pair<void (Grafico::*)(int), int> casos[] = {
-        {&Grafico::PonerNumPoints, 0}, {&Grafico::PonerNumSets, 0}, {&Grafico::PonerThisPoint, 3}, {&Grafico::PonerThisSet, 4}};
-    // clang-format on
-    for (const auto& [poner, alto] : casos) {
-        for (const int malo : {0, -1, alto}) {
-            EXPECT_EQ(NumeroDeError([&, p = poner] { (G.*p)(malo); }), 5) << malo;
-        }
+    G.PonerNumSets(3);
+    for (const int y : {1, 2, 3, 4, 5, 6}) {
+        G.PonerGraphData(y);
     }
-    EXPECT_EQ(Lugar(), (Enteros{2, 3, 2, 3}));
+    for (const int x : {10, 20, 30}) {
+        G.PonerXPosData(x);
+    }
+    EXPECT_EQ(Y(1), (Valores{1, 2}));
+    EXPECT_EQ(Y(3), (Valores{5, 6}));
+    EXPECT_EQ(X(1), (Valores{10, 20}));
+    EXPECT_EQ(X(2), (Valores{30, std::nullopt}));
+    EXPECT_EQ(Error([&] { G.PonerGraphData(7); }), 5) << "there is no fourth set";
+    G.PonerThisSet(2);
+    G.PonerThisPoint(2);
+    for (const int y : {7, 8}) {
+        G.PonerGraphData(y);
+    }
+    EXPECT_EQ(Y(2), (Valores{3, 7})) << "it goes on from the point chosen";
+    EXPECT_EQ(Y(3), (Valores{8, 6}));
 }
 
-TEST_F(GraficoTest, DibujarYLimpiar) {
+TEST_F(GraficoTest, WithoutAutoIncThePointChosenIsWritten) {
+    G.PonerNumPoints(2);
+    G.PonerNumSets(2);
+    G.AutoInc = 0;
+    G.PonerThisPoint(2);
+    G.PonerThisSet(2);
+    for (const int y : {3, 4}) {
+        G.PonerGraphData(y);
+    }
+    EXPECT_EQ(Y(2), (Valores{std::nullopt, 4}));
+    for (const int malo : {0, 3}) {
+        EXPECT_EQ(Error([&] { G.PonerThisPoint(malo); }), 5) << malo;
+        EXPECT_EQ(Error([&] { G.PonerThisSet(malo); }), 5) << malo;
+    }
+    EXPECT_EQ(Error([&] { G.PonerNumPoints(0); }), 5);
+    EXPECT_EQ(Error([&] { G.PonerNumSets(0); }), 5);
+    G.PonerNumPoints(2);
+    G.PonerGraphData(5);
+    EXPECT_EQ(Y(2), Valores(2)) << "writing the size empties, also when it stays the same";
+    EXPECT_EQ(Y(1), (Valores{5, std::nullopt})) << "and begins at the first point";
+}
+
+TEST_F(GraficoTest, ASetWithoutPositionsTakesThoseOfTheFirstAndWithoutThose1ToN) {
+    const DescripcionGrafico tres{.autoInc = 0, .puntos = 3, .conjuntos = 3};
+    GraficoDibujar(G, tres, {{"", {}, {5, 6}}, {"", {10, 20}, {7, 8}}});
+    EXPECT_EQ(G.Abscisas(1), (Valores{1, 2, 3}));
+    EXPECT_EQ(G.Abscisas(2), (Valores{10, 20, std::nullopt})) << "a point of its own without one has none";
+    EXPECT_EQ(G.Abscisas(3), (Valores{1, 2, 3}));
+    EXPECT_EQ(X(1), Valores(3)) << "what was never written stays so";
+    GraficoDibujar(G, tres, {{"", {10, 20}, {7, 8}}, {"", {}, {5, 6}}});
+    EXPECT_EQ(G.Abscisas(2), (Valores{10, 20, std::nullopt}));
+    EXPECT_EQ(Error([&] { G.Abscisas(4); }), 5);
+}
+
+TEST_F(GraficoTest, OneSequenceDrawsEveryChart) {
     EXPECT_FALSE(G.Visible);
-    EXPECT_EQ(G.AutoInc(), 1);
-    const DescripcionGrafico areas{kGraficoAreas, kSimbolosSueltos, 7, true, "Tiempo (min)", 1};
-    GraficoDibujar(G, areas, {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
-    EXPECT_EQ(Datos(), "Expx 1 2 3 y 4 5 6; Ordx 7 8 9 y 10 11 12; ");
-    EXPECT_EQ(Clase(), (Enteros{8, 1, 1}));
-    EXPECT_EQ(Aspecto(), (Enteros{true, 7, 1, 2}));
-    EXPECT_EQ(G.FontUse() * 10 + G.PatternData(), 42);
-    EXPECT_EQ(G.BottomTitle(), "Tiempo (min)");
-
-    GraficoDibujar(G, {.autoInc = 0}, {{"", {1, 2}, {3, 4}}});
-    EXPECT_EQ(Datos(), "x 1 2 y 3 4; ") << "nothing of the chart before is left";
-    EXPECT_EQ(Clase(), (Enteros{6, 0, 0}));
-    EXPECT_EQ(Aspecto(), (Enteros{true, 11, 1, 2}));
-    EXPECT_EQ(G.BottomTitle(), "");
-
-    G.Background = 7;
+    GraficoDibujar(G, {.tipo = kGraficoAreas, .estilo = kSimbolosSueltos, .fondo = 7, .conTrama = true, .titulo = "t"},
+                   {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
+    EXPECT_EQ((std::vector{G.FontUse(), G.GraphType(), G.GraphStyle(), G.Background(), G.BorderStyle(), G.PatternData(),
+                           G.AutoInc(), G.DrawMode(), G.NumPoints(), G.NumSets()}),
+              (std::vector{4, 8, 1, 7, 1, 2, 1, 2, 3, 2}));
+    EXPECT_TRUE(G.Visible);
+    EXPECT_EQ(G.BottomTitle(), "t");
+    EXPECT_EQ(G.Conjuntos()[1].leyenda, "Ord");
+    EXPECT_EQ(X(2), (Valores{7, 8, 9}));
+    EXPECT_EQ(Y(2), (Valores{10, 11, 12}));
+    GraficoDibujar(G, {}, {{"", {1, 2}, {3, 4}}});
+    EXPECT_EQ(G.Background(), 11);
+    EXPECT_EQ(Y(1), (Valores{3, 4}));
+    EXPECT_EQ(G.Conjuntos()[0].leyenda, "") << "nothing of the chart before is left";
+    EXPECT_EQ(Error([&] { GraficoDibujar(G, {.puntos = 1}, {{"", {}, {3, 4}}}); }), 5) << "no room";
+    G.LimpiarGrafico(7);
+    EXPECT_EQ((std::vector{G.Background(), G.BorderStyle(), G.DrawMode()}), (std::vector{7, 0, 1}));
+    EXPECT_FALSE(G.Visible);
     G.LimpiarGrafico();
-    EXPECT_EQ(Aspecto(), (Enteros{false, 11, 0, 1}));
-    GraficoDibujar(G, {}, {{"", {5}, {6}}});
-    EXPECT_EQ(Datos(), "x 5 y 6; ");
-    EXPECT_EQ(Aspecto(), (Enteros{true, 11, 1, 2}));
+    EXPECT_EQ(G.Background(), 11);
 }
 
 }  // namespace
