@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kMaxArchivo = std::size_t{256} << 20;
+constexpr std::size_t kMaxArchivo = std::size_t{96} << 20;
 
 }  // namespace
 

@@ -23,15 +23,36 @@ constexpr std::size_t kMaxHoja = std::size_t{256} << 20;
 constexpr std::size_t kMaxTextos = std::size_t{64} << 20;
 constexpr std::size_t kMaxIndice = std::size_t{4} << 20;
 
+// Most XML that is parsed of a workbook, where 1501 rows of 250 columns take 13 MiB: what bounds the time, as the rest
+// of a part is only unpacked for its checksum.
+constexpr std::size_t kMaxAnalizado = std::size_t{48} << 20;
+
 // A cell holds up to 32,767 characters (ECMA-376 part 1, 18.3.1.96), each escaped as "_xHHHH_" at worst.
 constexpr std::size_t kMaxBytesDeCelda = 32767 * 7;
 constexpr int kMaxFilas = 1048576;
 constexpr int kMaxColumnas = 16384;
 
-void LeerParte(const ArchivoZip& libro, const std::string& parte, std::size_t limite, LectorXml& lector) {
-    libro.Recorrer(parte, limite, [&](std::span<const std::byte> trozo) { return lector.Alimentar(trozo); });
-    lector.Concluir();
-}
+class Paquete {
+  public:
+    explicit Paquete(std::span<const std::byte> bytes) : archivo_(bytes) {}
+
+    bool Tiene(const std::string& parte) const { return archivo_.Tiene(parte); }
+
+    void Leer(const std::string& parte, std::size_t limite, LectorXml& lector) {
+        archivo_.Recorrer(parte, limite, [&](std::span<const std::byte> trozo) {
+            if (trozo.size() > porAnalizar_) {
+                FallarDemasiadoGrande();
+            }
+            porAnalizar_ -= trozo.size();
+            return lector.Alimentar(trozo);
+        });
+        lector.Concluir();
+    }
+
+  private:
+    ArchivoZip archivo_;
+    std::size_t porAnalizar_ = kMaxAnalizado;
+};
 
 void AgregarTexto(std::string& texto, std::string_view trozo) {
     if (texto.size() + trozo.size() > kMaxBytesDeCelda) {
@@ -124,11 +145,11 @@ class LectorRelaciones : public LectorXml {
     std::string carpeta_;
 };
 
-Relaciones RelacionesDe(const ArchivoZip& libro, const std::string& parte) {
+Relaciones RelacionesDe(Paquete& libro, const std::string& parte) {
     const std::string carpeta = CarpetaDe(parte);
     const std::string nombre = parte.substr(carpeta.empty() ? 0 : carpeta.size() + 1);
     LectorRelaciones lector(carpeta);
-    LeerParte(libro, carpeta + (carpeta.empty() ? "" : "/") + "_rels/" + nombre + ".rels", kMaxIndice, lector);
+    libro.Leer(carpeta + (carpeta.empty() ? "" : "/") + "_rels/" + nombre + ".rels", kMaxIndice, lector);
     return std::move(lector.relaciones);
 }
 
@@ -392,7 +413,7 @@ class LectorHoja : public LectorXml {
 }  // namespace
 
 void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador) {
-    const ArchivoZip libro(bytes);
+    Paquete libro(bytes);
     if (!libro.Tiene("_rels/.rels")) {
         FallarNoEsLibro();
     }
@@ -405,15 +426,15 @@ void LeerXlsx(std::span<const std::byte> bytes, ArmadorHoja& armador) {
         FallarFormatoNoLeido();
     }
     LectorLibro indice;
-    LeerParte(libro, principal->parte, kMaxIndice, indice);
+    libro.Leer(principal->parte, kMaxIndice, indice);
     const Relaciones delLibro = RelacionesDe(libro, principal->parte);
     LectorHoja hoja(armador);
-    LeerParte(libro, PrimeraHoja(indice.idsDeHojas, delLibro), kMaxHoja, hoja);
+    libro.Leer(PrimeraHoja(indice.idsDeHojas, delLibro), kMaxHoja, hoja);
 
     const Relacion* textos = RelacionDeTipo(delLibro, "sharedStrings");
     if (armador.FaltanTextos() && textos != nullptr) {
         LectorTextos lector(armador);
-        LeerParte(libro, textos->parte, kMaxTextos, lector);
+        libro.Leer(textos->parte, kMaxTextos, lector);
     }
 }
 

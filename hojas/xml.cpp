@@ -13,6 +13,10 @@ namespace {
 constexpr char kSeparador = '|';
 constexpr int kMaxProfundidad = 64;  // the parts of a valid workbook nest less than ten deep
 
+// How far before the current piece a tag, comment or the like may start. The parser scans one that is not complete from
+// its start again with each piece, so that a tag of the size of the part would take time by its square.
+constexpr XML_Index kMaxMarca = XML_Index{64} << 10;
+
 struct Nombre {
     std::string_view espacio;
     std::string_view local;
@@ -132,6 +136,10 @@ void LectorXml::Analizar(std::span<const std::byte> trozo, bool ultimo) {
     if (estado != XML_STATUS_OK && !detenido_) {
         FallarDanado();
     }
+    if (!detenido_ && leidos_ - XML_GetCurrentByteIndex(analizador_.get()) > kMaxMarca) {
+        FallarDemasiadoGrande();
+    }
+    leidos_ += static_cast<std::int64_t>(trozo.size());
 }
 
 void LectorXml::Abrir(std::string_view nombreCompleto, const char** atributos) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <exception>
 #include <memory>
 #include <optional>
@@ -31,8 +32,8 @@ class AtributosXml {
 /// vocabularies are skipped with their contents; of alternate contents only the fallback is read.
 ///
 /// The part is passed piece by piece to Alimentar, then Concluir is called. Error 1004 for malformed XML, another root,
-/// nesting that is too deep, and a document type declaration (which the format forbids, and which could declare
-/// entities that expand without limit).
+/// nesting that is too deep, a tag or comment of hundreds of KiB, and a document type declaration (which the format
+/// forbids, and which could declare entities that expand without limit).
 class LectorXml {
   public:
     /// `raiz` is the name that the root element must have; empty: any name.
@@ -68,6 +69,7 @@ class LectorXml {
     std::exception_ptr fallo_;
     std::string raiz_;
     std::string ruta_;
+    std::int64_t leidos_ = 0;
     int profundidad_ = 0;
     int ajenos_ = 0;  // depth within the outermost element of another vocabulary; 0 outside
     bool detenido_ = false;

@@ -128,6 +128,13 @@ TEST(Xlsx, RechazaLoQueCreceSinMedida) {
     Partes entidades = PaqueteCon("<row><c t='inlineStr'><is><t>&b;</t></is></c></row>");
     entidades["xl/hoja.xml"].insert(0, "<!DOCTYPE worksheet [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]>");
     EXPECT_EQ(Rechazo(Zip(entidades)), kDanado);
+    EXPECT_EQ(Rechazo(LibroCon("<!--" + std::string(1U << 20, 'x') + "--><row><c><v>1</v></c></row>")), grande);
+    EXPECT_EQ(Rechazo(LibroCon(std::string(49U << 20, ' '))), grande);
+    Partes muchas = PaqueteCon("<row><c><v>1</v></c></row>");
+    for (int i = 0; i < 10'000; ++i) {
+        muchas[std::to_string(i)];
+    }
+    EXPECT_EQ(Rechazo(Zip(muchas)), grande);
     std::string anidadas, filas;
     for (int i = 0; i < 100; ++i) {
         anidadas = "<x>" + anidadas + "</x>";
