@@ -53,14 +53,16 @@ void Reporte::EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta) {
     ReporteLinea(tabla.encabezado);
     LineaDeGuiones(tabla.regla);
     const int fin = tabla.columnas > 0 ? tabla.primeraColumna + tabla.columnas : grid.Cols();
+    std::string linea;
     for (int fila = tabla.primeraFila; fila <= hasta; ++fila) {
+        linea.clear();
         for (int c = tabla.primeraColumna; c < fin; ++c) {
             if (tabla.conCursor) {
                 grid.PonerCelda(fila, c);
             }
-            ReporteTexto(tabla.celda(grid.TextMatrix(fila, c), fila, c));
+            linea += tabla.celda(grid.TextMatrix(fila, c), fila, c);
         }
-        ReporteBlanco();
+        ReporteTexto(linea += '\n');
     }
     LineaDeGuiones(tabla.reglaFinal > 0 ? tabla.reglaFinal : tabla.regla);
     ReporteBlanco();

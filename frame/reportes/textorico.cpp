@@ -1,5 +1,6 @@
 #include "frame/reportes/textorico.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "frame/base/utf8.h"
@@ -61,9 +62,12 @@ TextoRico DeTextoPlano(std::string_view texto, const FormatoCaracter& caracter, 
     TextoRico rico;
     rico.parrafos.front().formato = parrafo;
     for (;;) {
-        const std::size_t fin = texto.find_first_of("\r\n");
-        rico.parrafos.back().Agregar({std::string(texto.substr(0, fin)), caracter});
-        if (fin == std::string_view::npos) {
+        const auto esFin = [](char c) { return c == '\r' || c == '\n'; };
+        const auto fin = static_cast<std::size_t>(std::ranges::find_if(texto, esFin) - texto.begin());
+        if (fin > 0) {
+            rico.parrafos.back().Agregar({std::string(texto.substr(0, fin)), caracter});
+        }
+        if (fin == texto.size()) {
             return rico;
         }
         texto.remove_prefix(fin + (texto.substr(fin).starts_with("\r\n") ? 2 : 1));
