@@ -317,7 +317,7 @@ VistaTextoRico::VistaTextoRico(Escritorio& escritorio, RichTextBox& caja, QWidge
         // When a text is moved by dragging within the box, the widget reports its removal from the old place only at
         // the end, so the change is marked here.
         editado_ = true;
-        escritorio_.App().Despachar([&] { caja_.Editor().SelRTF(texto); });
+        escritorio_.App().Despachar([&] { caja_.Editor().Pegar(texto); });
     };
     caja_.AlConsultar([this](EditorTextoRico& editor) { Traer(editor); });
 }

@@ -7,6 +7,7 @@
 #include "frame/base/archivos.h"
 #include "frame/base/errores.h"
 #include "frame/base/utf8.h"
+#include "frame/reportes/limites.h"
 #include "frame/reportes/paginascodigo.h"
 #include "frame/reportes/rtf.h"
 
@@ -103,6 +104,12 @@ void EditorTextoRico::SelRTF(std::string_view texto) {
     }
 }
 
+void EditorTextoRico::Pegar(std::string_view texto) {
+    ExigirLargoManejable(texto);
+    ExigirManejable(LeerRtf(texto, ClaseRtf::kFragmento));
+    SelRTF(texto);
+}
+
 std::string EditorTextoRico::SelText() const { return Seleccion().Texto(); }
 
 void EditorTextoRico::SelText(std::string_view texto) {
@@ -123,16 +130,16 @@ void EditorTextoRico::Insertar(TextoRico texto) {
 
 void EditorTextoRico::LoadFile(const std::string& ruta) {
     constexpr std::string_view kMarcaUtf8 = "\xEF\xBB\xBF";
-    const std::string contenido = LeerArchivo(ruta);
+    const std::string contenido = LeerArchivo(ruta, kMaxArchivoDocumento + 1);
+    ExigirLargoManejable(contenido);
     std::string_view texto = contenido;
     if (texto.starts_with(kMarcaUtf8)) {
         texto.remove_prefix(kMarcaUtf8.size());
     }
-    if (EsRtf(texto)) {
-        Documento(LeerRtf(texto));
-    } else {
-        Documento(DeTextoPlano(EsUtf8(texto) ? std::string(texto) : DeWindows1252(texto)));
-    }
+    TextoRico leido =
+        EsRtf(texto) ? LeerRtf(texto) : DeTextoPlano(EsUtf8(texto) ? std::string(texto) : DeWindows1252(texto));
+    ExigirManejable(leido);
+    Documento(std::move(leido));
 }
 
 void EditorTextoRico::SaveFile(const std::string& ruta) const {

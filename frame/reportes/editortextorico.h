@@ -51,6 +51,8 @@ class EditorTextoRico {
     /// Replaces the selection by RTF source; text that is not RTF source is inserted as plain text. The insertion point
     /// is then after the inserted text.
     void SelRTF(std::string_view texto);
+    /// As SelRTF, for a text from outside the program. Error 1005 for one that would keep the window busy.
+    void Pegar(std::string_view texto);
     /// The selection as plain text.
     std::string SelText() const;
     /// Replaces the selection by plain text, in the format of the replaced text, or of the character before when
@@ -62,7 +64,7 @@ class EditorTextoRico {
     void Insertar(TextoRico texto);
 
     /// Reads an RTF file, or a plain text in UTF-8 or, if it is not valid UTF-8, Windows-1252. Error 53 if there is no
-    /// such file, 75 if it cannot be read; the document is then unchanged.
+    /// such file, 75 if it cannot be read, 1005 if it would keep the window busy; the document is then unchanged.
     void LoadFile(const std::string& ruta);
     /// Writes the document as RTF; an existing file is replaced only when the new one is complete. Error 61 if it does
     /// not fit on the disk, 76 if its folder does not exist, 75 for any other failure; the old file is then unchanged.

@@ -135,7 +135,7 @@ void frmPadre::mnuEditCut_Click() {
 
 void frmPadre::mnuEditPaste_Click() {
     if (frmDocumento* documento = ActiveForm()) {
-        documento->rtfText.Editor().SelRTF(App().Sistema().TextoDelPortapapeles());
+        documento->rtfText.Editor().Pegar(App().Sistema().TextoDelPortapapeles());
     }
 }
 

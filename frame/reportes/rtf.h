@@ -19,7 +19,8 @@ std::string EscribirRtf(const TextoRico& texto, ClaseRtf clase = ClaseRtf::kDocu
 
 /// Reads RTF source as Rich Text Format 1.9.1 defines it (Microsoft, 2008). Pictures, headers, notes on the document
 /// and unknown optional groups are skipped; table cells become separated by tabs, table rows by line breaks. Source
-/// that is cut off or invalid is read as far as possible; text that is not RTF source is taken as plain text.
+/// that is cut off or invalid is read as far as possible; text that is not RTF source is taken as plain text. Error
+/// 1005 for a source with more pieces than any report has (limites.h).
 TextoRico LeerRtf(std::string_view fuente, ClaseRtf clase = ClaseRtf::kDocumento);
 
 }  // namespace cuencalia

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "frame/base/utf8.h"
+#include "frame/reportes/limites.h"
 
 namespace cuencalia {
 
@@ -59,6 +60,7 @@ void Lector::AbrirGrupo() {
     if (!grupos_.empty() && grupos_.back().estado == estado_) {
         ++grupos_.back().veces;
     } else {
+        ExigirPiezas(grupos_.size());
         grupos_.push_back({estado_, 1});
     }
 }
@@ -224,6 +226,7 @@ void Lector::CerrarFuente() {
     if (definicion_.nombre.empty()) {
         return;
     }
+    ExigirPiezas(fuentes_.size());
     fuentes_[std::exchange(fuenteDefinida_, kFuenteSinNombrar)] = std::exchange(definicion_, {});
 }
 
@@ -296,6 +299,7 @@ void Lector::EscribirCaracter(char32_t c) {
             break;
         case Destino::kColores:
             if (c == ';') {
+                ExigirPiezas(colores_.size());
                 colores_.push_back(std::exchange(colorDefinido_, std::nullopt));
             }
             break;
@@ -312,6 +316,7 @@ Tramo& Lector::TramoVigente() {
     vigente_ = estado_.caracter;
     FormatoCaracter formato = Formato();
     if (tramos.empty() || tramos.back().formato != formato) {
+        ExigirPiezas(++piezas_);
         tramos.push_back({{}, std::move(formato)});
     }
     return tramos.back();
@@ -323,6 +328,7 @@ void Lector::TerminarParrafo() {
     }
     SoltarSustitutoAlto();
     FijarParrafo();
+    ExigirPiezas(++piezas_);
     texto_.parrafos.emplace_back();
     trasMarca_ = true;
 }

@@ -144,6 +144,7 @@ class Lector {
 
     TextoRico texto_;
     std::optional<EstadoCaracter> vigente_;  ///< State in which the last piece of text began.
+    std::size_t piezas_ = 0;                 ///< Lines and pieces of one format written.
     bool trasMarca_ = false;                 ///< A paragraph mark was the last thing written.
 };
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <random>
 
 #include "frame/base/utf8.h"
@@ -144,6 +145,44 @@ TEST(EditorTextoRico, Archivos) {
     EXPECT_EQ(editor.Text(), "aaa\nbbb\nccc") << "an error leaves the document";
     editor.SaveFile(ruta);
     EXPECT_EQ(LeerRtf(pruebas::BytesDe(ruta)), editor.Documento());
+}
+
+// Each of these kept the text box busy for more than two seconds, or took hundreds of MB.
+TEST(EditorTextoRico, NoAbreLoQueTardaria) {
+    const pruebas::CarpetaTemporal carpeta;
+    const auto repetir = [](const std::string& trozo, int veces) {
+        std::string todo;
+        for (int i = 0; i < veces; ++i) {
+            todo += trozo;
+        }
+        return todo;
+    };
+    const std::string documento = "{\\rtf1{\\fonttbl{\\f0 A;}}";
+    // clang-format off
+    const std::pair<std::string, std::string> casos[] = {
+        {std::string(90'000, '\n'), "largo"}, {std::string(300'000, '\n'), "largo"},
+        {std::string(200'000, 'x'), "palabras"}, {documento + repetir("\\b a\\b0 a", 20'000), "formato"},
+        {documento + repetir("\\b a\\b0 a", 150'000), "largo"}, {documento + repetir("\\par", 300'000), "largo"},
+        {repetir("a\u0644", 25'000), "formato"}, {documento + repetir("{\\b{\\b0", 200'000), "largo"},
+        {"{\\rtf1{\\colortbl" + std::string(300'000, ';'), "largo"}};
+    // clang-format on
+    EditorTextoRico editor;
+    editor.SelText("lo de antes");
+    for (const auto& [contenido, causa] : casos) {
+        const std::string ruta = pruebas::Guardar(carpeta / "x.rtf", contenido);
+        try {
+            editor.LoadFile(ruta);
+            ADD_FAILURE() << contenido.substr(0, 40);
+        } catch (const ErrorEjecucion& error) {
+            EXPECT_NE(error.Texto().find(causa), std::string::npos) << contenido.substr(0, 40);
+        }
+        EXPECT_EQ(NumeroDeError([&] { editor.Pegar(contenido); }), 1005) << contenido.substr(0, 40);
+    }
+    std::filesystem::resize_file(carpeta / "x.rtf", std::uintmax_t{2} << 30);
+    EXPECT_EQ(NumeroDeError([&] { editor.LoadFile(carpeta / "x.rtf"); }), 1005);
+    EXPECT_EQ(editor.Text(), "lo de antes");
+    editor.LoadFile(pruebas::Guardar(carpeta / "x.txt", repetir("1\t\t105.3\t\t98.1\n", 20'000)));
+    EXPECT_EQ(editor.Documento().parrafos.size(), 20'001u);
 }
 
 }  // namespace
