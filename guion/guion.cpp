@@ -68,7 +68,7 @@ std::vector<std::string> Separar(const std::string& linea) {
         for (++i; i < linea.size() && linea[i] != '"'; ++i) {
             if (linea[i] == '\\' && i + 1 < linea.size()) {
                 ++i;
-                palabra += linea[i] == 'n' ? '\n' : linea[i];
+                palabra += linea[i] == 'n' ? '\n' : linea[i] == 't' ? '\t' : linea[i];
             } else {
                 palabra += linea[i];
             }
@@ -131,9 +131,6 @@ std::string TextoDe(Control& control) {
     }
     if (auto* c = dynamic_cast<Menu*>(&control)) {
         return c->Caption;
-    }
-    if (auto* c = dynamic_cast<StatusBar*>(&control)) {
-        return c->Panel(1);
     }
     if (auto* c = dynamic_cast<Formulario*>(&control)) {
         return c->Caption;
@@ -227,7 +224,8 @@ void Guion::Ejecutar(const std::string& linea) {
         {"elegir", 3, &Guion::OrdenElegir},   {"ficha", 3, &Guion::OrdenFicha},
         {"cerrar", 2, &Guion::OrdenCerrar},   {"ver", 2, &Guion::OrdenVer},
         {"estado", 2, &Guion::OrdenEstado},   {"mensajes", 1, &Guion::OrdenMensajes},
-        {"archivo", 2, &Guion::OrdenArchivo},
+        {"archivo", 2, &Guion::OrdenArchivo}, {"deshacer", 1, &Guion::OrdenDeshacer},
+        {"rehacer", 1, &Guion::OrdenRehacer}, {"pegar", 2, &Guion::OrdenPegar},
     };
     ++linea_;
     std::string limpia = linea;
@@ -324,7 +322,7 @@ void Guion::OrdenMenu(const Palabras& p) {
         throw;
     }
     plataforma_->alFrente = nullptr;
-    app_->Despachar([&] { entrada->Elegir(); });
+    app_->Elegir(*entrada);
     if (plataforma_->alFrente != nullptr) {
         formaActual_ = plataforma_->alFrente->Nombre();
     }
@@ -423,7 +421,7 @@ void Guion::OrdenTeclas(const Palabras& p) {
 void Guion::OrdenClick(const Palabras& p) {
     auto& control = Usable<Control>(p[1], "un control");
     if (auto* entrada = dynamic_cast<Menu*>(&control)) {
-        app_->Despachar([&] { entrada->Elegir(); });
+        app_->Elegir(*entrada);
     } else if (dynamic_cast<CommandButton*>(&control) != nullptr) {
         app_->Pulsar(control);
     } else {
@@ -495,6 +493,26 @@ void Guion::OrdenCerrar(const Palabras& p) {
     }
 }
 
+/// A key with Control in the data grid of the current form, or in the control that has the focus.
+void Guion::PulsarConControl(int codigo, bool enDatos) {
+    if (enDatos) {
+        auto& grid = Usable<FlexGrid>("grdt", "una cuadrícula");
+        app_->Despachar([&] { grid.SetFocus(); });
+    } else if (app_->Foco() == nullptr) {
+        throw Rechazo("ningún control tiene el foco");
+    }
+    app_->PulsarTecla(codigo, 0, kControl);
+}
+
+void Guion::OrdenDeshacer(const Palabras&) { PulsarConControl('Z', true); }
+
+void Guion::OrdenRehacer(const Palabras&) { PulsarConControl('Y', true); }
+
+void Guion::OrdenPegar(const Palabras& p) {
+    plataforma_->portapapeles = p[1];
+    PulsarConControl('V', false);
+}
+
 void Guion::OrdenArchivo(const Palabras& p) { plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]); }
 
 void Guion::OrdenVer(const Palabras& p) {
@@ -505,6 +523,12 @@ void Guion::OrdenVer(const Palabras& p) {
             datos = ",\"filas\":" + FilasDe(*grid);
         } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
             datos = DatosDe(*grafico);
+        } else if (const auto* barra = dynamic_cast<StatusBar*>(&control)) {
+            datos = ",\"paneles\":[";
+            for (int panel = 1; panel <= barra->Paneles(); ++panel) {
+                datos += (panel == 1 ? "" : ",") + Json(barra->Panel(panel));
+            }
+            datos += "]";
         } else if (auto* documento = dynamic_cast<RichTextBox*>(&control)) {
             datos = DatosDe(*documento);
         } else {

@@ -49,6 +49,9 @@ class Guion {
     void OrdenEstado(const Palabras& p);
     void OrdenMensajes(const Palabras& p);
     void OrdenArchivo(const Palabras& p);
+    void OrdenDeshacer(const Palabras& p);
+    void OrdenRehacer(const Palabras& p);
+    void OrdenPegar(const Palabras& p);
 
     Formulario& FormaActual();
     Control& Buscar(const std::string& nombre);
@@ -57,6 +60,7 @@ class Guion {
     template <typename T>
     T& Usable(const std::string& nombre, const char* clase);
     void Teclear(const std::string& texto);
+    void PulsarConControl(int codigo, bool enDatos);
     void TeclearCaracter(int codigoCaracter);
     void MostrarErrores();
     void Rechazar(const std::string& motivo);

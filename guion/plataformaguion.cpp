@@ -8,6 +8,11 @@ void PlataformaGuion::MsgBox(const std::string& texto, Icono icono, const std::s
     mensajes.push_back({texto, icono, titulo});
 }
 
+bool PlataformaGuion::Preguntar(const std::string& texto, const std::string& titulo) {
+    MsgBox(texto, kIconoPregunta, titulo);
+    return true;
+}
+
 void PlataformaGuion::MostrarError(const ErrorEjecucion& error) { errores.push_back(error); }
 
 void PlataformaGuion::MostrarForma(Formulario& forma) { alFrente = &forma; }

@@ -63,6 +63,9 @@ void Aplicacion::Despachar(const std::function<void()>& accion) {
         }
     }
     if (profundidad_ == 0) {
+        for (Formulario* forma : Cargadas()) {
+            Proteger([forma] { forma->DespuesDeEvento(); });
+        }
         Proteger([this] {
             descargadas_.clear();
             plataforma_.DespuesDeDespachar();
@@ -104,11 +107,12 @@ void Aplicacion::EntregarFoco(Control& control) {
     }
 }
 
-void Aplicacion::PulsarTecla(int codigo, int caracter) {
+void Aplicacion::PulsarTecla(int codigo, int caracter, int modificadores) {
     Control* control = foco_;
     if (control == nullptr) {
         return;
     }
+    modificadores_ = modificadores;
     // One key of the user is two events of the control, dispatched separately: a fault in KeyDown must not suppress
     // KeyPress.
     Despachar([&] {
@@ -126,6 +130,7 @@ void Aplicacion::PulsarTecla(int codigo, int caracter) {
             control->TeclaPorDefecto(codigo, tecla);
         }
     });
+    modificadores_ = kSinModificador;
 }
 
 void Aplicacion::Pulsar(Control& control) {
@@ -133,6 +138,7 @@ void Aplicacion::Pulsar(Control& control) {
         if (!control.EsVisible() || !control.EsHabilitado()) {
             return;
         }
+        control.Forma().AntesDeOrden();
         if (control.AceptaFoco()) {
             control.SetFocus();
             DoEvents();
@@ -143,6 +149,15 @@ void Aplicacion::Pulsar(Control& control) {
             control.Click();
         }
     });
+}
+
+bool Aplicacion::Elegir(Menu& entrada) {
+    bool elegida = false;
+    Despachar([&] {
+        entrada.Forma().AntesDeOrden();
+        elegida = entrada.Elegir();
+    });
+    return elegida;
 }
 
 void Aplicacion::CerrarVentana(Formulario& forma) {

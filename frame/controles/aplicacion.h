@@ -21,6 +21,9 @@ struct Variables {
     std::string NombreArchivo;  ///< Name chosen in the last file dialog of a module.
     Integer NRegistros;         ///< Records of the file or sheet read last.
     int documentos = 0;         ///< Report documents made since the program started.
+    /// What a form keeps beyond its own life, by its name.
+    std::map<std::string, std::shared_ptr<void>> recuerdos;
+    int mensajes = 0;  ///< Message boxes shown since the program started.
 };
 
 /// The running program: its forms, the keyboard focus, and Despachar, through which every event comes in.
@@ -42,10 +45,15 @@ class Aplicacion {
     void DoEvents();
 
     /// A key pressed on the control that has the focus: fires KeyDown, then KeyPress where the key has a character (0:
-    /// none), then runs the control's own response to the key.
-    void PulsarTecla(int codigo, int caracter);
+    /// none), then runs the control's own response to the key. `modificadores` is a sum of Modificador values.
+    void PulsarTecla(int codigo, int caracter, int modificadores = kSinModificador);
+    /// Whether Shift or Ctrl is held down in the current event.
+    bool ConMayusculas() const { return (modificadores_ & kMayusculas) != 0; }
+    bool ConControl() const { return (modificadores_ & kControl) != 0; }
     /// Presses the control for the user: moves the focus to it, then fires its Click.
     void Pulsar(Control& control);
+    /// The same of a menu entry; says whether it could be chosen.
+    bool Elegir(Menu& entrada);
     /// The user closed the window of the form.
     void CerrarVentana(Formulario& forma);
     /// The window of the form came to the front: the form's active control gets the focus.
@@ -81,9 +89,10 @@ class Aplicacion {
     bool Terminada() const { return terminada_; }
 
     void MsgBox(const std::string& texto, Icono icono = kSinIcono, const std::string& titulo = {}) {
+        ++variables_.mensajes;
         plataforma_.MsgBox(texto, icono, titulo);
     }
-    void MsgBox(const Aviso& aviso) { plataforma_.MsgBox(aviso.texto, aviso.icono, aviso.titulo); }
+    void MsgBox(const Aviso& aviso) { MsgBox(aviso.texto, aviso.icono, aviso.titulo); }
     /// Opens the user's manual.
     void AbrirAyuda();
 
@@ -104,6 +113,7 @@ class Aplicacion {
     std::deque<Control*> focosPedidos_;
     Control* foco_ = nullptr;
     int profundidad_ = 0;
+    int modificadores_ = kSinModificador;
     bool terminada_ = false;
 };
 

@@ -59,6 +59,9 @@ enum CodigoTecla : int {
     kTeclaF2 = 113,
 };
 
+/// Keys held down while another key is pressed.
+enum Modificador : int { kSinModificador = 0, kMayusculas = 1, kControl = 2 };
+
 /// Mouse buttons, as passed to MouseDown.
 enum BotonRaton : int { kBotonIzquierdo = 1, kBotonDerecho = 2 };
 

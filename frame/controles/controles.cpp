@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/base/bloque.h"
 #include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/formulario.h"
@@ -52,9 +53,27 @@ void TextBox::Borrar(int desplazamiento) {
     }
 }
 
+void TextBox::Pegar(const std::string& texto) {
+    const Bloque bloque = SepararBloque(texto);
+    const std::string primera = bloque.empty() ? std::string() : bloque.front().front();
+    const LecturaBloque lectura = LeerBloque({{primera}});
+    Reemplazar(SelStart, SelLength, lectura.signo ? LeerNumero(primera, *lectura.signo).value_or(primera) : primera);
+}
+
 void TextBox::TeclaPorDefecto(int codigo, int caracter) {
     const int longitud = Len(Text());
-    if (!Locked && caracter == kTeclaRetroceso) {
+    if (App().ConControl() && (codigo == 'C' || codigo == 'X')) {
+        App().Sistema().PonerEnPortapapeles(Subtexto(Text(), SelStart, SelLength));
+        if (codigo == 'X' && !Locked && SelLength > 0) {
+            Borrar(0);
+        }
+    } else if (App().ConControl() && codigo == 'V') {
+        if (!Locked) {
+            Pegar(App().Sistema().TextoDelPortapapeles());
+        }
+    } else if (App().ConControl() && codigo == 'A') {
+        Seleccionar(0, longitud);
+    } else if (!Locked && caracter == kTeclaRetroceso) {
         Borrar(-1);
     } else if (!Locked && caracter >= kTeclaEspacio) {
         Reemplazar(SelStart, SelLength, Chr(caracter));

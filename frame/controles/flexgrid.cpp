@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/base/errores.h"
+#include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
@@ -195,50 +196,132 @@ void FlexGrid::PonerEncabezados(const std::vector<std::string>& encabezados) {
     }
 }
 
-void FlexGrid::HacerVisible() {
-    if (fila_ < filaSuperior_) {
-        PonerTopRow(fila_);
-    } else if (fila_ >= filaSuperior_ + filasVisibles_) {
-        PonerTopRow(fila_ - filasVisibles_ + 1);
+void FlexGrid::HacerVisible(int fila) {
+    if (fila < filaSuperior_) {
+        PonerTopRow(fila);
+    } else if (fila >= filaSuperior_ + filasVisibles_) {
+        PonerTopRow(fila - filasVisibles_ + 1);
     }
 }
 
-void FlexGrid::TeclaPorDefecto(int codigo, int) {
-    int fila = fila_;
-    int columna = columna_;
+std::pair<int, int> FlexGrid::FinDeDatos(int fila, int columna, int pasoFila, int pasoColumna) const {
+    const auto dentro = [this](int f, int c) {
+        return f >= filasFijas_ && f < filas_ && c >= columnasFijas_ && c < columnas_;
+    };
+    const auto lleno = [&](int f, int c) { return dentro(f, c) && !TextMatrix(f, c).empty(); };
+    const auto avanzar = [&] {
+        fila += pasoFila;
+        columna += pasoColumna;
+    };
+    if (!dentro(fila + pasoFila, columna + pasoColumna)) {
+        return {fila, columna};
+    }
+    const bool enDatos = lleno(fila, columna) && lleno(fila + pasoFila, columna + pasoColumna);
+    do {
+        avanzar();
+    } while (dentro(fila + pasoFila, columna + pasoColumna) &&
+             (enDatos ? lleno(fila + pasoFila, columna + pasoColumna) : !lleno(fila, columna)));
+    return {fila, columna};
+}
+
+std::pair<int, int> FlexGrid::Destino(int codigo, int fila, int columna) const {
+    const bool control = App().ConControl();
+    const int ultimaFila = filas_ - 1, ultimaColumna = columnas_ - 1, pagina = filasVisibles_ - 1;
     switch (codigo) {
         case kTeclaArriba:
-            --fila;
-            break;
+            return control ? FinDeDatos(fila, columna, -1, 0) : std::pair(fila - 1, columna);
         case kTeclaAbajo:
-            ++fila;
-            break;
+            return control ? FinDeDatos(fila, columna, 1, 0) : std::pair(fila + 1, columna);
         case kTeclaIzquierda:
-            --columna;
-            break;
+            return control ? FinDeDatos(fila, columna, 0, -1) : std::pair(fila, columna - 1);
         case kTeclaDerecha:
-            ++columna;
-            break;
+            return control ? FinDeDatos(fila, columna, 0, 1) : std::pair(fila, columna + 1);
         case kTeclaRePag:
-            fila -= filasVisibles_ - 1;
-            break;
+            return {fila - pagina, columna};
         case kTeclaAvPag:
-            fila += filasVisibles_ - 1;
-            break;
+            return {fila + pagina, columna};
         case kTeclaInicio:
-            fila = filasFijas_;
-            break;
+            return {control ? filasFijas_ : fila, columnasFijas_};
         case kTeclaFin:
-            fila = filas_ - 1;
-            break;
+            return {control ? ultimaFila : fila, ultimaColumna};
         default:
-            return;
+            return {-1, -1};
     }
+}
+
+void FlexGrid::SeleccionarTodo() {
+    const int ultimaFila = filas_ - 1;
+    // From the last row upwards where the cursor is there: a row half typed is not to be left for it.
+    const bool alReves = fila_ == ultimaFila;
+    PonerCelda(alReves ? ultimaFila : filasFijas_, columnasFijas_);
+    Seleccionar(alReves ? filasFijas_ : ultimaFila, columnas_ - 1);
+}
+
+void FlexGrid::TeclaPorDefecto(int codigo, int) {
     if (filas_ <= filasFijas_ || columnas_ <= columnasFijas_) {
         return;
     }
-    PonerCelda(std::clamp(fila, filasFijas_, filas_ - 1), std::clamp(columna, columnasFijas_, columnas_ - 1));
-    HacerVisible();
+    if (App().ConControl() && codigo == 'A') {
+        SeleccionarTodo();
+    } else if (App().ConControl() && codigo == 'C') {
+        App().Sistema().PonerEnPortapapeles(TextoSeleccionado());
+    }
+    const bool extender = App().ConMayusculas();
+    auto [fila, columna] = extender ? Destino(codigo, filaSel_, columnaSel_) : Destino(codigo, fila_, columna_);
+    if (fila == -1 && columna == -1) {
+        return;
+    }
+    fila = std::clamp(fila, filasFijas_, filas_ - 1);
+    columna = std::clamp(columna, columnasFijas_, columnas_ - 1);
+    if (extender) {
+        Seleccionar(fila, columna);
+    } else {
+        PonerCelda(fila, columna);
+    }
+    HacerVisible(fila);
+}
+
+Bloque FlexGrid::Celdas(int fila0, int columna0, int fila1, int columna1, bool conEncabezados) const {
+    Bloque bloque;
+    const auto agregar = [&](int fila) {
+        std::vector<std::string>& textos = bloque.emplace_back();
+        for (int c = 0; c < (conEncabezados ? columnasFijas_ : 0); ++c) {
+            textos.push_back(Trim(TextMatrix(fila, c)));
+        }
+        for (int c = columna0; c <= columna1; ++c) {
+            textos.push_back(TextMatrix(fila, c));
+        }
+    };
+    for (int f = 0; f < (conEncabezados ? filasFijas_ : 0); ++f) {
+        agregar(f);
+    }
+    for (int f = fila0; f <= fila1; ++f) {
+        agregar(f);
+    }
+    return bloque;
+}
+
+std::string FlexGrid::TextoSeleccionado(bool conEncabezados) const {
+    return UnirBloque(Celdas(std::min(fila_, filaSel_), std::min(columna_, columnaSel_), std::max(fila_, filaSel_),
+                             std::max(columna_, columnaSel_), conEncabezados));
+}
+
+std::string FlexGrid::TextoCompleto(bool conEncabezados) const {
+    return UnirBloque(Celdas(filasFijas_, columnasFijas_, filas_ - 1, columnas_ - 1, conEncabezados));
+}
+
+bool FlexGrid::EstaMarcada(int fila, int columna) const {
+    return marcar_ && fila >= filasFijas_ && columna >= columnasFijas_ && marcar_(TextMatrix(fila, columna));
+}
+
+int FlexGrid::Marcadas() const {
+    int cuantas = 0;
+    for (int f = filasFijas_; marcar_ && f < filas_; ++f) {
+        for (int c = columnasFijas_; c < columnas_; ++c) {
+            cuantas += EstaMarcada(f, c) ? 1 : 0;
+        }
+    }
+    return cuantas;
 }
 
 void FlexGrid::Presionar(BotonRaton boton, int fila, int columna) {

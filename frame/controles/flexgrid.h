@@ -1,8 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "frame/base/bloque.h"
 #include "frame/controles/control.h"
 
 namespace cuencalia {
@@ -74,8 +77,20 @@ class FlexGrid : public Control {
     /// Writes the headings of row 0 from the first column on.
     void PonerEncabezados(const std::vector<std::string>& encabezados);
 
+    /// The selected cells as text, tabs between them; with their headings and row labels if asked for.
+    std::string TextoSeleccionado(bool conEncabezados = false) const;
+    /// All cells, headings and labels included or not.
+    std::string TextoCompleto(bool conEncabezados) const;
+    void SeleccionarTodo();
+
+    /// Which texts of the cells the user is to look at: the screen shows them marked.
+    void MarcarTextos(std::function<bool(const std::string&)> cuales) { marcar_ = std::move(cuales); }
+    bool EstaMarcada(int fila, int columna) const;
+    int Marcadas() const;
+
     bool AceptaFoco() const override { return true; }
-    /// Arrows, page keys, Home and End move the current cell.
+    /// Arrows, page keys, Home and End move the current cell, with Control to the end of the data; with the capitals
+    /// key they take the selection along. Control with A selects all, with C copies.
     void TeclaPorDefecto(int codigo, int caracter) override;
     /// A press of a mouse button on a cell. In this order: the grid gets the focus, the cell becomes current, MouseDown
     /// fires. On a fixed column only the row of the current cell changes; on a heading the current cell stays.
@@ -93,13 +108,19 @@ class FlexGrid : public Control {
     void ValidarFila(int fila) const;
     void ValidarColumna(int columna) const;
     void Mover(int fila, int columna);
+    /// The cell to which the key moves from the given cell.
+    std::pair<int, int> Destino(int codigo, int fila, int columna) const;
+    /// The last cell with text of the run that begins beyond this cell, or the first cell with text, or the edge.
+    std::pair<int, int> FinDeDatos(int fila, int columna, int pasoFila, int pasoColumna) const;
+    Bloque Celdas(int fila0, int columna0, int fila1, int columna1, bool conEncabezados) const;
     /// Moves the current cell to the nearest cell that may be current, after the grid's size or fixed cells changed.
     void Recolocar();
-    void HacerVisible();
+    void HacerVisible(int fila);
 
     int filas_ = 2, columnas_ = 2, filasFijas_ = 1, columnasFijas_ = 1;
     int fila_ = 1, columna_ = 1, filaSel_ = 1, columnaSel_ = 1, filaSuperior_ = 1, filasVisibles_ = 14;
     std::vector<std::string> textos_;
+    std::function<bool(const std::string&)> marcar_;
     std::vector<int> altos_;
     std::vector<Columna> datosColumna_;
 };

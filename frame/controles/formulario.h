@@ -35,6 +35,10 @@ class Formulario : public Control {
     void Cargar();
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
+    /// The user chose a command of the form: what he was writing is to be taken over first.
+    virtual void AntesDeOrden() {}
+    /// An event on the form has ended, with all that came of it.
+    virtual void DespuesDeEvento() {}
 
     /// The control that gets the focus when this form becomes active, or null.
     Control* ControlActivo() const { return activo_; }

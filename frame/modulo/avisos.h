@@ -4,6 +4,9 @@
 
 namespace cuencalia {
 
+/// Panels of a module's status bar: how data are typed, what happened, how many data there are.
+enum PanelModulo : int { kPanelDigitar = 1, kPanelAvisos = 2, kPanelDatos = 3 };
+
 /// Messages that several modules give.
 inline const Aviso kGraficarSinCalculos{"Efectuar cálculos antes de graficar", kIconoError, "Mensaje de Error"};
 inline const Aviso kGraficarSinPuntos{"Para graficar se requiere por lo menos dos puntos", kIconoError, "Error"};

@@ -1,5 +1,7 @@
 #include "frame/modulo/comandosarchivo.h"
 
+#include <cmath>
+
 #include "frame/base/textos.h"
 #include "frame/modulo/modulocalculo.h"
 
@@ -43,14 +45,20 @@ ComandosArchivo::ComandosArchivo(ModuloCalculo& modulo, const FormatoSerie* form
 }
 
 void ComandosArchivo::ConTrampa(const char* mensaje, const std::function<void()>& orden) {
+    Avisar("");
     try {
         orden();
     } catch (const ErrorEjecucion& error) {
+        const std::string& nombre = modulo_.App().Globales().NombreArchivo;
         if (error.Numero() == kDialogoCancelado) {
-            modulo_.App().MsgBox(mensaje + modulo_.App().Globales().NombreArchivo);
+            modulo_.App().MsgBox(mensaje + nombre);
+        } else if (modulo_.StatusBar1.Panel(kPanelAvisos).empty() && !nombre.empty()) {
+            Avisar(nombre + ": " + error.Texto());
         }
     }
 }
+
+void ComandosArchivo::Avisar(const std::string& aviso) { modulo_.StatusBar1.PonerPanel(kPanelAvisos, aviso); }
 
 void ComandosArchivo::Terminar(int filas) {
     modulo_.datos.TerminarCarga(filas);
@@ -90,6 +98,13 @@ void ComandosArchivo::bAccesar_Click() {
         for (int i = 1; i <= filas; ++i) {
             const Registro registro = archivo.Leer();
             modulo_.datos.RotularFila(i);
+            for (const Single& valor : registro) {
+                if (!std::isfinite(valor.valor())) {
+                    Avisar("El registro " + std::to_string(i) +
+                           " no es un número: la carga terminó ahí (Ctrl+Z devuelve la "
+                           "serie anterior)");
+                }
+            }
             for (int c = 1; c <= modulo_.datos.UltimaColumna(); ++c) {
                 modulo_.datos.grdt.PonerTextMatrix(
                     i, c, Format(registro[static_cast<std::size_t>(c - 1)], formato_->patronArchivo));
@@ -130,6 +145,12 @@ void ComandosArchivo::bCargarExcel_Click() {
             }
         }
         Terminar(filas);
+        if (const int textos = modulo_.datos.grdt.Marcadas(); textos > 0) {
+            Avisar(std::to_string(textos) +
+                   (textos == 1 ? " celda marcada no es un número y cuenta"
+                                : " celdas marcadas no son números y cuentan") +
+                   " como 0 o hasta donde se lee");
+        }
     });
 }
 

@@ -32,9 +32,10 @@ class ComandosArchivo {
 
   private:
     /// Runs a file command with the error handling common to the three: a cancelled dialog shows the message with the
-    /// name of the file; any other error ends the command silently and keeps what it has done so far.
+    /// name of the file; any other error ends the command, keeps what it has done so far and is told in the status bar.
     void ConTrampa(const char* mensaje, const std::function<void()>& orden);
     void Terminar(int filas);
+    void Avisar(const std::string& aviso);
 
     ModuloCalculo& modulo_;
     const FormatoSerie* formato_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "frame/base/bloque.h"
 #include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 
@@ -16,6 +17,15 @@ constexpr int kAltoEncabezado = 340;
 constexpr const char* kMarcaEspera = "[?]";
 constexpr const char* kMarcaEntrada = "[->]";
 constexpr const char* kComoSeDigita = "Para introducir o modificar datos, digitarlos y luego presionar ENTER";
+
+/// The history of a form's data outlives its window: the series of the last one can be brought back.
+std::shared_ptr<HistoriaGrid> RecuerdoDe(Formulario& forma) {
+    std::shared_ptr<void>& recuerdo = forma.App().Globales().recuerdos[forma.Nombre()];
+    if (recuerdo == nullptr) {
+        recuerdo = std::make_shared<HistoriaGrid>();
+    }
+    return std::static_pointer_cast<HistoriaGrid>(recuerdo);
+}
 
 }  // namespace
 
@@ -31,28 +41,36 @@ GridDatos::GridDatos(Formulario& forma, StatusBar& estado, DescripcionGrid descr
       mnuEditInsertar(mnuEdicion, "mnuEditInsertar", "Insertar Fila"),
       mnuEditraya1(mnuEdicion, "mnuEditraya1", "-"),
       mnuEditEliminar(mnuEdicion, "mnuEditEliminar", "Eliminar Fila"),
+      mnuEditraya2(mnuEdicion, "mnuEditraya2", "-"),
+      mnuEditDeshacer(mnuEdicion, "mnuEditDeshacer", "Deshacer"),
+      mnuEditRehacer(mnuEdicion, "mnuEditRehacer", "Rehacer"),
+      mnuEditCopiar(mnuEdicion, "mnuEditCopiar", "Copiar"),
+      mnuEditPegar(mnuEdicion, "mnuEditPegar", "Pegar"),
       app_(forma.App()),
-      descripcion_(std::move(descripcion)) {
+      estado_(estado),
+      descripcion_(std::move(descripcion)),
+      historia_(RecuerdoDe(forma)) {
     txtt.FlotarSobre(grdt);
     txtt.Visible = false;
 
     grdt.GotFocus.Conectar([this] { grdt_GotFocus(); });
-    grdt.KeyDown.Conectar([this](int codigo) {
-        if (codigo == kTeclaF2) {
-            GridEdit(kTeclaEspacio);
-        }
-    });
+    grdt.MarcarTextos([](const std::string& texto) { return !texto.empty() && !ValLeeTodo(texto); });
+    grdt.KeyDown.Conectar([this](int codigo) { grdt_KeyDown(codigo); });
     grdt.KeyPress.Conectar([this](int& keyAscii) { grdt_KeyPress(keyAscii); });
     grdt.LeaveCell.Conectar([this] { OcultarEdicion(); });
     grdt.Scroll.Conectar([this] { OcultarEdicion(); });
     grdt.RowColChange.Conectar([this] { CambioFilaGrid(); });
     grdt.MouseDown.Conectar([this](int boton) { grdt_MouseDown(boton); });
-    txtt.GotFocus.Conectar([&estado] { estado.PonerPanel(1, kComoSeDigita); });
-    txtt.LostFocus.Conectar([&estado] { estado.PonerPanel(1, ""); });
+    txtt.GotFocus.Conectar([&estado] { estado.PonerPanel(kPanelDigitar, kComoSeDigita); });
+    txtt.LostFocus.Conectar([&estado] { estado.PonerPanel(kPanelDigitar, ""); });
     txtt.KeyDown.Conectar([this](int codigo) { txtt_KeyDown(codigo); });
     txtt.KeyPress.Conectar([](int& keyAscii) { keyAscii = keyAscii == kTeclaEnter ? 0 : keyAscii; });
     mnuEditInsertar.Click.Conectar([this] { InsertarFila(); });
     mnuEditEliminar.Click.Conectar([this] { EliminarFila(); });
+    mnuEditDeshacer.Click.Conectar([this] { Deshacer(); });
+    mnuEditRehacer.Click.Conectar([this] { Rehacer(); });
+    mnuEditCopiar.Click.Conectar([this] { app_.Sistema().PonerEnPortapapeles(grdt.TextoSeleccionado()); });
+    mnuEditPegar.Click.Conectar([this] { Pegar(app_.Sistema().TextoDelPortapapeles()); });
 }
 
 void GridDatos::IniciarGrid() {
@@ -69,6 +87,7 @@ void GridDatos::IniciarGrid() {
     }
     grdt.PonerRowHeight(0, kAltoEncabezado);
     grdt.PonerEncabezados(descripcion_.encabezados);
+    grdt.PonerCelda(1, 1);
     grdt.PonerTextMatrix(1, 0, kMarcaEspera);
     if (grdt.PuedeRecibirFoco()) {
         grdt.SetFocus();
@@ -77,6 +96,7 @@ void GridDatos::IniciarGrid() {
 }
 
 void GridDatos::GridEdit(int keyAscii) {
+    Avisar("");
     if (keyAscii > Asc(" ") || keyAscii < 0) {
         txtt.Text = Chr(keyAscii);
         txtt.Seleccionar(1, 0);
@@ -89,6 +109,7 @@ void GridDatos::GridEdit(int keyAscii) {
 }
 
 void GridDatos::ConfirmarCelda() {
+    DecirLectura(txtt.Text);
     txtt.Text = Format(Val(txtt.Text()), kPatronEdicionA);
     // The grid's got-focus handler stores the text, so DoEvents must run it before the current cell moves.
     grdt.SetFocus();
@@ -224,13 +245,156 @@ void GridDatos::OcultarEdicion() {
     }
 }
 
+void GridDatos::grdt_KeyDown(int codigo) {
+    if (codigo == kTeclaF2) {
+        GridEdit(kTeclaEspacio);
+    } else if (codigo == kTeclaSuprimir) {
+        VaciarSeleccion();
+    } else if (app_.ConControl() && codigo == 'Z') {
+        Deshacer();
+    } else if (app_.ConControl() && codigo == 'Y') {
+        Rehacer();
+    } else if (app_.ConControl() && codigo == 'V') {
+        Pegar(app_.Sistema().TextoDelPortapapeles());
+    }
+}
+
+void GridDatos::VaciarSeleccion() {
+    const auto [f0, f1] = std::minmax(grdt.Row(), grdt.RowSel());
+    const auto [c0, c1] = std::minmax(grdt.Col(), grdt.ColSel());
+    for (int f = f0; f <= f1; ++f) {
+        for (int c = c0; c <= c1; ++c) {
+            grdt.PonerTextMatrix(f, c, "");
+        }
+    }
+}
+
+void GridDatos::GuardarEdicion() {
+    if (!txtt.Visible) {
+        return;
+    }
+    DecirLectura(txtt.Text);
+    grdt.SetFocus();
+    app_.DoEvents();
+    if (EnFilaEntrada()) {
+        Avisar("La última fila no se ha confirmado y no cuenta todavía: presionar ENTER");
+    }
+    Anotar();
+}
+
+void GridDatos::DecirLectura(const std::string& texto) {
+    if (!texto.empty() && !ValLeeTodo(texto)) {
+        Avisar("«" + texto + "» se leyó como " + CStr(Val(texto)) +
+               (texto.find(',') == std::string::npos ? "" : "; el signo decimal es el punto"));
+    }
+}
+
+void GridDatos::Anotar() {
+    if (historia_->Anotar(grdt)) {
+        ++version_;
+    }
+}
+
+void GridDatos::Aplicar(const std::optional<HistoriaGrid::Paso>& paso) {
+    if (!paso) {
+        Avisar("No hay nada más que deshacer ni rehacer");
+        return;
+    }
+    const int filas = grdt.Rows() + static_cast<int>(paso->despues.size()) - static_cast<int>(paso->antes.size());
+    std::vector<HistoriaGrid::Fila> resto = paso->despues;
+    for (int f = paso->fila + static_cast<int>(paso->antes.size()); f < grdt.Rows(); ++f) {
+        HistoriaGrid::Fila& fila = resto.emplace_back();
+        for (int c = 1; c <= UltimaColumna(); ++c) {
+            fila.push_back(grdt.TextMatrix(f, c));
+        }
+    }
+    grdt.PonerRows(filas);
+    // The cursor first: leaving the entry row empties it.
+    grdt.PonerCelda(std::clamp(paso->filaDespues, 1, filas - 1), std::clamp(paso->columnaDespues, 1, UltimaColumna()));
+    for (int f = paso->fila; f < filas; ++f) {
+        const HistoriaGrid::Fila& fila = resto[static_cast<std::size_t>(f - paso->fila)];
+        for (int c = 1; c <= UltimaColumna(); ++c) {
+            grdt.PonerTextMatrix(
+                f, c, static_cast<std::size_t>(c) <= fila.size() ? fila[static_cast<std::size_t>(c - 1)] : "");
+        }
+    }
+    RenumerarGrid();
+    Marcar(EnFilaEntrada() ? kMarcaEntrada : kMarcaEspera);
+    historia_->Acordar(grdt);
+    ++version_;
+}
+
+void GridDatos::Pegar(const std::string& texto) {
+    const Bloque bloque = SepararBloque(texto);
+    const LecturaBloque lectura = LeerBloque(bloque);
+    if (bloque.size() <= lectura.encabezados) {
+        Avisar("El portapapeles no tiene datos que pegar");
+        return;
+    }
+    SignoDecimal signo = SignoDecimal::Punto;
+    if (lectura.signo) {
+        signo = *lectura.signo;
+    } else if (!app_.Sistema().Preguntar("«" + lectura.dudoso +
+                                             "» puede leerse de dos maneras.\n\n¿El punto es el signo "
+                                             "decimal de los datos copiados?",
+                                         "Pegar datos")) {
+        signo = SignoDecimal::Coma;
+    }
+    const int columna = grdt.Col(), primera = grdt.Row(), filas = static_cast<int>(bloque.size() - lectura.encabezados);
+    const int nuevas = std::max(0, primera + filas - FilaEntrada());
+    int ajenas = 0, sobran = 0;
+    grdt.PonerRows(grdt.Rows() + nuevas);
+    for (int i = 0; i < filas; ++i) {
+        const std::vector<std::string>& celdas = bloque[static_cast<std::size_t>(i) + lectura.encabezados];
+        const int fila = primera + i;
+        for (std::size_t k = 0; k < celdas.size(); ++k) {
+            const int c = columna + static_cast<int>(k);
+            if (c > UltimaColumna()) {
+                sobran += celdas[k].empty() ? 0 : 1;
+                continue;
+            }
+            const auto numero = LeerNumero(celdas[k], signo);
+            ajenas += numero || celdas[k].empty() ? 0 : 1;
+            grdt.PonerTextMatrix(fila, c, Format(Val(numero.value_or(celdas[k])), kPatronEdicionA));
+        }
+        for (int c = 1; fila >= FilaEntrada() - nuevas && c <= UltimaColumna(); ++c) {
+            grdt.PonerTextMatrix(fila, c, Format(Val(grdt.TextMatrix(fila, c)), kPatronEdicionB));
+        }
+    }
+    RenumerarGrid();
+    grdt.PonerCelda(std::min(primera + filas, FilaEntrada()), nuevas > 0 ? 1 : columna);
+    Marcar(EnFilaEntrada() ? kMarcaEntrada : kMarcaEspera);
+    std::string aviso = "Se pegaron " + std::to_string(filas) + (filas == 1 ? " fila" : " filas");
+    aviso += lectura.encabezados > 0 ? "; el encabezado quedó fuera" : "";
+    aviso += ajenas > 0 ? "; " + std::to_string(ajenas) + " celdas que no son números cuentan como 0" : "";
+    aviso += sobran > 0 ? "; " + std::to_string(sobran) + " celdas no tienen columna y quedaron fuera" : "";
+    Avisar(aviso);
+}
+
+void GridDatos::AvanzarPorTabulador() {
+    if (EnFilaEntrada()) {
+        ConfirmarCelda();
+        return;
+    }
+    DecirLectura(txtt.Text);
+    txtt.Text = Format(Val(txtt.Text()), kPatronEdicionA);
+    grdt.SetFocus();
+    app_.DoEvents();
+    const bool ultima = grdt.Col() == UltimaColumna();
+    grdt.PonerCelda(grdt.Row() + (ultima ? 1 : 0), ultima ? 1 : grdt.Col() + 1);
+}
+
 void GridDatos::txtt_KeyDown(int codigo) {
     switch (codigo) {
+        case kTeclaTab:
+            AvanzarPorTabulador();
+            break;
         case kTeclaEscape:
             txtt.Visible = false;
             grdt.SetFocus();
             break;
         case kTeclaAbajo:
+            DecirLectura(txtt.Text);
             grdt.SetFocus();
             app_.DoEvents();
             if (grdt.Row() < FilaEntrada()) {
@@ -238,6 +402,7 @@ void GridDatos::txtt_KeyDown(int codigo) {
             }
             break;
         case kTeclaArriba:
+            DecirLectura(txtt.Text);
             grdt.SetFocus();
             app_.DoEvents();
             if (grdt.Row() > grdt.FixedRows()) {

@@ -1,13 +1,17 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "frame/controles/controles.h"
 #include "frame/controles/disposicion.h"
 #include "frame/controles/flexgrid.h"
+#include "frame/modulo/avisos.h"
 #include "frame/modulo/formatoserie.h"
+#include "frame/modulo/historiagrid.h"
 
 namespace cuencalia {
 
@@ -41,6 +45,7 @@ class GridDatos {
     TextBox txtt;
     Label Label2, Label1;
     Menu mnuEdicion, mnuEditInsertar, mnuEditraya1, mnuEditEliminar;
+    Menu mnuEditraya2, mnuEditDeshacer, mnuEditRehacer, mnuEditCopiar, mnuEditPegar;
 
     /// Number of data rows.
     int Filas() const { return grdt.Rows() - 2; }
@@ -61,6 +66,18 @@ class GridDatos {
     void MenorQue4Celdas() { IrACeldaPorLlenar(4); }
     void MenorQue5Celdas() { IrACeldaPorLlenar(5); }
 
+    /// Undoes or redoes the last act on the data.
+    void Deshacer() { Aplicar(historia_->Deshacer()); }
+    void Rehacer() { Aplicar(historia_->Rehacer()); }
+    /// Writes cells copied from a sheet, from the current cell on; rows beyond the data are committed as typing does.
+    void Pegar(const std::string& texto);
+    /// Stores the text of the edit box in its cell, as it was typed.
+    void GuardarEdicion();
+    /// Called when an event has ended: its changes of the data become one step of the history.
+    void Anotar();
+    /// Grows with each change of the data.
+    int Version() const { return version_; }
+
     /// Gives the grid as many data rows as are to be loaded; the loader labels each row before it fills it.
     void EmpezarCarga(int filas) { grdt.PonerRows(filas + 2); }
     void RotularFila(int fila) { grdt.PonerTextMatrix(fila, 0, descripcion_.etiqueta(fila)); }
@@ -78,13 +95,23 @@ class GridDatos {
     void IrACeldaPorLlenar(int k);
 
     void grdt_GotFocus();
+    void grdt_KeyDown(int codigo);
     void grdt_KeyPress(int& keyAscii);
     void grdt_MouseDown(int boton);
     void OcultarEdicion();
     void txtt_KeyDown(int codigo);
+    void Aplicar(const std::optional<HistoriaGrid::Paso>& paso);
+    void VaciarSeleccion();
+    /// Says so where Val does not read the whole of what was typed.
+    void DecirLectura(const std::string& texto);
+    void AvanzarPorTabulador();
+    void Avisar(const std::string& aviso) { estado_.PonerPanel(kPanelAvisos, aviso); }
 
     Aplicacion& app_;
+    StatusBar& estado_;
     DescripcionGrid descripcion_;
+    std::shared_ptr<HistoriaGrid> historia_;
+    int version_ = 0;
 };
 
 }  // namespace cuencalia

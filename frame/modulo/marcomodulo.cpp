@@ -37,13 +37,19 @@ void MarcoModulo::Form_Load() {
 }
 
 void MarcoModulo::bCalcular_Click() {
-    if (!fallo_) {
-        Calcular();
-        return;
-    }
+    const int mensajes = App().Globales().mensajes;
     try {
         Calcular();
-    } catch (const ErrorEjecucion&) {
+        if (App().Globales().mensajes == mensajes) {
+            AlCalcular();
+        }
+    } catch (const ErrorEjecucion& error) {
+        if (const std::string consejo = Consejo(error); !consejo.empty()) {
+            StatusBar1.PonerPanel(kPanelAvisos, consejo);
+        }
+        if (!fallo_) {
+            throw;
+        }
         AlFallar();
     }
 }

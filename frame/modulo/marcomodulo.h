@@ -28,7 +28,7 @@ class MarcoModulo : public Formulario {
     Frame Frame7{*this, "Frame7", "Archivos y resultados:"};
     Frame fraCalculadora{*this, "fraCalculadora"};
     ImageList ImageList1{*this, "ImageList1"};
-    StatusBar StatusBar1{*this, "StatusBar1", 1};
+    StatusBar StatusBar1{*this, "StatusBar1", 3};
     CommandButton bCalcular{*this, "bCalcular", "Calc&ular", "Efectuar cálculos"};
     CommandButton bLimpiar{*this, "bLimpiar", "&Limpiar", "Limpiar pantalla"};
     CommandButton bImprimir{*this, "bImprimir", "&Imprimir", "Imprimir pantalla"};
@@ -56,7 +56,7 @@ class MarcoModulo : public Formulario {
     /// Empties the window as if it had just been opened.
     virtual void LimpiarModulo() { LimpiarResultados(); }
     /// Empties the result tables and boxes, and whatever else the module clears before it loads data.
-    void LimpiarResultados();
+    virtual void LimpiarResultados();
 
     /// Shows the lit picture of the button, or the normal one.
     void EfectoBoton(CommandButton& boton, bool encendido);
@@ -65,6 +65,10 @@ class MarcoModulo : public Formulario {
 
   protected:
     virtual void Calcular() = 0;
+    /// Called when Calcular has ended without an error or a message.
+    virtual void AlCalcular() {}
+    /// What the user can do about a run-time error that stopped Calcular; empty when nothing is known.
+    virtual std::string Consejo(const ErrorEjecucion& /*error*/) const { return {}; }
     /// Clears what the module has besides result tables and result boxes.
     virtual void LimpiarOtros() {}
 

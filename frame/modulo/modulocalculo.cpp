@@ -48,6 +48,33 @@ int ModuloCalculo::FilasMax() const {
     return filas;
 }
 
+void ModuloCalculo::LimpiarResultados() {
+    MarcoModulo::LimpiarResultados();
+    calculadaCon_.reset();
+}
+
+void ModuloCalculo::DespuesDeEvento() {
+    datos.Anotar();
+    const bool anteriores = calculadaCon_ && *calculadaCon_ != datos.Version();
+    StatusBar1.PonerPanel(kPanelDatos, "n = " + std::to_string(datos.Filas()) +
+                                           (anteriores ? " · los resultados son anteriores a los datos" : ""));
+}
+
+std::string ModuloCalculo::Consejo(const ErrorEjecucion& error) const {
+    switch (error.Numero()) {
+        case kSubindiceFuera:
+            return datos.Filas() > FilasMax() ? "El módulo admite hasta " + std::to_string(FilasMax()) + " datos" : "";
+        case kDivisionPorCero:
+        case kDesbordamiento:
+        case kArgumentoNoValido:
+            return "Con estos " + std::to_string(datos.Filas()) +
+                   " datos el cálculo no es posible: revisar que no sean muy pocos, iguales entre sí, ceros o "
+                   "negativos";
+        default:
+            return "";
+    }
+}
+
 void ModuloCalculo::LimpiarModulo() {
     datos.IniciarGrid();
     LimpiarResultados();

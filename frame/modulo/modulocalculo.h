@@ -35,6 +35,9 @@ class ModuloCalculo : public MarcoModulo {
     /// Reads the grid into the module's arrays and sets `n`. Error 9 when the rows exceed an array.
     virtual void CargarMatrices();
     void LimpiarModulo() override;
+    void LimpiarResultados() override;
+    void AntesDeOrden() override { datos.GuardarEdicion(); }
+    void DespuesDeEvento() override;
 
     /// Record i of a series file, from the arrays. Error 6 for a value beyond the range of a Single.
     Registro RegistroDe(int i) const;
@@ -51,6 +54,8 @@ class ModuloCalculo : public MarcoModulo {
     using Matriz = std::variant<ArregloBase<Double>*, ArregloBase<Single>*>;
     void LeerEn(std::vector<Matriz> columnas) { columnas_ = std::move(columnas); }
 
+    void AlCalcular() override { calculadaCon_ = datos.Version(); }
+    std::string Consejo(const ErrorEjecucion& error) const override;
     std::vector<BotonConImagen> BotonesResultados() override;
     std::vector<Disposicion> ZonaResultados() override;
 
@@ -61,6 +66,7 @@ class ModuloCalculo : public MarcoModulo {
 
   private:
     std::vector<Matriz> columnas_;
+    std::optional<int> calculadaCon_;  ///< Version of the data that gave the results shown.
 };
 
 }  // namespace cuencalia
