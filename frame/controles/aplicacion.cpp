@@ -52,7 +52,7 @@ void Aplicacion::Proteger(const std::function<void()>& accion) {
 }
 
 void Aplicacion::Despachar(const std::function<void()>& accion) {
-    if (terminada_) {
+    if (terminada_ || plataforma_.Bloqueada()) {
         return;
     }
     {

@@ -39,7 +39,8 @@ class Aplicacion {
 
     /// Runs `accion`, the response to an event from outside (a key, a click, a window). A run-time error that no
     /// handler caught ends the handler at the failing statement and is shown to the user; the program goes on. Any
-    /// other exception is treated likewise. Pending focus changes are delivered at the end.
+    /// other exception is treated likewise. Pending focus changes are delivered at the end. An event that arrives while
+    /// a message box or a dialog is open is ignored.
     void Despachar(const std::function<void()>& accion);
     /// Delivers the pending focus changes in order: lost-focus of the old control, got-focus of the new one.
     void DoEvents();

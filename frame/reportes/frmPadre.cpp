@@ -1,5 +1,7 @@
 #include "frame/reportes/frmPadre.h"
 
+#include <cmath>
+
 #include "frame/base/textos.h"
 
 namespace cuencalia {
@@ -16,6 +18,21 @@ const Ajuste kAjustes[] = {{"MainLeft", &frmPadre::Left, "1000"},
                            {"MainTop", &frmPadre::Top, "1000"},
                            {"MainWidth", &frmPadre::Width, "6500"},
                            {"MainHeight", &frmPadre::Height, "6500"}};
+
+/// A setting that is no length of a screen counts as absent, and is mended.
+double LeerLugar(Plataforma& sistema, const Ajuste& ajuste) {
+    constexpr double kMaxTwips = 1e6;
+    try {
+        const double twips = CSng(Val(sistema.LeerAjuste(ajuste.clave, ajuste.porOmision))).valor();
+        if (std::abs(twips) <= kMaxTwips) {
+            return twips;
+        }
+    } catch (const ErrorEjecucion&) {
+        // A number beyond a Single: mended below.
+    }
+    sistema.GuardarAjuste(ajuste.clave, ajuste.porOmision);
+    return Val(ajuste.porOmision).valor();
+}
 
 }  // namespace
 
@@ -38,7 +55,7 @@ frmPadre::frmPadre(Aplicacion& app) : Formulario(app, "frmPadre", "Guardar datos
 
 void frmPadre::Form_Load() {
     for (const Ajuste& ajuste : kAjustes) {
-        this->*ajuste.propiedad = CSng(Val(App().Sistema().LeerAjuste(ajuste.clave, ajuste.porOmision))).valor();
+        this->*ajuste.propiedad = LeerLugar(App().Sistema(), ajuste);
     }
     nuevodoc();
 }
