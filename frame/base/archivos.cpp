@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <cstdlib>
 
 #include "frame/base/errores.h"
 
@@ -51,6 +53,24 @@ fs::path CarpetaDe(const fs::path& ruta) { return ruta.has_parent_path() ? ruta.
 bool LoImpideLaCarpeta(int causa) {
     constexpr std::array kCausas{EACCES, EPERM, EROFS, EBUSY, EXDEV};
     return std::find(kCausas.begin(), kCausas.end(), causa) != kCausas.end();
+}
+
+constexpr const char* kPrefijoProvisional = ".cuencalia-";
+
+/// Removes the temporary files of programs that were killed: those whose name has the number of a process that no
+/// longer exists.
+void BarrerProvisionales(const fs::path& carpeta) {
+    std::error_code error;
+    for (fs::directory_iterator i(carpeta, error), fin; !error && i != fin; i.increment(error)) {
+        const std::string nombre = i->path().filename().string();
+        const std::string prefijo = kPrefijoProvisional;
+        if (nombre.starts_with(prefijo)) {
+            const int proceso = std::atoi(nombre.c_str() + prefijo.size());
+            if (proceso > 0 && ::kill(proceso, 0) != 0 && errno == ESRCH) {
+                ::unlink(i->path().c_str());
+            }
+        }
+    }
 }
 
 /// Flushes the folder to the disk, so that the renaming of a file survives a crash. Failures are ignored: some file
@@ -101,7 +121,8 @@ std::string LeerArchivo(const std::string& ruta, std::size_t maximo) {
     return contenido;
 }
 
-ReemplazoDeArchivo::ReemplazoDeArchivo(const std::string& ruta) : destino_(SeguirEnlaces(ruta)) {
+ReemplazoDeArchivo::ReemplazoDeArchivo(const std::string& ruta, bool conservar)
+    : destino_(SeguirEnlaces(ruta)), conservar_(conservar) {
     viejo_ = Abrir(destino_, O_WRONLY);
     if (destino_.empty() || (viejo_ == nullptr && errno != ENOENT)) {
         FallarPorSistema(errno, UsoArchivo::kEscribir);
@@ -130,7 +151,8 @@ void ReemplazoDeArchivo::CrearProvisional(const fs::path& carpeta) {
     // While it is being written, the new version of an existing file is readable by its owner only: the existing file
     // may be private.
     const mode_t permisos = viejo_ == nullptr ? 0666 : 0600;
-    const std::string nombre = ".cuencalia-" + std::to_string(::getpid()) + "-";
+    BarrerProvisionales(carpeta);
+    const std::string nombre = kPrefijoProvisional + std::to_string(::getpid()) + "-";
     for (int i = 0; i < kIntentos && nuevo_ == nullptr; ++i) {
         const std::string ruta = carpeta / (nombre + std::to_string(i));
         nuevo_ = Abrir(ruta, O_WRONLY | O_CREAT | O_EXCL, permisos);
@@ -163,6 +185,9 @@ void ReemplazoDeArchivo::Publicar() {
         std::fclose(nuevo_.release()) != 0) {
         FallarPorSistema(errno, UsoArchivo::kEscribir);
     }
+    if (conservar_ && viejo_ != nullptr && DatosDe(viejo_).st_size > 0) {
+        ConservarViejo();
+    }
     if (::rename(provisional_.c_str(), destino_.c_str()) == 0) {
         provisional_.clear();
         SincronizarCarpeta(CarpetaDe(destino_));
@@ -170,6 +195,14 @@ void ReemplazoDeArchivo::Publicar() {
         CopiarAlViejo();
     } else {
         FallarPorSistema(errno, UsoArchivo::kEscribir);
+    }
+}
+
+void ReemplazoDeArchivo::ConservarViejo() const {
+    const std::string enlace = provisional_ + "~";
+    if (::link(destino_.c_str(), enlace.c_str()) == 0 &&
+        ::rename(enlace.c_str(), (destino_.string() + "~").c_str()) != 0) {
+        ::unlink(enlace.c_str());
     }
 }
 

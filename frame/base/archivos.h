@@ -36,9 +36,10 @@ using ArchivoAbierto = std::unique_ptr<std::FILE, CerrarArchivo>;
 /// overwritten, so a full disk leaves the old file unchanged; a power cut during the copy would not.
 class ReemplazoDeArchivo {
   public:
-    /// Prepares the replacement of `ruta`, which is neither created nor emptied yet. Error 76: no such folder; 75: the
-    /// file may not be written, or is not a regular file; 61: the disk is full.
-    explicit ReemplazoDeArchivo(const std::string& ruta);
+    /// Prepares the replacement of `ruta`, which is neither created nor emptied yet. With `conservar` the old contents
+    /// are kept beside it under the same name with "~" appended. Error 76: no such folder; 75: the file may not be
+    /// written, or is not a regular file; 61: the disk is full.
+    explicit ReemplazoDeArchivo(const std::string& ruta, bool conservar = false);
     ~ReemplazoDeArchivo();
     ReemplazoDeArchivo(const ReemplazoDeArchivo&) = delete;
     ReemplazoDeArchivo& operator=(const ReemplazoDeArchivo&) = delete;
@@ -56,11 +57,14 @@ class ReemplazoDeArchivo {
 
   private:
     void CrearProvisional(const std::filesystem::path& carpeta);
+    /// Gives the old file its second name; without one, where the file system knows no links, there is no copy.
+    void ConservarViejo() const;
     void CopiarAlViejo();
 
     std::filesystem::path destino_;  ///< `ruta` with its symbolic links followed.
     std::string provisional_;        ///< Path of the temporary file; empty when there is none to delete.
-    ArchivoAbierto viejo_;           ///< The file to be replaced; null when there is none.
+    bool conservar_;
+    ArchivoAbierto viejo_;  ///< The file to be replaced; null when there is none.
     ArchivoAbierto nuevo_;
 };
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "frame/base/archivos.h"
 #include "frame/base/numeros.h"
 
 namespace cuencalia {
@@ -29,21 +30,20 @@ class LectorSerie {
     Integer registros_;
 };
 
-/// Writes such a file. Opening it empties an existing file. The records written so far stay in the file when writing
-/// stops early.
+/// Writes such a file. It replaces an existing file when it is published; until then the old file is unchanged, and
+/// afterwards its contents stay beside the new one under the same name with "~" appended.
 class EscritorSerie {
   public:
-    /// Error 53: empty name; 76: no such folder; 75: no access.
+    /// Error 53: empty name; 76: no such folder; 75: no access; 61: the disk is full.
     EscritorSerie(const std::string& ruta, int valores);
-    ~EscritorSerie();
-    EscritorSerie(const EscritorSerie&) = delete;
-    EscritorSerie& operator=(const EscritorSerie&) = delete;
 
     /// Error 61: the disk is full; 75: any other failure.
     void Escribir(const Registro& registro);
+    /// The file is complete. Errors as Escribir.
+    void Publicar() { archivo_.Publicar(); }
 
   private:
-    int archivo_;
+    ReemplazoDeArchivo archivo_;
     int valores_;
 };
 

@@ -1,6 +1,8 @@
 #include "frame/modulo/comandosarchivo.h"
 
 #include <cmath>
+#include <optional>
+#include <vector>
 
 #include "frame/base/textos.h"
 #include "frame/modulo/modulocalculo.h"
@@ -71,13 +73,30 @@ void ComandosArchivo::bCrear_Click() {
         cdCrear.ShowSave();
         modulo_.App().Globales().NombreArchivo = cdCrear.FileName;
         modulo_.CargarMatrices();
-        EscritorSerie archivo(cdCrear.FileName, formato_->valores);
-        for (int i = 1; i <= modulo_.n; ++i) {
-            archivo.Escribir(modulo_.RegistroDe(i));
+        // What cannot be a Single ends the file where it stands, as does the end of the data.
+        std::vector<Registro> registros;
+        std::optional<ErrorEjecucion> fallo;
+        try {
+            for (int i = 1; i <= modulo_.n; ++i) {
+                registros.push_back(modulo_.RegistroDe(i));
+            }
+            for (const Registro& registro : modulo_.RegistrosDeCola()) {
+                registros.push_back(registro);
+            }
+        } catch (const ErrorEjecucion& error) {
+            fallo = error;
         }
-        for (const Registro& registro : modulo_.RegistrosDeCola()) {
+        EscritorSerie archivo(cdCrear.FileName, formato_->valores);
+        for (const Registro& registro : registros) {
             archivo.Escribir(registro);
         }
+        archivo.Publicar();
+        if (fallo) {
+            Avisar("El valor " + std::to_string(registros.size() + 1) +
+                   " no cabe en un archivo de serie: se guardaron los anteriores");
+            throw *fallo;
+        }
+        Avisar("Se guardaron " + std::to_string(modulo_.n) + " registros en " + cdCrear.FileName);
     });
 }
 

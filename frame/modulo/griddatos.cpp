@@ -364,10 +364,18 @@ void GridDatos::Pegar(const std::string& texto) {
     RenumerarGrid();
     grdt.PonerCelda(std::min(primera + filas, FilaEntrada()), nuevas > 0 ? 1 : columna);
     Marcar(EnFilaEntrada() ? kMarcaEntrada : kMarcaEspera);
-    std::string aviso = "Se pegaron " + std::to_string(filas) + (filas == 1 ? " fila" : " filas");
+    const auto cuantos = [](int cuenta, const char* una, const char* varias) {
+        return std::to_string(cuenta) + (cuenta == 1 ? una : varias);
+    };
+    std::string aviso = "Pegado: " + cuantos(filas, " fila", " filas");
     aviso += lectura.encabezados > 0 ? "; el encabezado quedó fuera" : "";
-    aviso += ajenas > 0 ? "; " + std::to_string(ajenas) + " celdas que no son números cuentan como 0" : "";
-    aviso += sobran > 0 ? "; " + std::to_string(sobran) + " celdas no tienen columna y quedaron fuera" : "";
+    if (ajenas > 0) {
+        aviso += "; " + cuantos(ajenas, " celda que no es un número cuenta", " celdas que no son números cuentan") +
+                 " como 0";
+    }
+    if (sobran > 0) {
+        aviso += "; " + cuantos(sobran, " celda sin columna quedó", " celdas sin columna quedaron") + " fuera";
+    }
     Avisar(aviso);
 }
 

@@ -143,7 +143,7 @@ void EditorTextoRico::LoadFile(const std::string& ruta) {
 }
 
 void EditorTextoRico::SaveFile(const std::string& ruta) const {
-    ReemplazoDeArchivo archivo(ruta);
+    ReemplazoDeArchivo archivo(ruta, true);
     archivo.Escribir(EscribirRtf(documento_, ClaseRtf::kDocumento));
     archivo.Publicar();
 }

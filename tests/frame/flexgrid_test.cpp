@@ -156,19 +156,61 @@ TEST_F(FlexGridTest, DesplazamientoYSeleccion) {
 
 TEST_F(FlexGridTest, TeclasMuevenLaCeldaYLaDejanALaVista) {
     g.PonerFilasVisibles(5);
-    app.Despachar([&] { g.SetFocus(); });
-    using Caso = std::tuple<int, int, const char*>;
-    static constexpr Caso kCasos[] = {{kTeclaArriba, 1, "1,1"},  {kTeclaIzquierda, 1, "1,1"}, {kTeclaAbajo, 8, "9,1"},
-                                      {kTeclaDerecha, 5, "9,3"}, {kTeclaFin, 1, "19,3"},      {kTeclaAbajo, 1, "19,3"},
-                                      {kTeclaRePag, 1, "15,3"},  {kTeclaAvPag, 2, "19,3"},    {kTeclaRePag, 2, "11,3"},
-                                      {kTeclaInicio, 1, "1,3"},  {kTeclaF2, 1, "1,3"}};
-    for (const auto& [tecla, veces, celda] : kCasos) {
-        for (int i = 0; i < veces; ++i) {
-            app.PulsarTecla(tecla, 0);
-            EXPECT_TRUE(g.Row() >= g.TopRow() && g.Row() < g.TopRow() + 5) << tecla;
-        }
-        EXPECT_EQ(Celda(), celda) << tecla;
+    for (int f = 1; f < 12; ++f) {
+        g.PonerTextMatrix(f, 2, std::to_string(f));
     }
+    app.Despachar([&] { g.SetFocus(); });
+    constexpr int kAmbas = kControl | kMayusculas;
+    struct Caso {
+        int tecla, modificadores, veces;
+        const char* seleccion;
+    };
+    static constexpr Caso kCasos[] = {
+        {kTeclaArriba, 0, 1, "1,1 a 1,1"},
+        {kTeclaIzquierda, 0, 1, "1,1 a 1,1"},
+        {kTeclaAbajo, 0, 8, "9,1 a 9,1"},
+        {kTeclaDerecha, 0, 5, "9,3 a 9,3"},
+        {kTeclaInicio, 0, 1, "9,1 a 9,1"},
+        {kTeclaFin, 0, 1, "9,3 a 9,3"},
+        {kTeclaFin, kControl, 1, "19,3 a 19,3"},
+        {kTeclaRePag, 0, 1, "15,3 a 15,3"},
+        {kTeclaAvPag, 0, 2, "19,3 a 19,3"},
+        {kTeclaInicio, kControl, 1, "1,1 a 1,1"},
+        {kTeclaAbajo, kControl, 1, "19,1 a 19,1"},
+        {kTeclaArriba, kControl, 1, "1,1 a 1,1"},
+        {kTeclaDerecha, kControl, 1, "1,2 a 1,2"},
+        {kTeclaAbajo, kControl, 1, "11,2 a 11,2"},
+        {kTeclaAbajo, kControl, 1, "19,2 a 19,2"},
+        {kTeclaArriba, kControl, 1, "11,2 a 11,2"},
+        {kTeclaArriba, kMayusculas, 2, "11,2 a 9,2"},
+        {kTeclaDerecha, kMayusculas, 1, "11,2 a 9,3"},
+        {kTeclaInicio, kAmbas, 1, "11,2 a 1,1"},
+        {kTeclaAvPag, kMayusculas, 1, "11,2 a 5,1"},
+        {kTeclaAbajo, 0, 1, "12,2 a 12,2"},
+        {'A', kControl, 1, "1,1 a 19,3"},
+        {kTeclaF2, 0, 1, "1,1 a 19,3"},
+    };
+    for (const Caso& caso : kCasos) {
+        for (int i = 0; i < caso.veces; ++i) {
+            app.PulsarTecla(caso.tecla, 0, caso.modificadores);
+        }
+        EXPECT_EQ(Seleccion(), caso.seleccion) << caso.tecla << " " << caso.modificadores;
+        const int extremo = caso.tecla == 'A' || caso.tecla == kTeclaF2 ? g.TopRow() : g.RowSel();
+        EXPECT_TRUE(extremo >= g.TopRow() && extremo < g.TopRow() + 5) << caso.tecla;
+    }
+    // From the last row upwards: leaving it would empty a row half typed.
+    g.PonerCelda(19, 2);
+    app.PulsarTecla('A', 0, kControl);
+    EXPECT_EQ(Seleccion(), "19,1 a 1,3");
+
+    g.PonerEncabezados({"N°", "A", "B"});
+    g.PonerTextMatrix(2, 0, " 2");
+    g.PonerCelda(2, 2);
+    g.Seleccionar(3, 1);
+    app.PulsarTecla('C', 0, kControl);
+    EXPECT_EQ(sistema.portapapeles, "\t2\n\t3\n");
+    EXPECT_EQ(g.TextoSeleccionado(true), "N°\tA\tB\n2\t\t2\n\t\t3\n");
+
     g.PonerRows(1);
     app.PulsarTecla(kTeclaAbajo, 0);
     EXPECT_EQ(g.Row(), 0) << "a grid with nothing but its heading";

@@ -99,7 +99,7 @@ TEST(GuionTest, OrdenesYLoQueImprimen) {
         {"ver lblDato bCalcular opt2 FrameO frmGuion mnuAviso txtDigitos StatusBar1 grdt",
          Texto("lblDato", "dato") + Texto("bCalcular", "Calc&ular") + Texto("opt2", "Dos") +
              Texto("FrameO", "Opciones:") + Texto("frmGuion", "Módulo de prueba") + Texto("mnuAviso", "Aviso") +
-             Texto("txtDigitos", "") + Texto("StatusBar1", "") + vacia},
+             Texto("txtDigitos", "") + R"({"control":"StatusBar1","paneles":["","","n = 0"]})" + "\n" + vacia},
         {"estado grdt opt1 bOculto bGris txtPagina",
          Estado("grdt", R"(true,"habilitado":true,"foco":true,"Row":1,"Col":1,"TopRow":1)") +
              Estado("opt1", R"(true,"habilitado":true,"valor":true,"foco":false)") +
