@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -21,6 +22,22 @@
 #include "escritorio/vistagrid.h"
 
 namespace cuencalia {
+
+namespace {
+
+/// Counts a box or a dialog for as long as it is open.
+class Espera {
+  public:
+    explicit Espera(int& cajas) : cajas_(cajas) { ++cajas_; }
+    ~Espera() { --cajas_; }
+    Espera(const Espera&) = delete;
+    Espera& operator=(const Espera&) = delete;
+
+  private:
+    int& cajas_;
+};
+
+}  // namespace
 
 Escritorio::Escritorio(TablaFormas formas) : app_(std::make_unique<Aplicacion>(*this, std::move(formas))) {}
 
@@ -69,6 +86,7 @@ void Escritorio::DarFoco() {
 
 void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string& titulo) {
     Pintar();
+    const Espera espera(cajas_);
     QMessageBox caja(QApplication::activeWindow());
     caja.setIcon(icono == kIconoError         ? QMessageBox::Critical
                  : icono == kIconoPregunta    ? QMessageBox::Question
@@ -79,6 +97,16 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
     caja.setTextFormat(Qt::PlainText);
     caja.setText(Q(texto));
     caja.exec();
+}
+
+bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo) {
+    Pintar();
+    const Espera espera(cajas_);
+    QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::Yes | QMessageBox::No,
+                     QApplication::activeWindow());
+    caja.setTextFormat(Qt::PlainText);
+    caja.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
+    return caja.exec() == QMessageBox::Yes;
 }
 
 void Escritorio::MostrarError(const ErrorEjecucion& error) {
@@ -144,12 +172,14 @@ void Escritorio::MenuEmergente(Menu& menu) {
 
 void Escritorio::ImprimirForma(Formulario& forma) {
     if (const auto hallada = ventanas_.find(&forma); hallada != ventanas_.end()) {
+        const Espera espera(cajas_);
         ImprimirImagen(*this, *hallada->second);
     }
 }
 
 void Escritorio::ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) {
     Pintar();
+    const Espera espera(cajas_);
     for (Control* control : documento.Controles()) {
         if (auto* caja = dynamic_cast<RichTextBox*>(control)) {
             ImprimirTexto(caja->Leer(), soloSeleccion, Q(titulo), Q(documento.Caption));
@@ -199,6 +229,7 @@ void Escritorio::ElegirArchivo(ModoArchivo modo, const std::string& titulo, cons
         const bool yaDicho = partes[i].contains(partes[i + 1]);
         filtros << (yaDicho ? partes[i] : QStringLiteral("%1 (%2)").arg(partes[i], partes[i + 1]));
     }
+    const Espera espera(cajas_);
     QFileDialog dialogo(QApplication::activeWindow(), Q(titulo), QString(), filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(modo == ModoArchivo::Guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(modo == ModoArchivo::Guardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -30,6 +30,8 @@ class Escritorio : public Plataforma {
     void Pintar();
 
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
+    bool Preguntar(const std::string& texto, const std::string& titulo) override;
+    bool Bloqueada() const override { return cajas_ > 0; }
     void MostrarError(const ErrorEjecucion& error) override;
     void MostrarForma(Formulario& forma) override;
     void DescargarForma(Formulario& forma) override;
@@ -60,6 +62,7 @@ class Escritorio : public Plataforma {
     std::vector<Vista*> sucias_;
     LibrosDeCalculo libros_;
     bool pintando_ = false;
+    int cajas_ = 0;  ///< Message boxes and dialogs that wait for the user.
 };
 
 }  // namespace cuencalia

@@ -160,6 +160,7 @@ void Aplicar(QApplication& app, Esquema esquema) {
     app.setStyleSheet(Hoja());
 }
 
+QColor FondoAviso() { return colores.base == kOscuro.base ? QColor(0x5a, 0x44, 0x12) : QColor(0xff, 0xe9, 0xb8); }
 QColor Linea() { return colores.linea; }
 QColor TextoTenue() { return colores.tenue; }
 

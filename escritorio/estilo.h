@@ -24,6 +24,7 @@ enum class Esquema { Claro, Oscuro };
 void Aplicar(QApplication& app);
 void Aplicar(QApplication& app, Esquema esquema);
 
+QColor FondoAviso();  ///< Of a cell that the user is to look at.
 QColor Linea();       ///< Grid lines and borders.
 QColor TextoTenue();  ///< Colour of notes.
 

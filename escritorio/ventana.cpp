@@ -112,7 +112,7 @@ void LlenarMenu(Escritorio& escritorio, QMenu& menu, const Menu& modelo) {
         if (entrada->Entradas().empty()) {
             accion = menu.addAction(QString());
             QObject::connect(accion, &QAction::triggered, accion,
-                             [&escritorio, entrada] { escritorio.App().Despachar([entrada] { entrada->Elegir(); }); });
+                             [&escritorio, entrada] { escritorio.App().Elegir(*entrada); });
         } else {
             QMenu* submenu = menu.addMenu(QString());
             LlenarMenu(escritorio, *submenu, *entrada);
@@ -199,6 +199,10 @@ void Ventana::Soltar() {
 }
 
 void Ventana::closeEvent(QCloseEvent* evento) {
+    if (forma_ != nullptr && escritorio_.Bloqueada()) {
+        evento->ignore();
+        return;
+    }
     evento->accept();
     if (forma_ != nullptr) {
         escritorio_.App().CerrarVentana(*forma_);

@@ -143,6 +143,8 @@ int CodigoDeTecla(const QKeyEvent& evento) {
             return kTeclaAbajo;
         case Qt::Key_Delete:
             return kTeclaSuprimir;
+        case Qt::Key_Tab:
+            return kTeclaTab;
         case Qt::Key_F2:
             return kTeclaF2;
         default:
@@ -161,9 +163,19 @@ int CaracterDe(const QKeyEvent& evento) {
     if (codigo == kTeclaRetroceso || codigo == kTeclaEnter || codigo == kTeclaEscape) {
         return codigo;
     }
+    // The number pad of a Spanish keyboard writes a comma, which ends a number.
+    if ((evento.modifiers() & Qt::KeypadModifier) &&
+        (evento.key() == Qt::Key_Comma || evento.key() == Qt::Key_Period)) {
+        return '.';
+    }
     const QList<uint> codigos = evento.text().toUcs4();
     const bool imprimible = codigos.size() == 1 && codigos[0] >= kTeclaEspacio && codigos[0] != 127;
     return imprimible ? static_cast<int>(codigos[0]) : 0;
+}
+
+int ModificadoresDe(const QKeyEvent& evento) {
+    return (evento.modifiers() & Qt::ShiftModifier ? kMayusculas : kSinModificador) +
+           (evento.modifiers() & Qt::ControlModifier ? kControl : kSinModificador);
 }
 
 bool EsOrden(const QKeyEvent& evento) {

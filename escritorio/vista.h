@@ -55,6 +55,8 @@ class Vista : public QObject, public VistaControl {
 /// The KeyDown code of the key event, and its character (0: none).
 int CodigoDeTecla(const QKeyEvent& evento);
 int CaracterDe(const QKeyEvent& evento);
+/// The modifier keys held down with it, as Aplicacion::PulsarTecla takes them.
+int ModificadoresDe(const QKeyEvent& evento);
 /// True for keys pressed with Control or Alt, which are commands; AltGr types characters.
 bool EsOrden(const QKeyEvent& evento);
 

@@ -45,34 +45,40 @@ class VistaEstado : public Vista {
     VistaEstado(Escritorio& escritorio, StatusBar& barra, QLabel* texto)
         : Vista(escritorio, barra, texto), barra_(barra), texto_(texto) {
         texto_->setProperty("papel", QStringLiteral("estado"));
-        if (barra.Paneles() == 1) {
-            return;
-        }
         // The first panel is at the left end, the others at the right end.
         auto* fila = new QHBoxLayout(texto_);
         fila->setContentsMargins(0, 0, 0, 0);
-        fila->addStretch(1);
-        for (int i = 2; i <= barra.Paneles(); ++i) {
+        fila->setSpacing(estilo::kMargen);
+        for (int i = 1; i <= barra.Paneles(); ++i) {
             auto* panel = new QLabel(texto_);
             panel->setProperty("papel", QStringLiteral("nota"));
-            fila->addSpacing(estilo::kMargen);
-            fila->addWidget(panel);
-            otros_.push_back(panel);
+            panel->setTextFormat(Qt::PlainText);
+            // What happened may take a long sentence: it has the room that the others leave.
+            const bool intermedio = i > 1 && i < barra.Paneles();
+            if (intermedio) {
+                panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+                panel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            }
+            fila->addWidget(panel, intermedio || barra.Paneles() == 1 ? 1 : 0);
+            paneles_.push_back(panel);
         }
+        texto_->setMinimumHeight(texto_->fontMetrics().height() + estilo::kSeparacion);
     }
 
   protected:
     void Mostrar() override {
-        texto_->setText(Q(barra_.Panel(1)));
-        for (int i = 2; i <= barra_.Paneles(); ++i) {
-            otros_[static_cast<std::size_t>(i) - 2]->setText(Q(barra_.Panel(i)));
+        for (int i = 1; i <= barra_.Paneles(); ++i) {
+            QLabel& panel = *paneles_[static_cast<std::size_t>(i) - 1];
+            const QString texto = Q(barra_.Panel(i));
+            panel.setText(texto);
+            panel.setToolTip(texto);
         }
     }
 
   private:
     StatusBar& barra_;
     QLabel* texto_;
-    std::vector<QLabel*> otros_;
+    std::vector<QLabel*> paneles_;
 };
 
 }  // namespace

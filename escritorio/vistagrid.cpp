@@ -72,6 +72,12 @@ QVariant ModeloGrid::data(const QModelIndex& indice, int rol) const {
             return Q(grid_.TextMatrix(fila, columna));
         case Qt::TextAlignmentRole:
             return QVariant(AlineacionDe(grid_.ColAlignment(columna)));
+        case Qt::BackgroundRole:
+            return grid_.EstaMarcada(fila, columna) ? QVariant(estilo::FondoAviso()) : QVariant();
+        case Qt::ToolTipRole:
+            return grid_.EstaMarcada(fila, columna)
+                       ? QVariant(QStringLiteral("No es un número: cuenta hasta donde se lee, o como 0"))
+                       : QVariant();
         default:
             return {};
     }
@@ -299,29 +305,26 @@ void VistaGrid::Mostrar() {
 }
 
 bool VistaGrid::Tecla(QKeyEvent& evento) {
-    if (evento.matches(QKeySequence::Copy)) {
-        Copiar();
-        return true;
-    }
-    if (EsOrden(evento) || evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) {
+    if (evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab) {
         return false;
     }
     const int codigo = CodigoDeTecla(evento);
+    if (EsOrden(evento)) {
+        static constexpr int kConControl[] = {
+            kTeclaArriba, kTeclaAbajo, kTeclaIzquierda, kTeclaDerecha, kTeclaInicio, kTeclaFin, 'A', 'C', 'V',
+            'Y',          'Z'};
+        const bool nuestra = (evento.modifiers() & Qt::ControlModifier) &&
+                             std::find(std::begin(kConControl), std::end(kConControl), codigo) != std::end(kConControl);
+        if (nuestra) {
+            escritorio_.App().PulsarTecla(codigo, 0, ModificadoresDe(evento));
+        }
+        return nuestra;
+    }
     const int caracter = CaracterDe(evento);
     if (codigo == 0 && caracter == 0) {
         return false;
     }
-    const bool marca = (evento.modifiers() & Qt::ShiftModifier) && caracter == 0;
-    const int df = codigo == kTeclaAbajo ? 1 : codigo == kTeclaArriba ? -1 : 0;
-    const int dc = codigo == kTeclaDerecha ? 1 : codigo == kTeclaIzquierda ? -1 : 0;
-    if (marca && (df != 0 || dc != 0)) {
-        escritorio_.App().Despachar([&] {
-            grid_.Seleccionar(std::max(grid_.RowSel() + df, grid_.FixedRows()),
-                              std::max(grid_.ColSel() + dc, grid_.FixedCols()));
-        });
-        return true;
-    }
-    escritorio_.App().PulsarTecla(codigo, caracter);
+    escritorio_.App().PulsarTecla(codigo, caracter, caracter == 0 ? ModificadoresDe(evento) : kSinModificador);
     return true;
 }
 
@@ -349,20 +352,6 @@ void VistaGrid::MenuDeTeclado() {
     if (grid_.Row() < grid_.Rows()) {
         escritorio_.App().Despachar([&] { grid_.Presionar(kBotonDerecho, grid_.Row(), grid_.Col()); });
     }
-}
-
-void VistaGrid::Copiar() const {
-    QStringList renglones;
-    const auto [f0, f1] = std::minmax({grid_.Row(), grid_.RowSel()});
-    const auto [c0, c1] = std::minmax({grid_.Col(), grid_.ColSel()});
-    for (int f = f0; f <= f1; ++f) {
-        QStringList celdas;
-        for (int c = c0; c <= c1; ++c) {
-            celdas << Q(grid_.TextMatrix(f, c));
-        }
-        renglones << celdas.join(QLatin1Char('\t'));
-    }
-    QApplication::clipboard()->setText(renglones.join(QLatin1Char('\n')));
 }
 
 }  // namespace cuencalia

@@ -78,7 +78,6 @@ class VistaGrid : public Vista {
     bool Presionar(QMouseEvent& evento);
     void Arrastrar(const QMouseEvent& evento);
     void MenuDeTeclado();
-    void Copiar() const;
     QModelIndex Indice(int fila, int columna) const;
 
     FlexGrid& grid_;

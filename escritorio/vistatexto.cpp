@@ -64,7 +64,13 @@ class VistaTexto : public Vista {
     bool Tecla(QKeyEvent& evento) override {
         const bool deMover = evento.key() == Qt::Key_Left || evento.key() == Qt::Key_Right ||
                              evento.key() == Qt::Key_Home || evento.key() == Qt::Key_End;
-        const bool deSalir = evento.key() == Qt::Key_Tab || evento.key() == Qt::Key_Backtab;
+        // In the box over a grid Tab confirms and goes on; elsewhere it leaves the box.
+        const bool deSalir =
+            evento.key() == Qt::Key_Backtab || (evento.key() == Qt::Key_Tab && caja_.Sobre() == nullptr);
+        if (evento.matches(QKeySequence::Paste)) {
+            escritorio_.App().PulsarTecla('V', 0, kControl);
+            return true;
+        }
         if (EsOrden(evento) || deMover || deSalir) {
             return false;
         }
