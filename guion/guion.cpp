@@ -132,6 +132,9 @@ std::string TextoDe(Control& control) {
     if (auto* c = dynamic_cast<Menu*>(&control)) {
         return c->Caption;
     }
+    if (auto* c = dynamic_cast<StatusBar*>(&control)) {
+        return c->Panel(1);
+    }
     if (auto* c = dynamic_cast<Formulario*>(&control)) {
         return c->Caption;
     }
@@ -523,7 +526,9 @@ void Guion::OrdenVer(const Palabras& p) {
             datos = ",\"filas\":" + FilasDe(*grid);
         } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
             datos = DatosDe(*grafico);
-        } else if (const auto* barra = dynamic_cast<StatusBar*>(&control)) {
+        } else if (const auto* barra = dynamic_cast<StatusBar*>(&control);
+                   barra != nullptr && barra->Nombre() == "StatusBar1") {
+            // The report window's bar shows the clock, which a script does not print.
             datos = ",\"paneles\":[";
             for (int panel = 1; panel <= barra->Paneles(); ++panel) {
                 datos += (panel == 1 ? "" : ",") + Json(barra->Panel(panel));

@@ -199,10 +199,18 @@ void ReemplazoDeArchivo::Publicar() {
 }
 
 void ReemplazoDeArchivo::ConservarViejo() const {
-    const std::string enlace = provisional_ + "~";
-    if (::link(destino_.c_str(), enlace.c_str()) == 0 &&
-        ::rename(enlace.c_str(), (destino_.string() + "~").c_str()) != 0) {
-        ::unlink(enlace.c_str());
+    const std::string enlace = provisional_ + "~", copia = destino_.string() + "~";
+    if (::link(destino_.c_str(), enlace.c_str()) == 0) {
+        ::rename(enlace.c_str(), copia.c_str());
+        ::unlink(enlace.c_str());  // still there if the name is taken by a folder, or is another link to the same file
+        return;
+    }
+    try {
+        ReemplazoDeArchivo archivo(copia);
+        archivo.Escribir(LeerArchivo(destino_));
+        archivo.Publicar();
+    } catch (const ErrorEjecucion&) {
+        // The new file matters more than a copy of the old one.
     }
 }
 

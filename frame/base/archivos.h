@@ -57,7 +57,7 @@ class ReemplazoDeArchivo {
 
   private:
     void CrearProvisional(const std::filesystem::path& carpeta);
-    /// Gives the old file its second name; without one, where the file system knows no links, there is no copy.
+    /// Gives the old file its second name, by a copy where the file system knows no links. Failures are ignored.
     void ConservarViejo() const;
     void CopiarAlViejo();
 

@@ -37,7 +37,8 @@ class TextBox : public Control {
     /// Replaces the selection by the character, or inserts it at the insertion point; Backspace, Delete and the arrow
     /// keys edit and move as usual.
     void TeclaPorDefecto(int codigo, int caracter) override;
-    /// Replaces the selection by the first line of a copied text; a number with a decimal comma is written with a point.
+    /// Replaces the selection by the first line of a copied text; a number with a decimal comma is written with a
+    /// point.
     void Pegar(const std::string& texto);
     /// The user changed the text by other means than keys (paste, an input method). `selStart` and `selLength` tell
     /// where the cursor and the selection are now.

@@ -93,6 +93,7 @@ void GridDatos::IniciarGrid() {
         grdt.SetFocus();
     }
     txtt.Visible = false;
+    Avisar("");
 }
 
 void GridDatos::GridEdit(int keyAscii) {

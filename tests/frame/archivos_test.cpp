@@ -93,6 +93,9 @@ TEST_F(Archivos, DiscoLlenoOMuerteDejanElViejo) {
     }
     ASSERT_EQ(::waitpid(hijo, nullptr, 0), hijo);
     EXPECT_EQ(BytesDe(ruta), "viejo");
+    EXPECT_EQ(carpeta.Archivos(), 2U) << "what it was writing";
+    EXPECT_EQ(ErrorAlReemplazar(ruta), 0);
+    EXPECT_EQ(carpeta.Archivos(), 1U) << "swept by the next one";
 }
 
 TEST_F(Archivos, SinPermiso) {
@@ -132,8 +135,13 @@ TEST_F(Archivos, Series) {
     const Registro valores{Single(1.0F), Single(-2.5F), Single(0.1F), Single(-std::numeric_limits<float>::infinity())};
     for (std::size_t ancho = 1; ancho <= 4; ++ancho) {
         SCOPED_TRACE(ancho);
-        EscritorSerie(ruta, static_cast<int>(ancho)).Escribir(valores);
+        const std::string antes = BytesDe(ruta);
+        EscritorSerie escritor(ruta, static_cast<int>(ancho));
+        escritor.Escribir(valores);
+        EXPECT_EQ(BytesDe(ruta), antes);
+        escritor.Publicar();
         EXPECT_EQ(BytesDe(ruta), bytes.substr(0, 4 * ancho)) << "nothing of what was there before";
+        EXPECT_EQ(BytesDe(ruta + "~"), antes);
         LectorSerie serie(Guardar(ruta, bytes + "\x7F\x7F\x7F"), static_cast<int>(ancho));
         ASSERT_EQ(serie.Registros(), static_cast<int>(4 / ancho)) << "a cut record does not count";
         for (std::size_t i = 0; i + ancho <= 4; i += ancho) {
@@ -150,11 +158,13 @@ TEST_F(Archivos, Series) {
         fs::resize_file(ruta, static_cast<std::uintmax_t>(largo));  // zeros that take no room
         EXPECT_EQ(NumeroDeError([&] { return LectorSerie(ruta, 4).Registros(); }), error) << largo;
     }
+    const auto largo = fs::file_size(Guardar(ruta, bytes));
     const DiscoDe disco(6);
     EscritorSerie archivo(ruta, 1);
     archivo.Escribir(valores);
-    EXPECT_EQ(NumeroDeError([&] { archivo.Escribir(valores); }), 61);
-    EXPECT_EQ(LectorSerie(ruta, 1).Registros(), 1) << "what was written stays";
+    archivo.Escribir(valores);
+    EXPECT_EQ(NumeroDeError([&] { archivo.Publicar(); }), 61);
+    EXPECT_EQ(fs::file_size(ruta), largo) << "a full disk leaves the old one";
 }
 
 }  // namespace
