@@ -135,6 +135,10 @@ void Escritorio::MostrarForma(Formulario& forma) {
     } else {
         ventana.show();
     }
+    if (forma.ControlInicial() == nullptr && forma.Padre() == nullptr) {
+        // Without a focus of its own the toolkit would give it to the window's first button.
+        ventana.centralWidget()->setFocus();
+    }
     ventana.raise();
     ventana.activateWindow();
 }

@@ -41,6 +41,7 @@ class Escritorio : public Plataforma {
     AccesoHojas& Hojas() override { return libros_; }
     void MostrarLibro(const Hoja& hoja) override;
     void Terminar() override;
+    void MenuPrincipalCerrado() override { app_->Terminar(); }
     void DespuesDeDespachar() override { Pintar(); }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override;

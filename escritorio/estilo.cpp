@@ -75,7 +75,7 @@ QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea
     selection-background-color: @luz; selection-color: @texto; }
 QTableView:focus { border: 1px solid @acento; }
 QTableView[marco="0"] { border: 0px; }
-QTableView[lectura="true"]:!focus { selection-background-color: @base; }
+QTableView[lectura="true"][varias="false"]:!focus { selection-background-color: @base; }
 QHeaderView { background: @encabezado; }
 QHeaderView::section { background: @encabezado; color: @texto; border: none; border-right: 1px solid @linea;
     border-bottom: 1px solid @linea; padding: 1px 6px; }

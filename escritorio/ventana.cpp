@@ -203,10 +203,11 @@ void Ventana::closeEvent(QCloseEvent* evento) {
         evento->ignore();
         return;
     }
-    evento->accept();
     if (forma_ != nullptr) {
         escritorio_.App().CerrarVentana(*forma_);
     }
+    // A form that is still there was not to be closed.
+    evento->setAccepted(forma_ == nullptr || escritorio_.App().Terminada());
 }
 
 void Ventana::HacerMenus() {

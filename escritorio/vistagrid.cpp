@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -133,9 +134,16 @@ void TablaGrid::mouseMoveEvent(QMouseEvent* evento) {
     }
 }
 
+void TablaGrid::mouseDoubleClickEvent(QMouseEvent* evento) {
+    mousePressEvent(evento);
+    if (alPulsarDosVeces && evento->button() == Qt::LeftButton && indexAt(evento->position().toPoint()).isValid()) {
+        alPulsarDosVeces();
+    }
+}
+
 void TablaGrid::contextMenuEvent(QContextMenuEvent* evento) {
-    if (alPedirMenu && evento->reason() == QContextMenuEvent::Keyboard) {
-        alPedirMenu();
+    if (alPedirMenu) {
+        alPedirMenu(*evento);
     }
     evento->accept();
 }
@@ -156,6 +164,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->viewport()->setMouseTracking(true);
     // A grid that takes no typing does not show its current cell while another control has the focus.
     tabla_->setProperty("lectura", !grid.KeyPress.Atendido());
+    tabla_->setProperty("varias", false);
     tabla_->setProperty("marco", grid.BorderStyle());
 
     const int alto = std::max(estilo::Pixeles(grid.RowHeight(grid.Rows() - 1)), tabla_->fontMetrics().height() + 6);
@@ -180,7 +189,8 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->alCambiarTamano = [this] { AjustarColumnas(); };
     tabla_->alPresionar = [this](QMouseEvent& evento) { return Presionar(evento); };
     tabla_->alArrastrar = [this](QMouseEvent& evento) { Arrastrar(evento); };
-    tabla_->alPedirMenu = [this] { MenuDeTeclado(); };
+    tabla_->alPulsarDosVeces = [this] { escritorio_.App().Despachar([this] { grid_.DblClick(); }); };
+    tabla_->alPedirMenu = [this](const QContextMenuEvent& evento) { PedirMenu(evento); };
     connect(tabla_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int valor) {
         const int superior = valor + grid_.FixedRows();
         if (!mostrando_ && superior != grid_.TopRow()) {
@@ -262,6 +272,10 @@ void VistaGrid::MostrarSeleccion() {
     if (desde.isValid() && hasta.isValid()) {
         seleccion->select(QItemSelection(desde, hasta), QItemSelectionModel::ClearAndSelect);
     }
+    if (tabla_->property("varias").toBool() != (desde != hasta)) {
+        tabla_->setProperty("varias", desde != hasta);
+        tabla_->style()->polish(tabla_);
+    }
 }
 
 void VistaGrid::MostrarDesplazamiento() {
@@ -334,6 +348,11 @@ bool VistaGrid::Presionar(QMouseEvent& evento) {
     if (!indice.isValid() || !conocido) {
         return true;
     }
+    if (evento.button() == Qt::RightButton && !grid_.MouseDown.Atendido() &&
+        tabla_->selectionModel()->isSelected(indice)) {
+        escritorio_.App().Despachar([this] { grid_.SetFocus(); });
+        return true;  // the selection is what the menu copies
+    }
     const BotonRaton boton = evento.button() == Qt::RightButton ? kBotonDerecho : kBotonIzquierdo;
     escritorio_.App().Despachar(
         [&] { grid_.Presionar(boton, indice.row() + grid_.FixedRows(), indice.column() + grid_.FixedCols()); });
@@ -348,10 +367,30 @@ void VistaGrid::Arrastrar(const QMouseEvent& evento) {
     }
 }
 
-void VistaGrid::MenuDeTeclado() {
-    if (grid_.Row() < grid_.Rows()) {
+/// A grid that handles the right button itself, the data grid, has a menu of its own.
+void VistaGrid::PedirMenu(const QContextMenuEvent& evento) {
+    const bool deTeclado = evento.reason() == QContextMenuEvent::Keyboard;
+    if (!grid_.MouseDown.Atendido()) {
+        MenuDeCopia(deTeclado ? tabla_->viewport()->mapToGlobal(CeldaActual().center()) : evento.globalPos());
+    } else if (deTeclado && grid_.Row() < grid_.Rows()) {
         escritorio_.App().Despachar([&] { grid_.Presionar(kBotonDerecho, grid_.Row(), grid_.Col()); });
     }
+}
+
+void VistaGrid::MenuDeCopia(QPoint donde) {
+    auto* menu = new QMenu(tabla_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto agregar = [&](const char* texto, std::string (FlexGrid::*que)(bool) const, bool conEncabezados) {
+        connect(menu->addAction(QString::fromUtf8(texto)), &QAction::triggered, this, [this, que, conEncabezados] {
+            escritorio_.App().Despachar([&] { escritorio_.PonerEnPortapapeles((grid_.*que)(conEncabezados)); });
+        });
+    };
+    agregar("&Copiar", &FlexGrid::TextoSeleccionado, false);
+    agregar("Copiar con &encabezados", &FlexGrid::TextoSeleccionado, true);
+    menu->addSeparator();
+    agregar("Copiar la &tabla", &FlexGrid::TextoCompleto, false);
+    agregar("Copiar la tabla con e&ncabezados", &FlexGrid::TextoCompleto, true);
+    menu->popup(donde);
 }
 
 }  // namespace cuencalia

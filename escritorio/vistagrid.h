@@ -48,13 +48,14 @@ class TablaGrid : public QTableView {
     std::function<void()> alCambiarTamano;
     std::function<bool(QMouseEvent&)> alPresionar;
     std::function<void(QMouseEvent&)> alArrastrar;
-    std::function<void()> alPedirMenu;
+    std::function<void()> alPulsarDosVeces;
+    std::function<void(QContextMenuEvent&)> alPedirMenu;
 
   protected:
     void resizeEvent(QResizeEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
-    void mouseDoubleClickEvent(QMouseEvent* evento) override { mousePressEvent(evento); }
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
 };
 
@@ -77,7 +78,8 @@ class VistaGrid : public Vista {
     void MostrarDesplazamiento();
     bool Presionar(QMouseEvent& evento);
     void Arrastrar(const QMouseEvent& evento);
-    void MenuDeTeclado();
+    void PedirMenu(const QContextMenuEvent& evento);
+    void MenuDeCopia(QPoint donde);
     QModelIndex Indice(int fila, int columna) const;
 
     FlexGrid& grid_;

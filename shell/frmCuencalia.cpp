@@ -125,6 +125,12 @@ void frmCuencalia::Form_Load() {
     bsalir.BackColor = Color{75, 115, 166};
 }
 
+bool frmCuencalia::PuedeCerrar() {
+    return !App().HayTrabajo() ||
+           App().Sistema().Preguntar("Hay datos o reportes que no se han guardado.\n\n¿Salir del programa y perderlos?",
+                                     "Salir");
+}
+
 void frmCuencalia::mayuayu_Click() {
     try {
         App().AbrirAyuda();

@@ -22,6 +22,11 @@ class frmCuencalia : public Formulario {
     void bsalir_Click() { App().Terminar(); }
     void mayuayu_Click();
 
+    /// No control: a stray blank or ENTER must not press Salir.
+    Control* ControlInicial() const override { return nullptr; }
+    /// Asks when data or reports would be lost.
+    bool PuedeCerrar() override;
+
   protected:
     Disposicion Disponer() override;
 

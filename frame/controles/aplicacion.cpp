@@ -161,7 +161,16 @@ bool Aplicacion::Elegir(Menu& entrada) {
 }
 
 void Aplicacion::CerrarVentana(Formulario& forma) {
-    Despachar([&] { Unload(forma); });
+    Despachar([&] {
+        if (!forma.PuedeCerrar()) {
+            return;
+        }
+        const bool principal = forma.Nombre() == menuPrincipal_;
+        Unload(forma);
+        if (principal) {
+            plataforma_.MenuPrincipalCerrado();
+        }
+    });
 }
 
 void Aplicacion::PedirFoco(Control& control) {
@@ -179,11 +188,7 @@ void Aplicacion::Activar(Formulario& forma) {
         Activar(*dentro);
         return;
     }
-    Control* destino = forma.ControlActivo();
-    if (destino == nullptr || !destino->PuedeRecibirFoco()) {
-        destino = forma.PrimerControl();
-    }
-    if (destino != nullptr) {
+    if (Control* destino = forma.ControlInicial()) {
         PedirFoco(*destino);
     } else {
         foco_ = nullptr;
@@ -205,6 +210,11 @@ Formulario* Aplicacion::Cargada(const std::string& forma) const {
 bool Aplicacion::EstaAbierta(const Formulario& forma) const {
     return Cargada(forma.Nombre()) == &forma ||
            std::any_of(hijas_.begin(), hijas_.end(), [&](const auto& hija) { return hija.get() == &forma; });
+}
+
+bool Aplicacion::HayTrabajo() const {
+    return std::any_of(cargadas_.begin(), cargadas_.end(), [](const auto& par) { return par.second->ConTrabajo(); }) ||
+           std::any_of(hijas_.begin(), hijas_.end(), [](const auto& hija) { return hija->ConTrabajo(); });
 }
 
 std::vector<Formulario*> Aplicacion::Cargadas() const {

@@ -67,6 +67,8 @@ class Aplicacion {
 
     /// Whether the program has a form of this name.
     bool Existe(const std::string& forma) const { return formas_.contains(forma); }
+    /// Whether any open form or report document holds work that no file has.
+    bool HayTrabajo() const;
     /// The loaded default instance of that form, or null.
     Formulario* Cargada(const std::string& forma) const;
     std::vector<Formulario*> Cargadas() const;

@@ -26,6 +26,7 @@ class FlexGrid : public Control {
     Evento<> LeaveCell;
     Evento<> RowColChange;
     Evento<> Scroll;
+    Evento<> DblClick;
 
     int Rows() const { return filas_; }
     int Cols() const { return columnas_; }

@@ -24,7 +24,10 @@ void Formulario::Cargar() {
     Form_Load();
 }
 
-Control* Formulario::PrimerControl() const {
+Control* Formulario::ControlInicial() const {
+    if (activo_ != nullptr && activo_->PuedeRecibirFoco()) {
+        return activo_;
+    }
     for (Control* control : EnOrden(disposicion_)) {
         if (control->PuedeRecibirFoco()) {
             return control;

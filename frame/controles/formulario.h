@@ -35,16 +35,21 @@ class Formulario : public Control {
     void Cargar();
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
-    /// The user chose a command of the form: what he was writing is to be taken over first.
+    /// Called before a command that the user chose: an unfinished entry must be stored first.
     virtual void AntesDeOrden() {}
-    /// An event on the form has ended, with all that came of it.
+    /// Called when an event and everything that it caused have been handled.
     virtual void DespuesDeEvento() {}
+    /// Whether the form holds data or text of the user's that no file has.
+    virtual bool ConTrabajo() { return false; }
+    /// Called when the user closes the form's window: returns whether it may close.
+    virtual bool PuedeCerrar() { return true; }
 
     /// The control that gets the focus when this form becomes active, or null.
     Control* ControlActivo() const { return activo_; }
     void PonerControlActivo(Control* control) { activo_ = control; }
-    /// The first control, in reading order, that can take the focus.
-    Control* PrimerControl() const;
+    /// The control that gets the focus when the form is shown: the active one, else the first, in reading order, that
+    /// can take it; null: none gets it.
+    virtual Control* ControlInicial() const;
 
     void Registrar(Control& control) { controles_.push_back(&control); }
     void AgregarABarra(Menu& menu) { barra_.push_back(&menu); }

@@ -56,6 +56,8 @@ class Plataforma {
     virtual void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) = 0;
     /// Ends the program's message loop.
     virtual void Terminar() = 0;
+    /// Called when the user has closed the window of the main menu.
+    virtual void MenuPrincipalCerrado() {}
     /// Whether a message box or a dialog is open: until it is closed no other command runs.
     virtual bool Bloqueada() const { return false; }
     /// Called after an event and everything that it caused have been handled: time to repaint.

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <string>
+
 #include "frame/controles/plataforma.h"
 
 namespace cuencalia {
 
 /// Panels of a module's status bar: how data are typed, what happened, how many data there are.
 enum PanelModulo : int { kPanelDigitar = 1, kPanelAvisos = 2, kPanelDatos = 3 };
+
+/// What the status bar says of a typed text that Val does not read whole; empty for a text that it does.
+std::string AvisoDeLectura(const std::string& texto);
 
 /// Messages that several modules give.
 inline const Aviso kGraficarSinCalculos{"Efectuar cálculos antes de graficar", kIconoError, "Mensaje de Error"};

@@ -65,6 +65,7 @@ void ComandosArchivo::Avisar(const std::string& aviso) { modulo_.StatusBar1.Pone
 void ComandosArchivo::Terminar(int filas) {
     modulo_.datos.TerminarCarga(filas);
     modulo_.n = filas;
+    modulo_.AnotarGuardado();
 }
 
 void ComandosArchivo::bCrear_Click() {
@@ -96,6 +97,7 @@ void ComandosArchivo::bCrear_Click() {
                    " no cabe en un archivo de serie: se guardaron los anteriores");
             throw *fallo;
         }
+        modulo_.AnotarGuardado();
         Avisar("Se guardaron " + std::to_string(modulo_.n) + " registros en " + cdCrear.FileName);
     });
 }

@@ -57,6 +57,7 @@ GridDatos::GridDatos(Formulario& forma, StatusBar& estado, DescripcionGrid descr
     grdt.MarcarTextos([](const std::string& texto) { return !texto.empty() && !ValLeeTodo(texto); });
     grdt.KeyDown.Conectar([this](int codigo) { grdt_KeyDown(codigo); });
     grdt.KeyPress.Conectar([this](int& keyAscii) { grdt_KeyPress(keyAscii); });
+    grdt.DblClick.Conectar([this] { GridEdit(kTeclaEspacio); });
     grdt.LeaveCell.Conectar([this] { OcultarEdicion(); });
     grdt.Scroll.Conectar([this] { OcultarEdicion(); });
     grdt.RowColChange.Conectar([this] { CambioFilaGrid(); });
@@ -284,10 +285,32 @@ void GridDatos::GuardarEdicion() {
 }
 
 void GridDatos::DecirLectura(const std::string& texto) {
-    if (!texto.empty() && !ValLeeTodo(texto)) {
-        Avisar("«" + texto + "» se leyó como " + CStr(Val(texto)) +
-               (texto.find(',') == std::string::npos ? "" : "; el signo decimal es el punto"));
+    if (const std::string aviso = AvisoDeLectura(texto); !aviso.empty()) {
+        Avisar(aviso);
     }
+}
+
+bool GridDatos::HayDatos() const {
+    bool hay = Filas() > 0 || txtt.Visible;
+    for (int c = 1; c <= UltimaColumna(); ++c) {
+        hay = hay || !grdt.TextMatrix(FilaEntrada(), c).empty();
+    }
+    return hay;
+}
+
+std::string GridDatos::DatoDudoso() const {
+    for (const bool textos : {true, false}) {
+        for (int f = 1; f <= Filas(); ++f) {
+            for (int c = 1; c <= UltimaColumna(); ++c) {
+                const std::string& texto = grdt.TextMatrix(f, c);
+                if (textos ? grdt.EstaMarcada(f, c) : Val(texto) <= Double(0)) {
+                    return ", y «" + texto + "» en la fila " + std::to_string(f) +
+                           (UltimaColumna() > 1 ? ", columna " + std::to_string(c) : "");
+                }
+            }
+        }
+    }
+    return {};
 }
 
 void GridDatos::Anotar() {

@@ -75,6 +75,11 @@ class GridDatos {
     void GuardarEdicion();
     /// Called when an event has ended: its changes of the data become one step of the history.
     void Anotar();
+    /// Whether anything is typed, also in the entry row or the edit box.
+    bool HayDatos() const;
+    /// The first value at which a logarithm or a quotient may fail, as the end of a sentence: a text that is no number,
+    /// or a value that is not positive; empty when there is none.
+    std::string DatoDudoso() const;
     /// Grows with each change of the data.
     int Version() const { return version_; }
 

@@ -34,6 +34,34 @@ void MarcoModulo::Form_Load() {
     for (Tabla* tabla : tablas_) {
         tabla->Iniciar();
     }
+    for (Control* control : Controles()) {
+        auto* caja = dynamic_cast<TextBox*>(control);
+        if (caja == nullptr || caja->Sobre() != nullptr) {
+            continue;
+        }
+        caja->LostFocus.Conectar([this, caja] { DecirLectura(*caja); });
+        caja->KeyDown.Conectar([this, caja](int codigo) {
+            if (codigo == kTeclaEnter) {
+                DecirLectura(*caja);
+            } else {
+                StatusBar1.PonerPanel(kPanelAvisos, "");
+            }
+        });
+    }
+}
+
+void MarcoModulo::DecirLectura(const TextBox& caja) {
+    if (const std::string aviso = caja.Locked ? "" : AvisoDeLectura(caja.Text); !aviso.empty()) {
+        StatusBar1.PonerPanel(kPanelAvisos, aviso);
+    }
+}
+
+void MarcoModulo::AntesDeOrden() {
+    for (Control* control : Controles()) {
+        if (const auto* caja = dynamic_cast<TextBox*>(control); caja != nullptr && caja->Sobre() == nullptr) {
+            DecirLectura(*caja);
+        }
+    }
 }
 
 void MarcoModulo::bCalcular_Click() {

@@ -64,6 +64,9 @@ class MarcoModulo : public Formulario {
     void ApagarBotones(const Control* contenedor);
 
   protected:
+    /// Says in the status bar which box holds a text that is not read whole.
+    void AntesDeOrden() override;
+
     virtual void Calcular() = 0;
     /// Called when Calcular has ended without an error or a message.
     virtual void AlCalcular() {}
@@ -99,6 +102,8 @@ class MarcoModulo : public Formulario {
     virtual std::vector<Disposicion> ZonaResultados() { return {bReporte}; }
 
   private:
+    /// Says in the status bar what was read of the box, when it is not the whole text.
+    void DecirLectura(const TextBox& caja);
     struct BotonNumerado {
         CommandButton* boton;
         int reposo;

@@ -53,8 +53,18 @@ void ModuloCalculo::LimpiarResultados() {
     calculadaCon_.reset();
 }
 
+void ModuloCalculo::AntesDeOrden() {
+    MarcoModulo::AntesDeOrden();
+    datos.GuardarEdicion();
+}
+
+bool ModuloCalculo::ConTrabajo() { return datos.HayDatos() && guardada_ != datos.Version(); }
+
 void ModuloCalculo::DespuesDeEvento() {
     datos.Anotar();
+    if (std::exchange(guardando_, false)) {
+        guardada_ = datos.Version();
+    }
     const bool anteriores = calculadaCon_ && *calculadaCon_ != datos.Version();
     StatusBar1.PonerPanel(kPanelDatos, "n = " + std::to_string(datos.Filas()) +
                                            (anteriores ? " · los resultados son anteriores a los datos" : ""));
@@ -67,9 +77,11 @@ std::string ModuloCalculo::Consejo(const ErrorEjecucion& error) const {
         case kDivisionPorCero:
         case kDesbordamiento:
         case kArgumentoNoValido:
-            return "Con estos " + std::to_string(datos.Filas()) +
-                   " datos el cálculo no es posible: revisar que no sean muy pocos, iguales entre sí, ceros o "
-                   "negativos";
+            if (datos.Filas() == 0) {
+                return "No hay datos: digitarlos, pegarlos o cargar un archivo";
+            }
+            return "El cálculo no es posible con estos " + std::to_string(datos.Filas()) +
+                   " datos: revisar que no sean muy pocos o iguales entre sí" + datos.DatoDudoso();
         default:
             return "";
     }

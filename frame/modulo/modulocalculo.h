@@ -36,8 +36,12 @@ class ModuloCalculo : public MarcoModulo {
     virtual void CargarMatrices();
     void LimpiarModulo() override;
     void LimpiarResultados() override;
-    void AntesDeOrden() override { datos.GuardarEdicion(); }
+    void AntesDeOrden() override;
     void DespuesDeEvento() override;
+    /// Whether there are data that were neither loaded nor stored as they stand.
+    bool ConTrabajo() override;
+    /// The data, as they stand when the current event has ended, are those of a file.
+    void AnotarGuardado() { guardando_ = true; }
 
     /// Record i of a series file, from the arrays. Error 6 for a value beyond the range of a Single.
     Registro RegistroDe(int i) const;
@@ -67,6 +71,8 @@ class ModuloCalculo : public MarcoModulo {
   private:
     std::vector<Matriz> columnas_;
     std::optional<int> calculadaCon_;  ///< Version of the data that gave the results shown.
+    std::optional<int> guardada_;      ///< Version of the data that a file has.
+    bool guardando_ = false;
 };
 
 }  // namespace cuencalia

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "frame/base/textos.h"
+#include "frame/reportes/rtf.h"
 
 namespace cuencalia {
 
@@ -39,6 +40,13 @@ double LeerLugar(Plataforma& sistema, const Ajuste& ajuste) {
 frmDocumento::frmDocumento(Aplicacion& app, const std::string& caption) : Formulario(app, "frmDocumento", caption) {}
 
 bool frmDocumento::EsNuevo() const { return Subtexto(Caption(), 0, 8) == "Document"; }
+
+void frmDocumento::AnotarGuardado() { guardado_ = EscribirRtf(rtfText.Leer().Documento(), ClaseRtf::kDocumento); }
+
+bool frmDocumento::ConTrabajo() {
+    const EditorTextoRico& texto = rtfText.Leer();
+    return texto.Longitud() > 0 && EscribirRtf(texto.Documento(), ClaseRtf::kDocumento) != guardado_;
+}
 
 frmPadre::frmPadre(Aplicacion& app) : Formulario(app, "frmPadre", "Guardar datos") {
     sbStatusBar.PonerPanel(1, "Estado");
@@ -90,6 +98,7 @@ void frmPadre::mnuFileOpen_Click() {
     frmDocumento& documento = *ActiveForm();
     documento.rtfText.Editor().LoadFile(dlgCommonDialog.FileName);
     documento.Caption = dlgCommonDialog.FileName;
+    documento.AnotarGuardado();
 }
 
 void frmPadre::mnuFileSave_Click() {
@@ -99,6 +108,7 @@ void frmPadre::mnuFileSave_Click() {
     }
     if (!documento->EsNuevo()) {
         documento->rtfText.Leer().SaveFile(documento->Caption);
+        documento->AnotarGuardado();
         return;
     }
     dlgCommonDialog.DialogTitle = "Guardar";
@@ -107,6 +117,7 @@ void frmPadre::mnuFileSave_Click() {
     dlgCommonDialog.ShowSave();
     if (!dlgCommonDialog.FileName.empty()) {
         documento->rtfText.Leer().SaveFile(dlgCommonDialog.FileName);
+        documento->AnotarGuardado();
     }
 }
 
@@ -122,6 +133,7 @@ void frmPadre::mnuFileSaveAs_Click() {
     if (!dlgCommonDialog.FileName.empty()) {
         documento->Caption = dlgCommonDialog.FileName;
         documento->rtfText.Leer().SaveFile(dlgCommonDialog.FileName);
+        documento->AnotarGuardado();
     }
 }
 

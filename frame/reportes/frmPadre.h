@@ -15,9 +15,16 @@ class frmDocumento : public Formulario {
     RichTextBox rtfText{*this, "rtfText"};
 
     bool EsNuevo() const;
+    /// The text is now that of a file.
+    void AnotarGuardado();
+    /// Whether the text is not that of a file.
+    bool ConTrabajo() override;
 
   protected:
     Disposicion Disponer() override { return Columna({Disposicion(rtfText).Estira(1)}); }
+
+  private:
+    std::string guardado_;  ///< The text as RTF when it was that of a file.
 };
 
 /// The parent window of the report documents, a small word processor.

@@ -101,18 +101,22 @@ TEST_F(Grid, TheMouseGoesToTheCellBelowIt) {
     EXPECT_EQ(Sucesos(), (Textos{"grd1 botón 2", "mnuBorrar clic"}));
 }
 
-TEST_F(Grid, ShiftMarksAndTheMarkedCellsAreCopied) {
+TEST_F(Grid, KeysWithShiftAndControlReachTheGrid) {
     Clic(*Tabla().viewport(), Celda(2, 2).center());
-    for (const Qt::Key tecla : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Up}) {
-        Tecla(tecla, Qt::ShiftModifier);
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, std::vector<int>> casos[] = {
+        {Qt::Key_Down, Qt::ShiftModifier, {2, 2, 3, 2}},
+        {Qt::Key_Right, Qt::ShiftModifier, {2, 2, 3, 3}},
+        {Qt::Key_C, Qt::ControlModifier, {2, 2, 3, 3}},
+        {Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier, {2, 2, 39, 3}},
+        {Qt::Key_Home, Qt::ControlModifier, {1, 1, 1, 1}},
+        {Qt::Key_Down, Qt::ControlModifier, {39, 1, 39, 1}},
+        {Qt::Key_A, Qt::ControlModifier, {39, 1, 1, 3}}};
+    for (const auto& [tecla, con, elegido] : casos) {
+        Tecla(tecla, con);
+        EXPECT_EQ(Elegido(), elegido) << tecla;
+        EXPECT_EQ(Marcadas(), (std::abs(elegido[2] - elegido[0]) + 1) * (std::abs(elegido[3] - elegido[1]) + 1));
     }
-    EXPECT_EQ(Elegido(), (std::vector{2, 2, 3, 3}));
-    Tecla(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "2,2\t2,3\n3,2\t3,3");
-    for (int i = 0; i < 8; ++i) {
-        Tecla(i < 4 ? Qt::Key_Left : Qt::Key_Up, Qt::ShiftModifier);
-    }
-    EXPECT_EQ(Elegido(), (std::vector{2, 2, 1, 1})) << "headings are not marked";
+    EXPECT_EQ(QApplication::clipboard()->text(), "2,2\t2,3\n3,2\t3,3\n");
 }
 
 TEST_F(Grid, TheEditBoxStandsOnTheCurrentCell) {
