@@ -99,13 +99,14 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
     caja.exec();
 }
 
-bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo) {
+bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) {
     Pintar();
     const Espera espera(cajas_);
     QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::Yes | QMessageBox::No,
                      QApplication::activeWindow());
     caja.setTextFormat(Qt::PlainText);
     caja.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
+    caja.setDefaultButton(porOmision ? QMessageBox::Yes : QMessageBox::No);
     return caja.exec() == QMessageBox::Yes;
 }
 

@@ -30,7 +30,7 @@ class Escritorio : public Plataforma {
     void Pintar();
 
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
-    bool Preguntar(const std::string& texto, const std::string& titulo) override;
+    bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) override;
     bool Bloqueada() const override { return cajas_ > 0; }
     void MostrarError(const ErrorEjecucion& error) override;
     void MostrarForma(Formulario& forma) override;

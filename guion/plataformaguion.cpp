@@ -8,7 +8,7 @@ void PlataformaGuion::MsgBox(const std::string& texto, Icono icono, const std::s
     mensajes.push_back({texto, icono, titulo});
 }
 
-bool PlataformaGuion::Preguntar(const std::string& texto, const std::string& titulo) {
+bool PlataformaGuion::Preguntar(const std::string& texto, const std::string& titulo, bool /*porOmision*/) {
     MsgBox(texto, kIconoPregunta, titulo);
     return true;
 }

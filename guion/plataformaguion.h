@@ -23,7 +23,7 @@ class PlataformaGuion : public Plataforma {
   public:
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
     /// The question counts as a message; the answer is yes.
-    bool Preguntar(const std::string& texto, const std::string& titulo) override;
+    bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) override;
     void MostrarError(const ErrorEjecucion& error) override;
     void MostrarForma(Formulario& forma) override;
     void DescargarForma(Formulario& forma) override;

@@ -128,7 +128,7 @@ void frmCuencalia::Form_Load() {
 bool frmCuencalia::PuedeCerrar() {
     return !App().HayTrabajo() ||
            App().Sistema().Preguntar("Hay datos o reportes que no se han guardado.\n\n¿Salir del programa y perderlos?",
-                                     "Salir");
+                                     "Salir", false);
 }
 
 void frmCuencalia::mayuayu_Click() {

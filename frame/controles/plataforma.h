@@ -38,8 +38,8 @@ class Plataforma {
 
     /// Shows a message and returns when the user has closed it. An empty title means the program's own title.
     virtual void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) = 0;
-    /// Asks a question that is answered by yes or no.
-    virtual bool Preguntar(const std::string& texto, const std::string& titulo) = 0;
+    /// Asks a question that is answered by yes or no; ENTER answers `porOmision`.
+    virtual bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) = 0;
     /// Shows the number and text of a run-time error that no handler caught.
     virtual void MostrarError(const ErrorEjecucion& error) = 0;
 

@@ -290,12 +290,12 @@ void GridDatos::DecirLectura(const std::string& texto) {
     }
 }
 
-bool GridDatos::HayDatos() const {
-    bool hay = Filas() > 0 || txtt.Visible;
+bool GridDatos::EntradaAMedias() const {
+    bool aMedias = txtt.Visible;
     for (int c = 1; c <= UltimaColumna(); ++c) {
-        hay = hay || !grdt.TextMatrix(FilaEntrada(), c).empty();
+        aMedias = aMedias || !grdt.TextMatrix(FilaEntrada(), c).empty();
     }
-    return hay;
+    return aMedias;
 }
 
 std::string GridDatos::DatoDudoso() const {
@@ -346,6 +346,7 @@ void GridDatos::Aplicar(const std::optional<HistoriaGrid::Paso>& paso) {
     Marcar(EnFilaEntrada() ? kMarcaEntrada : kMarcaEspera);
     historia_->Acordar(grdt);
     ++version_;
+    Avisar("");
 }
 
 void GridDatos::Pegar(const std::string& texto) {
@@ -361,7 +362,7 @@ void GridDatos::Pegar(const std::string& texto) {
     } else if (!app_.Sistema().Preguntar("«" + lectura.dudoso +
                                              "» puede leerse de dos maneras.\n\n¿El punto es el signo "
                                              "decimal de los datos copiados?",
-                                         "Pegar datos")) {
+                                         "Pegar datos", true)) {
         signo = SignoDecimal::Coma;
     }
     const int columna = grdt.Col(), primera = grdt.Row(), filas = static_cast<int>(bloque.size() - lectura.encabezados);
@@ -392,6 +393,7 @@ void GridDatos::Pegar(const std::string& texto) {
         return std::to_string(cuenta) + (cuenta == 1 ? una : varias);
     };
     std::string aviso = "Pegado: " + cuantos(filas, " fila", " filas");
+    aviso += signo == SignoDecimal::Coma ? ", con coma decimal" : "";
     aviso += lectura.encabezados > 0 ? "; el encabezado quedó fuera" : "";
     if (ajenas > 0) {
         aviso += "; " + cuantos(ajenas, " celda que no es un número cuenta", " celdas que no son números cuentan") +

@@ -75,8 +75,8 @@ class GridDatos {
     void GuardarEdicion();
     /// Called when an event has ended: its changes of the data become one step of the history.
     void Anotar();
-    /// Whether anything is typed, also in the entry row or the edit box.
-    bool HayDatos() const;
+    /// Whether something is typed in the edit box or the entry row that is not among the data yet.
+    bool EntradaAMedias() const;
     /// The first value at which a logarithm or a quotient may fail, as the end of a sentence: a text that is no number,
     /// or a value that is not positive; empty when there is none.
     std::string DatoDudoso() const;

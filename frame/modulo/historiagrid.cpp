@@ -65,7 +65,7 @@ bool HistoriaGrid::Anotar(const FlexGrid& grid) {
     }
     fila_ = grid.Row();
     columna_ = grid.Col();
-    return cambio;
+    return cambio && (antes != ahora || iguales < ahora - 1);
 }
 
 void HistoriaGrid::Acordar(const FlexGrid& grid) {

@@ -21,8 +21,8 @@ class HistoriaGrid {
         int filaAntes, columnaAntes, filaDespues, columnaDespues;
     };
 
-    /// Writes down how the grid differs from what it was at the last call; says whether it does. What had been taken
-    /// back can then no longer be done again.
+    /// Records how the grid differs from what it was at the last call; what was undone can then no longer be redone.
+    /// Returns whether data changed: anything but the entry row.
     bool Anotar(const FlexGrid& grid);
     /// The same change is no act of the user: it can be neither taken back nor done again by itself.
     void Acordar(const FlexGrid& grid);

@@ -58,7 +58,9 @@ void ModuloCalculo::AntesDeOrden() {
     datos.GuardarEdicion();
 }
 
-bool ModuloCalculo::ConTrabajo() { return datos.HayDatos() && guardada_ != datos.Version(); }
+bool ModuloCalculo::ConTrabajo() {
+    return datos.EntradaAMedias() || (datos.Filas() > 0 && guardada_ != datos.Version());
+}
 
 void ModuloCalculo::DespuesDeEvento() {
     datos.Anotar();

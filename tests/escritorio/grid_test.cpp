@@ -119,6 +119,28 @@ TEST_F(Grid, KeysWithShiftAndControlReachTheGrid) {
     EXPECT_EQ(QApplication::clipboard()->text(), "2,2\t2,3\n3,2\t3,3\n");
 }
 
+TEST_F(Grid, ATableIsCopiedByItsMenuAndADoubleClickEdits) {
+    Abrir("frmParamEsta");
+    Formulario& forma = Forma("frmParamEsta");
+    auto& resultados = dynamic_cast<FlexGrid&>(*forma.Controls("grdParam"));
+    auto& tabla = Widget<QTableView>(resultados);
+    Hacer([&] {
+        resultados.PonerTextMatrix(2, 1, "5");
+        resultados.PonerTextMatrix(2, 2, "7");
+        resultados.PonerCelda(2, 1);
+        resultados.Seleccionar(2, 2);
+    });
+    QApplication::clipboard()->clear();
+    Clic(*tabla.viewport(), tabla.visualRect(tabla.model()->index(1, 1)).center(), Qt::RightButton);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::clipboard()->text() == "5\t7\n"; }));
+    const Control& caja = *forma.Controls("txtt");
+    auto& datos = Widget<QTableView>(*forma.Controls("grdt"));
+    Clic(*datos.viewport(), QPoint(20, 8));
+    EXPECT_FALSE(caja.Visible);
+    QTest::mouseDClick(datos.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 8));
+    EXPECT_TRUE(caja.Visible);
+}
+
 TEST_F(Grid, TheEditBoxStandsOnTheCurrentCell) {
     auto& caja = Widget<QLineEdit>(F().txtt);
     for (const auto& [fila, columna] : {std::pair{3, 2}, std::pair{30, 3}}) {

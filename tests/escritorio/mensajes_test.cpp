@@ -23,6 +23,16 @@ TEST_F(Mensajes, AMessageStandsAsItIs) {
     }
 }
 
+TEST_F(Mensajes, NoCommandRunsUnderAnOpenBox) {
+    QTimer::singleShot(0, [this] {
+        Ventana()->close();
+        escritorio_->App().Pulsar(F().btn1);
+    });
+    escritorio_->MsgBox("abierta", kSinIcono, "");
+    EXPECT_NE(Ventana(), nullptr);
+    EXPECT_EQ(Sucesos(), Textos{});
+}
+
 /// A widget whose painting fails.
 class Roto : public QWidget {
     using QWidget::QWidget;

@@ -478,8 +478,12 @@ TEST_F(ArchivosModuloTest, FallosCallados) {
         Teclas("7\n");
         EXPECT_EQ(TrasPulsar(a.bAccesar, malo), "[?],| @1,1");
     }
-    // The second record is no number: what was read before it stays.
+    // The second record is no number: what was read before it stays, and the old series can be brought back.
+    Teclas("7\n");
     EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, kUno + "\x00\x00\x80\x7F"s + kTres)), " 1,1.0| 2,|,|,| @1,1");
+    EXPECT_TRUE(M().StatusBar1.Panel(2).starts_with("El registro 2 no es un número")) << M().StatusBar1.Panel(2);
+    app.Elegir(M().datos.mnuEditDeshacer);
+    EXPECT_EQ(Ver(), " 1,7.0|[->],| @2,1");
     EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 32768, '\0'))), "[?],| @1,1");
     TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 1500, '\0')));
     app.Pulsar(M().bCalcular);

@@ -179,6 +179,9 @@ TEST_F(ReportesTest, DocumentosYSuVentana) {
     Padre().Left = -30000;
     app.CerrarVentana(Padre());
     EXPECT_EQ(sistema.ajustes, guardado) << "a minimised window leaves them as they were";
+    sistema.ajustes["MainTop"] = "1e999";
+    Reportar();
+    EXPECT_EQ(Padre().Top(), 1000) << "a damaged setting counts as absent";
     EXPECT_TRUE(sistema.mensajes.empty()) << "nobody asks about what was not saved";
 }
 

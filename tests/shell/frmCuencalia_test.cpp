@@ -1,5 +1,8 @@
 #include "shell/frmCuencalia.h"
 
+#include "frame/modulo/modulocalculo.h"
+#include "frame/reportes/frmPadre.h"
+#include "tests/archivos_en_disco.h"
 #include "tests/forma_en_uso.h"
 
 namespace cuencalia {
@@ -47,6 +50,34 @@ TEST_F(CuencaliaTest, SalirTerminaSinPreguntar) {
     EXPECT_TRUE(sistema.terminado);
     EsperarSilencio();
     EXPECT_NE(app.Cargada("frmParamEsta"), nullptr) << "nothing was unloaded";
+}
+
+TEST_F(CuencaliaTest, CerrarPreguntaPorLoQueNoSeGuardo) {
+    const auto preguntas = [this] {
+        sistema.mensajes.clear();
+        app.CerrarVentana(F());
+        Abrir("frmCuencalia");
+        return sistema.mensajes.size();
+    };
+    EXPECT_EQ(app.Foco(), nullptr) << "a stray ENTER presses nothing";
+    EXPECT_EQ(preguntas(), 0U);
+    Elegir("mparanoagru");
+    auto& modulo = dynamic_cast<ModuloCalculo&>(*app.Cargada("frmParamEsta"));
+    app.PulsarTecla('5', '5');
+    EXPECT_EQ(preguntas(), 1U) << "typed, though not confirmed";
+    Abrir("frmParamEsta");
+    app.PulsarTecla(kTeclaEnter, kTeclaEnter);
+    const pruebas::CarpetaTemporal carpeta;
+    sistema.archivo = carpeta / "serie.X";
+    app.Pulsar(modulo.archivos.bCrear);
+    EXPECT_EQ(preguntas(), 0U) << "stored";
+    app.Pulsar(modulo.bReporte);
+    EXPECT_EQ(preguntas(), 1U) << "a report";
+    sistema.archivo = carpeta / "reporte.rtf";
+    app.Elegir(dynamic_cast<frmPadre&>(*app.Cargada("frmPadre")).mnuFileSave);
+    EXPECT_EQ(preguntas(), 0U);
+    app.Pulsar(modulo.bMenu);
+    EXPECT_EQ(app.Foco(), nullptr);
 }
 
 TEST_F(CuencaliaTest, Ayuda) {
