@@ -139,6 +139,10 @@ TEST_F(Grid, ATableIsCopiedByItsMenuAndADoubleClickEdits) {
     EXPECT_FALSE(caja.Visible);
     QTest::mouseDClick(datos.viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 8));
     EXPECT_TRUE(caja.Visible);
+    for (const auto& [texto, marcada] : {std::pair{"7.5", false}, std::pair{"7,5", true}}) {
+        Hacer([&, t = texto] { dynamic_cast<FlexGrid&>(*forma.Controls("grdt")).PonerTextMatrix(1, 1, t); });
+        EXPECT_EQ(datos.model()->index(0, 0).data(Qt::BackgroundRole).isValid(), marcada) << texto;
+    }
 }
 
 TEST_F(Grid, TheEditBoxStandsOnTheCurrentCell) {

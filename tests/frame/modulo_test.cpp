@@ -463,6 +463,7 @@ TEST_F(ArchivosModuloTest, ColaCabezaYEtiquetas) {
     EXPECT_EQ(TrasPulsar(a.bCargarExcel, Libro({Double(7), Double(1.25), "texto", std::monostate(), Double(6)})),
               "Ene,1.3|Feb,texto|[->],| @3,1")
         << "up to the gap; a text stands as it is";
+    EXPECT_TRUE(F().StatusBar1.Panel(2).starts_with("1 celda marcada no es un número")) << F().StatusBar1.Panel(2);
     EXPECT_EQ(F().txtMargen.Text(), "7.0");
     EXPECT_TRUE(TrasPulsar(a.bCargarExcel, Libro(trece)).ends_with("Dic,1.3|[->],| @13,1"));
     std::vector<ValorCelda> catorce = trece;
