@@ -84,6 +84,8 @@ TEST_F(Grafico, SixSetsAreToldApartAndTheirLegendHidesNothing) {
     EXPECT_EQ(colores.size(), 6U);
     Dibujar({{.y = {1}}, {.y = {2}}});
     EXPECT_TRUE(Lienzo().legend->visible());
+    Dibujar({{"P", {}, {1}}});
+    EXPECT_TRUE(Lienzo().legend->visible()) << "a lone set has one where it has a name";
 }
 
 // The intensities 6, 0 and 9 of three intervals that end at 10, 20 and 40, as rectangles.
@@ -183,7 +185,8 @@ TEST_F(Grafico, ItIsCopiedAndSavedAsShownDarkOnWhite) {
     EXPECT_TRUE(QSvgRenderer(elegir(4, "año.svg")).isValid());
     EXPECT_TRUE(vigia_.mensajes.empty());
     elegir(2, "no existe/g.png");
-    EXPECT_TRUE(vigia_.mensajes.size() == 1 && vigia_.mensajes[0].texto.contains("no existe/g.png"));
+    EXPECT_TRUE(vigia_.mensajes.size() == 1 && vigia_.mensajes[0].icono == QMessageBox::Critical &&
+                vigia_.mensajes[0].texto.contains("no existe/g.png"));
     for (const QImage& cada : {png, copia}) {
         EXPECT_EQ(cada.pixelColor(2, 2), QColor(Qt::white));
         int oscuros = 0;

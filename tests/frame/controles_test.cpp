@@ -83,7 +83,7 @@ TEST_F(ControlesTest, CajaDeTexto) {
         EXPECT_EQ(Caja(), std::tuple(caso.queda, caso.cursor, 0));
     }
     F().txt.Locked = true;
-    Teclas(U"9<~{");
+    Teclas(U"9<{~");
     EXPECT_EQ(Caja(), std::tuple("añ", 0, 0)) << "in a box of results the cursor moves all the same";
 }
 

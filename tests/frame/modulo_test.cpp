@@ -103,8 +103,8 @@ TablaFormas Formas() {
             {"frmTres", columnas("frmTres", {.encabezados = {"Trío", "A", "B", "C"},
                                              .anchos = {900, 1000},
                                              .patronEdicion = kPatronEdicionB,
-                                             .columnaSel = 1,
-                                             .columnaSelEntrada = 2})}};
+                                             .columnaSel = 2,
+                                             .columnaSelEntrada = 3})}};
 }
 
 /// File dialogs whose Cancel is an error, where a test asks for it.
@@ -276,8 +276,10 @@ TEST_F(ModuloTest, MenuDeFila) {
         return std::to_string(G().Row()) + "," + std::to_string(G().Col()) + " " + std::to_string(G().RowSel()) + "," +
                std::to_string(G().ColSel());
     };
-    EXPECT_EQ(seleccion(2), "2,1 2,1");
-    EXPECT_EQ(seleccion(3), "3,1 1,2");
+    EXPECT_EQ(seleccion(2), "2,1 2,2");
+    EXPECT_EQ(seleccion(3), "3,1 1,3");
+    MenuFila("mnuEditEliminar", 1);
+    EXPECT_EQ(G().ColSel(), 1) << "the mark goes with the row";
 }
 
 TEST_F(ModuloTest, DondeQuedaElCursor) {
@@ -464,6 +466,7 @@ TEST_F(ArchivosModuloTest, ColaCabezaYEtiquetas) {
               "Ene,1.3|Feb,texto|[->],| @3,1")
         << "up to the gap; a text stands as it is";
     EXPECT_TRUE(F().StatusBar1.Panel(2).starts_with("1 celda marcada no es un número")) << F().StatusBar1.Panel(2);
+    EXPECT_EQ(sistema.filtroDialogo, "Archivos de Excel 97-2003|*.xls|Archivos de Excel 07-2010|*.xlsx");
     EXPECT_EQ(F().txtMargen.Text(), "7.0");
     EXPECT_TRUE(TrasPulsar(a.bCargarExcel, Libro(trece)).ends_with("Dic,1.3|[->],| @13,1"));
     std::vector<ValorCelda> catorce = trece;

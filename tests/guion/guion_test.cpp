@@ -52,7 +52,7 @@ class FormaGuion : public ModuloCalculo {
     }
     Disposicion Contenido() override {
         return Columna({txtDigitos, txtFijo, lblDato, Grupo(FrameO, {opt1, opt2}), cbLatitud, cbFijo, bOculto, bGris,
-                        num7, Fichas(SSTab1, {Espacio(), Grupo(FrameP, {txtPagina})})});
+                        Fichas(SSTab1, {Espacio(), Grupo(FrameP, {txtPagina, num7})})});
     }
 };
 
