@@ -16,5 +16,6 @@ std::string AvisoDeLectura(const std::string& texto);
 inline const Aviso kGraficarSinCalculos{"Efectuar cálculos antes de graficar", kIconoError, "Mensaje de Error"};
 inline const Aviso kGraficarSinPuntos{"Para graficar se requiere por lo menos dos puntos", kIconoError, "Error"};
 inline const Aviso kDatosInadecuados{"Ingresar datos adecuadamente ", kIconoInformacion, "Mensaje de error"};
+inline const Aviso kInfinitasSoluciones{"El sistema que se origina tiene infinitas soluciones", kIconoError};
 
 }  // namespace cuencalia

@@ -3,19 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "modules/regresion/regresionlineal.h"
+
 namespace cuencalia {
 
 namespace {
 
-ArregloBase<Double> Logaritmos(const ArregloBase<Double>& x, int n) {
-    ArregloBase<Double> logaritmos(1, n);
-    for (int i = 1; i <= n; ++i) {
-        logaritmos(i) = Log(x(i));
-    }
-    return logaritmos;
-}
-
-std::vector<Double> ValoresDeFila(const Variables& x, int fila) {
+std::vector<Double> ValoresDeFila(const Independientes& x, int fila) {
     std::vector<Double> valores;
     std::transform(x.begin(), x.end(), std::back_inserter(valores), [fila](const auto* xj) { return (*xj)(fila); });
     return valores;
@@ -23,7 +17,7 @@ std::vector<Double> ValoresDeFila(const Variables& x, int fila) {
 
 }  // namespace
 
-EcuacionesNormales FormarEcuacionesNormales(const Variables& u, const ArregloBase<Double>& v, int n) {
+EcuacionesNormales FormarEcuacionesNormales(const Independientes& u, const ArregloBase<Double>& v, int n) {
     const int m = static_cast<int>(u.size()) + 1;
     EcuacionesNormales ecuaciones{n, MatrizAmpliada(m), 0};
     MatrizAmpliada& a = ecuaciones.matriz;
@@ -64,7 +58,7 @@ Double RegresionMultiple::SumaResiduos() const {
     return suma;
 }
 
-std::optional<RegresionMultiple> AjustarRegresion(const Variables& u, const ArregloBase<Double>& v, int n,
+std::optional<RegresionMultiple> AjustarRegresion(const Independientes& u, const ArregloBase<Double>& v, int n,
                                                   BusquedaPivote busqueda) {
     EcuacionesNormales ecuaciones = FormarEcuacionesNormales(u, v, n);
     std::optional<std::vector<Double>> coef = GaussJordan(ecuaciones.matriz, busqueda);
@@ -74,10 +68,10 @@ std::optional<RegresionMultiple> AjustarRegresion(const Variables& u, const Arre
     return RegresionMultiple{std::move(ecuaciones), std::move(*coef)};
 }
 
-std::optional<RegresionMultiple> AjustarPotencial(const Variables& x, const ArregloBase<Double>& y, int n,
+std::optional<RegresionMultiple> AjustarPotencial(const Independientes& x, const ArregloBase<Double>& y, int n,
                                                   BusquedaPivote busqueda) {
     std::vector<ArregloBase<Double>> u;
-    Variables columnas;
+    Independientes columnas;
     u.reserve(x.size());
     for (const auto* xj : x) {
         columnas.push_back(&u.emplace_back(Logaritmos(*xj, n)));
@@ -102,7 +96,7 @@ Double EvaluarPotencial(const std::vector<Double>& a, const std::vector<Double>&
 }
 
 Double ErrorEstandar(Double (*ecuacion)(const std::vector<Double>&, const std::vector<Double>&),
-                     const std::vector<Double>& a, const Variables& x, const ArregloBase<Double>& y, int n) {
+                     const std::vector<Double>& a, const Independientes& x, const ArregloBase<Double>& y, int n) {
     Double suma;
     for (int i = 1; i <= n; ++i) {
         const Double residuo = y(i) - ecuacion(a, ValoresDeFila(x, i));

@@ -9,7 +9,7 @@
 namespace cuencalia {
 
 /// The independent variables of a regression, one series for each.
-using Variables = std::vector<const ArregloBase<Double>*>;
+using Independientes = std::vector<const ArregloBase<Double>*>;
 
 /// The normal equations of v = a0 + a1·u1 + … + ak·uk. Each sum is formed in the order of the rows.
 struct EcuacionesNormales {
@@ -22,7 +22,7 @@ struct EcuacionesNormales {
     Double Sv(int i) const { return matriz(i + 1, matriz.Columnas()); }
 };
 
-EcuacionesNormales FormarEcuacionesNormales(const Variables& u, const ArregloBase<Double>& v, int n);
+EcuacionesNormales FormarEcuacionesNormales(const Independientes& u, const ArregloBase<Double>& v, int n);
 
 /// Normal equations with their solution.
 struct RegresionMultiple {
@@ -40,12 +40,12 @@ struct RegresionMultiple {
 /// Least-squares fit of v = a0 + a1·u1 + … + ak·uk. Empty when the normal equations have no single solution
 /// (GaussJordan tells when that goes unnoticed, and its errors). Source: Draper, N. R. and Smith, H. (1966), Applied
 /// Regression Analysis, Wiley, New York, chapter 2.
-std::optional<RegresionMultiple> AjustarRegresion(const Variables& u, const ArregloBase<Double>& v, int n,
+std::optional<RegresionMultiple> AjustarRegresion(const Independientes& u, const ArregloBase<Double>& v, int n,
                                                   BusquedaPivote busqueda);
 
 /// Least-squares fit of the logarithms, ln y = ln a0 + a1·ln x1 + … + ak·ln xk. `coef` holds ln a0 in the first place.
 /// Error 5 for a value of 0 or below.
-std::optional<RegresionMultiple> AjustarPotencial(const Variables& x, const ArregloBase<Double>& y, int n,
+std::optional<RegresionMultiple> AjustarPotencial(const Independientes& x, const ArregloBase<Double>& y, int n,
                                                   BusquedaPivote busqueda);
 
 /// The equation with the coefficients a0 to ak at the values x1 to xk: a0 + x1·a1 + …
@@ -56,6 +56,6 @@ Double EvaluarPotencial(const std::vector<Double>& a, const std::vector<Double>&
 /// Standard error of the estimate, in the unit of y: √(Σ(y - yc)² / (n - k - 1)), where yc is that equation at the
 /// values of the row. For n > k + 1.
 Double ErrorEstandar(Double (*ecuacion)(const std::vector<Double>&, const std::vector<Double>&),
-                     const std::vector<Double>& a, const Variables& x, const ArregloBase<Double>& y, int n);
+                     const std::vector<Double>& a, const Independientes& x, const ArregloBase<Double>& y, int n);
 
 }  // namespace cuencalia
