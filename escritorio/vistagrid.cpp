@@ -26,6 +26,7 @@ constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
 constexpr int kAireColumna = 18;
 constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
+constexpr int kFilasDeTexto = 10;  // a grid of no more rows may hold texts, such as equations, that need their width
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -224,10 +225,17 @@ void VistaGrid::MedirColumnas() {
         }
         anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), texto + kAireColumna));
     }
-    if (anchos == anchos_) {
+    const bool mismosAnchos = anchos == anchos_;
+    anchos_ = anchos;
+    std::vector<int> faltas = FaltaDeAncho();
+    const bool mismasFaltas = faltas == faltas_;
+    faltas_ = std::move(faltas);
+    if (mismosAnchos) {
+        if (!mismasFaltas) {
+            AjustarColumnas();
+        }
         return;
     }
-    anchos_ = anchos;
     const int barra = tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     tabla_->anchoNatural = std::accumulate(anchos_.begin(), anchos_.end(), 0) + barra + 2 * tabla_->frameWidth() + 2;
     const bool conEtiquetas = grid_.FixedCols() > 0;
@@ -240,18 +248,39 @@ void VistaGrid::MedirColumnas() {
     AjustarColumnas();
 }
 
+std::vector<int> VistaGrid::FaltaDeAncho() const {
+    std::vector<int> faltas(anchos_.size());
+    if (grid_.Rows() > kFilasDeTexto) {
+        return faltas;
+    }
+    const QFontMetrics letra = tabla_->fontMetrics();
+    for (int c = grid_.FixedCols(); c < grid_.Cols(); ++c) {
+        int& falta = faltas[static_cast<std::size_t>(c)];
+        for (int f = grid_.FixedRows(); f < grid_.Rows(); ++f) {
+            const int texto = letra.horizontalAdvance(Q(grid_.TextMatrix(f, c))) + kAireColumna;
+            falta = std::max(falta, texto - anchos_[static_cast<std::size_t>(c)]);
+        }
+    }
+    return faltas;
+}
+
 void VistaGrid::AjustarColumnas() {
     const auto primera = static_cast<std::size_t>(grid_.FixedCols());
     if (anchos_.size() <= primera) {
         return;
     }
-    // Spare width is distributed among the data columns, so that the table has no empty strip at its right.
+    // Spare width is distributed among the data columns, so that the table has no empty strip at its right: first to
+    // those that cut a text, then in equal parts.
     const int natural = std::accumulate(anchos_.begin() + static_cast<std::ptrdiff_t>(primera), anchos_.end(), 0);
     const int sobra = std::max(0, tabla_->viewport()->width() - natural);
+    const int falta = std::accumulate(faltas_.begin(), faltas_.end(), 0);
+    const int resto = std::max(0, sobra - falta);
     const int columnas = static_cast<int>(anchos_.size() - primera);
     for (int c = 0; c < columnas; ++c) {
-        const int parte = sobra * (c + 1) / columnas - sobra * c / columnas;
-        tabla_->setColumnWidth(c, anchos_[primera + static_cast<std::size_t>(c)] + parte);
+        const std::size_t k = primera + static_cast<std::size_t>(c);
+        const int propia = falta > sobra ? faltas_[k] * sobra / falta : faltas_[k];
+        const int parte = resto * (c + 1) / columnas - resto * c / columnas;
+        tabla_->setColumnWidth(c, anchos_[k] + propia + parte);
     }
     const int alto = tabla_->verticalHeader()->defaultSectionSize();
     grid_.PonerFilasVisibles(tabla_->viewport()->height() / std::max(1, alto));

@@ -74,6 +74,8 @@ class VistaGrid : public Vista {
   private:
     void AjustarColumnas();
     void MedirColumnas();
+    /// How much wider each column would have to be to show its texts whole; 0 in all columns of a long grid.
+    std::vector<int> FaltaDeAncho() const;
     void MostrarSeleccion();
     void MostrarDesplazamiento();
     bool Presionar(QMouseEvent& evento);
@@ -86,7 +88,7 @@ class VistaGrid : public Vista {
     TablaGrid* tabla_;
     ModeloGrid* modelo_;
     QLabel* esquina_;
-    std::vector<int> anchos_;
+    std::vector<int> anchos_, faltas_;
     int filaMostrada_ = -1, superiorMostrada_ = -1;
     bool mostrando_ = false;
 };
