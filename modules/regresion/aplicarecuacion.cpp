@@ -87,12 +87,13 @@ Disposicion AplicarEcuacion::Zona() {
     for (std::size_t i = 0; i < cajas.size(); ++i) {
         valores.insert(valores.end(), {rotulos[i], cajas[i]});
     }
-    valores.insert(valores.end(), {Label7, txtvyy, Espacio()});
+    valores.push_back(Espacio());
     for (OptionButton& opcion : opciones) {
         elecciones.emplace_back(opcion);
     }
-    elecciones.insert(elecciones.end(), {Espacio(), bLimpiarDatos});
-    return Grupo(Frame4, {lblCalculoY, Fila(std::move(valores)), Fila(std::move(elecciones))});
+    elecciones.push_back(Espacio());
+    return Grupo(Frame4, {lblCalculoY, Fila(std::move(valores)), Fila(std::move(elecciones)),
+                          Fila({Label7, txtvyy, bLimpiarDatos, Espacio()})});
 }
 
 }  // namespace cuencalia

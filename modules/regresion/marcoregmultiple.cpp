@@ -59,9 +59,9 @@ bool MarcoRegMultiple::Ajustar() {
         return false;
     }
     aL = lineal->coef;
-    const std::vector<std::string> filaLineal =
-        FilaDeEcuacion(Regresion().filas[0], TextoEcuacion(descripcion_.ecuacionLineal, aL), lineal->R2(),
-                       ErrorEstandar(EvaluarLineal, aL, u, y, n));
+    const Double R2lineal = lineal->R2();
+    const auto filaLineal = FilaDeEcuacion(Regresion().filas[0], TextoEcuacion(descripcion_.ecuacionLineal, aL),
+                                           Sqr(R2lineal), R2lineal, ErrorEstandar(EvaluarLineal, aL, u, y, n));
 
     const auto potencial = AjustarPotencial(u, y, n, BusquedaPivote::EnFila);
     if (!potencial) {
@@ -69,9 +69,10 @@ bool MarcoRegMultiple::Ajustar() {
     }
     aP = potencial->coef;
     aP[0] = Exp(aP[0]);
-    const std::vector<std::string> filaPotencial = FilaDeEcuacion(
+    const Double R2potencial = potencial->R2();
+    const auto filaPotencial = FilaDeEcuacion(
         Regresion().filas[1], TextoEcuacion(descripcion_.ecuacionPotencial, aP, descripcion_.signoPotencial),
-        potencial->R2(), ErrorEstandar(EvaluarPotencial, aP, u, y, n));
+        Sqr(R2potencial), R2potencial, ErrorEstandar(EvaluarPotencial, aP, u, y, n));
 
     // The table is written only now: a value without a logarithm leaves it as it was, the linear row too.
     grdecua.PonerFila(1, filaLineal);
@@ -92,6 +93,6 @@ void MarcoRegMultiple::GenerarReporte(Reporte& reporte) {
     reporte.ReporteLinea("El valor de Y es: Y = " + aplicar.txtvyy.Text());
 }
 
-Disposicion MarcoRegMultiple::Contenido() { return Columna({grdecua, aplicar.Zona(), Espacio()}); }
+Disposicion MarcoRegMultiple::Contenido() { return Columna({aplicar.Zona(), Espacio()}); }
 
 }  // namespace cuencalia

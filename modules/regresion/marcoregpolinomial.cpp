@@ -60,8 +60,9 @@ bool MarcoRegPolinomial::Ajustar() {
         return false;
     }
     a = regresion->coef;
+    const Double R2 = regresion->R2(), R = Sqr(R2);
     const Double Se = Sqr(regresion->SumaResiduos() / (n - Regresion().k - 1));
-    grdecua.PonerFila(1, FilaDeEcuacion(Regresion().filas[0], TextoEcuacion(ecuacion_, a), regresion->R2(), Se));
+    grdecua.PonerFila(1, FilaDeEcuacion(Regresion().filas[0], TextoEcuacion(ecuacion_, a), R, R2, Se));
     yc.resize(std::max(yc.size(), static_cast<std::size_t>(n)));
     for (int i = 1; i <= n; ++i) {
         yc[static_cast<std::size_t>(i - 1)] = EvaluarLineal(a, Potencias(x[0](i)));
@@ -108,7 +109,7 @@ void MarcoRegPolinomial::GenerarReporte(Reporte& reporte) {
 
 Disposicion MarcoRegPolinomial::Contenido() {
     Disposicion aplicar = Grupo(Frame4, {lblCalculoY, Fila({Label6, txtvxx1, bCalY, Label7, txtvyy, Espacio()})});
-    return Columna({grdecua, std::move(aplicar), Disposicion(Graph1).Estira(1), Espacio(0)});
+    return Columna({std::move(aplicar), Disposicion(Graph1).Estira(1), Espacio(0)});
 }
 
 }  // namespace cuencalia

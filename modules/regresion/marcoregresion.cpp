@@ -47,8 +47,8 @@ void MarcoRegresion::Calcular() {
 }
 
 std::vector<std::string> MarcoRegresion::FilaDeEcuacion(const std::string& nombre, const std::string& ecuacion,
-                                                        Double R2, Double Se) {
-    return {nombre, ecuacion, Format(Sqr(R2), kPatronCorrelacion), Format(R2, kPatronCorrelacion),
+                                                        Double R, Double R2, Double Se) {
+    return {nombre, ecuacion, Format(R, kPatronCorrelacion), Format(R2, kPatronCorrelacion),
             Format(Se, kPatronCorrelacion)};
 }
 

@@ -32,15 +32,17 @@ class MarcoRegresion : public ModuloCalculo {
 
   protected:
     const DescripcionRegresion& Regresion() const { return regresion_; }
-    /// The row of the table of an equation: its name, its text, R, R² and Se. Error 5 for an R² below 0.
-    static std::vector<std::string> FilaDeEcuacion(const std::string& nombre, const std::string& ecuacion, Double R2,
-                                                   Double Se);
+    /// The row of the table of an equation.
+    static std::vector<std::string> FilaDeEcuacion(const std::string& nombre, const std::string& ecuacion, Double R,
+                                                   Double R2, Double Se);
     /// Fits the equations to the rows read and fills the table; returns whether the normal equations have a solution.
     virtual bool Ajustar() = 0;
     /// Writes the data, between rules of `reglaDatos` dashes, and the table of equations.
     void ReportarTablas(Reporte& reporte, const RotulosTabla& rotulosDatos, int reglaDatos,
                         const RotulosTabla& rotulosEcuaciones);
     void Calcular() override;
+    /// The table of equations, which are long, above all the rest.
+    Disposicion Cuerpo() override { return Columna({grdecua, ModuloCalculo::Cuerpo().Estira(1)}); }
 
   private:
     DescripcionRegresion regresion_;
