@@ -12,6 +12,11 @@
 #include "modules/estadistica/frmDistriFre.h"
 #include "modules/estadistica/frmParEstAgru.h"
 #include "modules/estadistica/frmParamEsta.h"
+#include "modules/regresion/frmEjRegSimple.h"
+#include "modules/regresion/frmRegMul2Var.h"
+#include "modules/regresion/frmRegMul3Var.h"
+#include "modules/regresion/frmRegPoli2Gra.h"
+#include "modules/regresion/frmRegPoli3Gra.h"
 #include "modules/regresion/frmRegreLineal.h"
 #include "shell/frmCalculadora.h"
 #include "shell/frmCuencalia.h"
@@ -38,6 +43,11 @@ TablaFormas FormasDelPrograma() {
         {"frmParEstAgru", Hacer<frmParEstAgru>},
         {"frmParamEsta", Hacer<frmParamEsta>},
         {"frmRegreLineal", Hacer<frmRegreLineal>},
+        {"frmEjRegSimple", Hacer<frmEjRegSimple>},
+        {"frmRegMul2Var", Hacer<frmRegMul2Var>},
+        {"frmRegMul3Var", Hacer<frmRegMul3Var>},
+        {"frmRegPoli2Gra", Hacer<frmRegPoli2Gra>},
+        {"frmRegPoli3Gra", Hacer<frmRegPoli3Gra>},
         {"frmDisGamma2par", Hacer<frmDisGamma2par>},
         {"frmDisGamma3par", Hacer<frmDisGamma3par>},
         {"frmDisGumbel", Hacer<frmDisGumbel>},
