@@ -3,7 +3,6 @@
 #include <random>
 
 #include "modules/estadistica/clases.h"
-#include "modules/regresion/regresionlineal.h"
 #include "tests/datos_publicados.h"
 #include "tests/numero_de_error.h"
 
@@ -177,38 +176,6 @@ TEST(Clases, LimitesYFrecuencias) {
     Valores valores(50, 1e8);
     valores[0] = 1e-8, valores[49] = 1e9;
     EsperarClases(valores, 0, 1e9 / 6, {49, 0, 0, 0, 0, 0});
-}
-
-// Calibration of ozone monitors: 36 pairs. A sum of n products is off by at most n units of 2^-53 of the sum of their
-// absolute values, and so is n times a product of two means, with a few units more (Higham, Accuracy and Stability of
-// Numerical Algorithms, chapter 4). As all x and y are positive, Σx² + n·xm² is Sxx + 2n·xm², where n·xm² is 1.493·Sxx,
-// and so for the others: each S errs by 76·2^-53·3.99 = 3.4e-14 of itself, b by two and R² by four of these. With means
-// of 420, a errs by 420 times the error of b and by 76·2^-53·(420 + 420·b) besides: 4.3e-11.
-TEST(RegresionLineal, CertificadaPorNist) {
-    const RectaRegresion recta =
-        AjustarRecta(EnSerie(LeerColumna("nist/Norris.dat", 1)), EnSerie(LeerColumna("nist/Norris.dat", 0)), 36);
-    const double R = CoeficienteCorrelacion(recta).valor();
-    EsperarRelativo(recta.b, CertificadoNist("Norris", "B1"), 6.8e-14 + kCertificado);
-    EXPECT_NEAR(recta.a.valor(), CertificadoNist("Norris", "B0"), 4.3e-11);
-    EXPECT_NEAR(R * R, CertificadoNist("Norris", "R2"), 1.4e-13 + kCertificado);
-}
-
-// All sums are exact in binary.
-TEST(RegresionLineal, CalculadaAMano) {
-    const auto esperar = [](const Valores& x, const Valores& y, int n, double a, double b, double R) {
-        const RectaRegresion recta = AjustarRecta(EnSerie(x), EnSerie(y), n);
-        EXPECT_EQ(std::pair(recta.a, recta.b), std::pair(Double(a), Double(b)));
-        EXPECT_DOUBLE_EQ(CoeficienteCorrelacion(recta).valor(), R);
-    };
-    esperar({0, 2, 77}, {1, 5, -99}, 2, 1, 2, 1);                           // the third pair does not count
-    esperar({1, 2, 3}, {2, 3.5, 6.5}, 3, -0.5, 2.25, 4.5 / std::sqrt(21));  // means 2, 4; Sxx 2, Sxy 4.5, Syy 10.5
-    esperar({3, 1, 2}, {-6.5, -2, -3.5}, 3, 0.5, -2.25, -4.5 / std::sqrt(21));
-    // Equal x have no line. Equal y have one, but no correlation: 0 / 0, or the root of a Syy that rounding has made
-    // -6.9E-18 (recomputed with Python).
-    const auto ajustar = [](const Valores& x, const Valores& y) { return AjustarRecta(EnSerie(x), EnSerie(y), 3); };
-    EXPECT_EQ(NumeroDeError([&] { return ajustar({2, 2, 2}, {1, 5, 3}); }), 6);
-    EXPECT_EQ(NumeroDeError([&] { return CoeficienteCorrelacion(ajustar({1, 2, 3}, {4, 4, 4})); }), 6);
-    EXPECT_EQ(NumeroDeError([&] { return CoeficienteCorrelacion(ajustar({1, 2, 3}, {0.1, 0.1, 0.1})); }), 5);
 }
 
 }  // namespace

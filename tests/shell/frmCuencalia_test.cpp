@@ -29,19 +29,18 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
             }
         }
     }
-    EXPECT_EQ(abiertas,
-              (pruebas::Textos{"Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
-                               "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
-                               "Regresión &simple: frmEjRegSimple",
-                               "Regresión múltiple &2 var. independientes: frmRegMul2Var",
-                               "Regresión múltiple &3 var. independientes: frmRegMul3Var",
-                               "Regresión &polinomial 2° grado: frmRegPoli2Gra",
-                               "Regresión polinomial 3° &grado: frmRegPoli3Gra",
-                               "&Normal: frmDisNormal", "LogNormal 2 parámetros: frmDisLogNormal2",
-                               "LogNormal 3 parámetros: frmDisLogNormal3", "Gamma 2 parámetros: frmDisGamma2par",
-                               "Gamma 3 parámetros: frmDisGamma3par", "LogPearson tipo III: frmDisLogPearson3",
-                               "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel", "Ayuda: frmCuencalia",
-                               "Acerca de Cuencalia 2: frmacerc"}));
+    EXPECT_EQ(
+        abiertas,
+        (pruebas::Textos{
+            "Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
+            "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
+            "Regresión &simple: frmEjRegSimple", "Regresión múltiple &2 var. independientes: frmRegMul2Var",
+            "Regresión múltiple &3 var. independientes: frmRegMul3Var",
+            "Regresión &polinomial 2° grado: frmRegPoli2Gra", "Regresión polinomial 3° &grado: frmRegPoli3Gra",
+            "&Normal: frmDisNormal", "LogNormal 2 parámetros: frmDisLogNormal2",
+            "LogNormal 3 parámetros: frmDisLogNormal3", "Gamma 2 parámetros: frmDisGamma2par",
+            "Gamma 3 parámetros: frmDisGamma3par", "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel",
+            "LogGumbel: frmDisLogGumbel", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
     EXPECT_FALSE(sistema.terminado);
     Elegir("mparasalir");
     EXPECT_TRUE(sistema.terminado);
