@@ -22,17 +22,17 @@ namespace cuencalia::pruebas {
 
 namespace {
 
-constexpr int kFilas = 1500;  // the most that a module takes
+constexpr int kFilas = 1500;  // the most that nearly all modules take
 
 /// A module with a full grid.
 class Modulo {
   public:
-    explicit Modulo(const char* forma = "frmParamEsta") : forma_(forma) {
+    explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas) : forma_(forma) {
         app_.Despachar([this] { app_.ModuloAbrir(forma_); });
         grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
-        app_.Despachar([this] {
-            grid_->PonerRows(kFilas + 2);
-            for (int i = 1; i <= kFilas; ++i) {
+        app_.Despachar([this, filas] {
+            grid_->PonerRows(filas + 2);
+            for (int i = 1; i <= filas; ++i) {
                 grid_->PonerTextMatrix(i, 0, Str(i));
                 for (int c = 1; c < grid_->Cols(); ++c) {
                     grid_->PonerTextMatrix(i, c, Format(100 + 40 * std::sin(0.7 * i * c), "0.0###"));
@@ -256,6 +256,17 @@ void Reportar(benchmark::State& estado) {
     }
 }
 
+/// Calcular of a regression. The values are above 0, and no column depends on the others.
+void CalcularRegresion(benchmark::State& estado, const char* forma, int filas) {
+    Modulo modulo(forma, filas);
+    for (auto _ : estado) {
+        modulo.Pulsar("bCalcular");
+    }
+    if (!modulo.Bien()) {
+        estado.SkipWithError("the regression failed");
+    }
+}
+
 /// The chart of 1500 pairs, as the model that the screen draws.
 void Graficar(benchmark::State& estado) {
     Modulo modulo("frmRegreLineal");
@@ -271,6 +282,12 @@ BENCHMARK_CAPTURE(Cargar, Accesar_1500, "bAccesar", &Archivos::Serie)->Unit(benc
 BENCHMARK_CAPTURE(Cargar, Excel_1500, "bCargarExcel", &Archivos::Libro)->Unit(benchmark::kMillisecond);
 BENCHMARK(Reportar)->Name("Reporte_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK(Graficar)->Name("Grafico_1500")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Lineal_1550, "frmRegreLineal", 1550)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Simple_1550, "frmEjRegSimple", 1550)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Multiple2_1500, "frmRegMul2Var", 1500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Multiple3_1500, "frmRegMul3Var", 1500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Polinomio2_1500, "frmRegPoli2Gra", 1500)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularRegresion, Polinomio3_1500, "frmRegPoli3Gra", 1500)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Calcular_1500, "bCalcular")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Ordenar_1500, "bOrdenar")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("Tecla_1500")->Unit(benchmark::kMillisecond);
