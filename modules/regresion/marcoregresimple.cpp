@@ -16,13 +16,6 @@ DescripcionModulo ModuloDePares(std::string titulo) {
             .archivo = &kArchivoXY};
 }
 
-std::string CeldaDeEcuacion(const std::string& texto, int fila, int columna) {
-    if (fila == 1) {
-        return texto + "  \t";
-    }
-    return texto + (columna == 2 ? "     \t" : "\t");
-}
-
 MarcoRegreSimple::MarcoRegreSimple(Aplicacion& app, std::string nombre, const std::string& titulo, int ecuaciones)
     : ModuloCalculo(app, std::move(nombre), ModuloDePares(titulo)),
       grdecua(*this, "grdecua", ecuaciones == 1 ? "Ecuación de ajuste" : "Ecuaciones de ajuste",

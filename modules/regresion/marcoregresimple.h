@@ -11,10 +11,6 @@ namespace cuencalia {
 /// The data grid and the files of the windows that fit a curve to pairs X, Y.
 DescripcionModulo ModuloDePares(std::string titulo);
 
-/// Writes the cells of a table of equations: two blanks and a tab after each cell of row 1, a tab after those of the
-/// other rows, with five blanks before it in column 2.
-std::string CeldaDeEcuacion(const std::string& texto, int fila, int columna);
-
 /// Curves fitted by the least-squares line through pairs of numbers, or through their logarithms.
 class MarcoRegreSimple : public ModuloCalculo {
   public:

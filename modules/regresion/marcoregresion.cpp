@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "frame/base/textos.h"
-#include "modules/regresion/marcoregresimple.h"
 #include "modules/regresion/textoecuacion.h"
 
 namespace cuencalia {

@@ -26,4 +26,11 @@ std::string TextoEcuacion(const std::vector<std::string>& trozos, const std::vec
     return texto;
 }
 
+std::string CeldaDeEcuacion(const std::string& texto, int fila, int columna) {
+    if (fila == 1) {
+        return texto + "  \t";
+    }
+    return texto + (columna == 2 ? "     \t" : "\t");
+}
+
 }  // namespace cuencalia

@@ -26,4 +26,8 @@ enum class Signo { Siempre, SoloMenos };
 std::string TextoEcuacion(const std::vector<std::string>& trozos, const std::vector<Double>& a,
                           Signo signo = Signo::Siempre);
 
+/// The cells of a table of equations in a report: two blanks and a tab after each cell of row 1, a tab after those of
+/// the other rows, with five blanks before it in column 2.
+std::string CeldaDeEcuacion(const std::string& texto, int fila, int columna);
+
 }  // namespace cuencalia

@@ -52,6 +52,17 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
     });
     EXPECT_GE(Tabla().columnWidth(0), 200);  // 3000 twips of 15 to a pixel
     EXPECT_GT(Tabla().columnWidth(1), Tabla().fontMetrics().horizontalAdvance(largo));
+    // In a grid of few rows a text that would be cut has the spare width before the others get their share.
+    Tabla().window()->resize(1200, 600);
+    const int sobra = Tabla().columnWidth(2) - 40;
+    ASSERT_GT(sobra, 100);
+    Hacer([&] {
+        G().PonerRows(3);
+        G().PonerColWidth(3, 600);
+        G().PonerTextMatrix(1, 3,
+                            std::string(static_cast<std::size_t>(3 * sobra / Tabla().fontMetrics().height()), 'm'));
+    });
+    EXPECT_GT(Tabla().columnWidth(2), Tabla().fontMetrics().horizontalAdvance(Texto(0, 2))) << sobra;
 }
 
 TEST_F(Grid, RowsInSightGoBothWays) {
