@@ -41,6 +41,7 @@ ComandosArchivo::ComandosArchivo(ModuloCalculo& modulo, const FormatoSerie* form
     cdAccesar.Filter = formato_->FiltroAccesar();
     bCrear.Click.Conectar([this] { bCrear_Click(); });
     bAccesar.Click.Conectar([this] { bAccesar_Click(); });
+    bCargarExcel.Visible = formato_->conHoja;
     if (formato_->conHoja) {
         bCargarExcel.Click.Conectar([this] { bCargarExcel_Click(); });
     }
@@ -74,6 +75,7 @@ void ComandosArchivo::bCrear_Click() {
         cdCrear.ShowSave();
         modulo_.App().Globales().NombreArchivo = cdCrear.FileName;
         modulo_.CargarMatrices();
+        modulo_.CargarCola();
         // What cannot be a Single ends the file where it stands, as does the end of the data.
         std::vector<Registro> registros;
         std::optional<ErrorEjecucion> fallo;

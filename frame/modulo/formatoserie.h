@@ -16,7 +16,7 @@ struct FormatoSerie {
     const char* extension{};                      ///< File name pattern of the filter.
     int registrosDeCola = 0;                      ///< Records of a file after those of the data rows.
     int filasDeCabeza = 0;                        ///< Rows of a sheet before the data rows.
-    bool conHoja = true;                          ///< Whether the module can load sheets.
+    bool conHoja = true;                          ///< Whether the module can load sheets; false hides the button.
     const char* patronArchivo = kPatronEdicionA;  ///< Shows the numbers loaded from a file.
     const char* patronHoja = kPatronEdicionB;     ///< Shows the numbers loaded from a sheet.
 
@@ -26,7 +26,7 @@ struct FormatoSerie {
 
 inline constexpr FormatoSerie kArchivoX{1, "Valores de X", "Valores X", "*.X"};
 inline constexpr FormatoSerie kArchivoXMaximas{1, "Valores de X", "Valores de X", "*.X"};
-inline constexpr FormatoSerie kArchivoQ{1, "Valores de Q", "Valores Q", "*.Q", 1};
+inline constexpr FormatoSerie kArchivoQ{1, "Valores de Q", "Valores Q", "*.Q", 1, 0, false};
 inline constexpr FormatoSerie kArchivoCD{1, "Valores de caudales Q", "Valores de caudales Q", "*.CD"};
 inline constexpr FormatoSerie kArchivoVE{1, "Valores mensuales de X", "Valores mensuales de X", "*.VE"};
 inline constexpr FormatoSerie kArchivoTM{1, "Temperaturas mensuales TM", "Temperaturas mensuales TM", "*.TM"};

@@ -47,6 +47,8 @@ class ModuloCalculo : public MarcoModulo {
     Registro RegistroDe(int i) const;
     /// Greatest number of rows that the arrays can hold.
     int FilasMax() const;
+    /// Reads what the records after those of the data rows will hold. An error leaves the old file as it was.
+    virtual void CargarCola() {}
     /// The records that a file of this module has after those of the data rows, and their use when a file is loaded.
     virtual std::vector<Registro> RegistrosDeCola() { return {}; }
     virtual void LeerCola(const std::vector<Registro>& /*registros*/) {}
