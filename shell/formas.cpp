@@ -17,6 +17,9 @@
 #include "modules/regresion/frmRegMul3Var.h"
 #include "modules/regresion/frmRegPoli2Gra.h"
 #include "modules/regresion/frmRegPoli3Gra.h"
+#include "modules/precipitacion/frmIsoyeta.h"
+#include "modules/precipitacion/frmPromArit.h"
+#include "modules/precipitacion/frmThiessen.h"
 #include "modules/regresion/frmRegreLineal.h"
 #include "shell/frmCalculadora.h"
 #include "shell/frmCuencalia.h"
@@ -56,6 +59,9 @@ TablaFormas FormasDelPrograma() {
         {"frmDisLogNormal3", Hacer<frmDisLogNormal3>},
         {"frmDisLogPearson3", Hacer<frmDisLogPearson3>},
         {"frmDisNormal", Hacer<frmDisNormal>},
+        {"frmPromArit", Hacer<frmPromArit>},
+        {"frmThiessen", Hacer<frmThiessen>},
+        {"frmIsoyeta", Hacer<frmIsoyeta>},
     };
 }
 
