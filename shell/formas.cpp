@@ -1,6 +1,8 @@
 #include "shell/formas.h"
 
 #include "frame/reportes/frmPadre.h"
+#include "modules/caudales/frmQmaxGumbel.h"
+#include "modules/caudales/frmQmaxNash.h"
 #include "modules/distribuciones/frmDisGamma2par.h"
 #include "modules/distribuciones/frmDisGamma3par.h"
 #include "modules/distribuciones/frmDisGumbel.h"
@@ -62,6 +64,8 @@ TablaFormas FormasDelPrograma() {
         {"frmPromArit", Hacer<frmPromArit>},
         {"frmThiessen", Hacer<frmThiessen>},
         {"frmIsoyeta", Hacer<frmIsoyeta>},
+        {"frmQmaxGumbel", Hacer<frmQmaxGumbel>},
+        {"frmQmaxNash", Hacer<frmQmaxNash>},
     };
 }
 
