@@ -7,7 +7,7 @@ namespace cuencalia {
 frmQmaxGumbel::frmQmaxGumbel(Aplicacion& app)
     : MarcoMaximas(app, "frmQmaxGumbel",
                    {.titulo = "Cálculo de caudal de diseño utilizando la distribución Gumbel",
-                    .parametros = {"Qm", "SQ", "YN", "SN"},
+                    .parametros = {{"Qm", 1050}, {"SQ", 1050}, {"YN", 850}, {"SN", 850}},
                     .reporte = {{0, "Número de años disponibles: "},
                                 {0, "Promedio Q:                 "},
                                 {0, "Desviación estándar Q:      "},

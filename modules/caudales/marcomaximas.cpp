@@ -11,16 +11,11 @@ namespace {
 
 constexpr const char* kPatron = "#####0.0###";
 
-DescripcionTabla Resultados(const std::vector<std::string>& parametros) {
+DescripcionTabla Resultados(const std::vector<ColumnaTabla>& parametros) {
     DescripcionTabla tabla{.filas = 2, .columnas = {{"N° años disponibles", 1650}}};
-    for (const std::string& parametro : parametros) {
-        tabla.columnas.push_back({parametro, 1000});
-    }
-    for (const char* encabezado : {"Qmáx", "DeltaQ"}) {
-        tabla.columnas.push_back({encabezado, 1000});
-    }
-    tabla.columnas.push_back({"IntervaloQ", 1750});
-    tabla.columnas.push_back({"Qdiseño", 1050});
+    tabla.columnas.insert(tabla.columnas.end(), parametros.begin(), parametros.end());
+    tabla.columnas.insert(tabla.columnas.end(),
+                          {{"Qmáx", 1050}, {"DeltaQ", 950}, {"IntervaloQ", 1650}, {"Qdiseño", 1050}});
     return tabla;
 }
 

@@ -16,11 +16,11 @@ struct RenglonMaximas {
 /// The properties in which the windows of design discharge from annual maxima differ.
 struct DescripcionMaximas {
     std::string titulo;
-    std::vector<std::string> parametros;  ///< Headings of the method's own results.
-    std::vector<RenglonMaximas> reporte;  ///< The results up to the interval.
-    const char* conclusion;               ///< The report's last sentence up to the return period.
-    int TMinimo;                          ///< The return period must be greater than this, in years.
-    int annosMinimos;                     ///< Years that the method needs.
+    std::vector<ColumnaTabla> parametros;  ///< The method's own results.
+    std::vector<RenglonMaximas> reporte;   ///< The results up to the interval.
+    const char* conclusion;                ///< The report's last sentence up to the return period.
+    int TMinimo;                           ///< The return period must be greater than this, in years.
+    int annosMinimos;                      ///< Years that the method needs.
 };
 
 /// The interval of a discharge as the tables show it: the whole part and the fraction of each end, joined as they are

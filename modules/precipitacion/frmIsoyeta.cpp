@@ -50,7 +50,8 @@ std::string frmIsoyeta::Consejo(const ErrorEjecucion& error) const {
 }
 
 Disposicion frmIsoyeta::Cuerpo() {
-    Disposicion cuadricula = Fila({Disposicion(datos.grdt).Estira(1), Columna({lblIsoyetaInicial, Espacio()})});
+    Disposicion cuadricula =
+        Fila({Disposicion(datos.grdt).Estira(1), Columna({lblSobreInicial, lblIsoyetaInicial, Espacio()})});
     Disposicion zona =
         Columna({datos.lbl1, std::move(cuadricula).Estira(1), Fila({datos.Label2, Disposicion(datos.Label1).Estira(1)}),
                  Fila({lblUltimaIsoyeta, txtUltimaIsoyeta, lblIsoyetaFinal}), datos.txtt});

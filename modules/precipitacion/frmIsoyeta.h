@@ -13,8 +13,9 @@ class frmIsoyeta : public MarcoLluviaMedia {
   public:
     explicit frmIsoyeta(Aplicacion& app);
 
-    Label lblIsoyetaInicial{*this, "lblIsoyetaInicial", "(isoyeta inicial)", Papel::Nota};
-    Label lblIsoyetaFinal{*this, "lblIsoyetaFinal", "(isoyeta final)", Papel::Nota};
+    Label lblIsoyetaInicial{*this, "lblIsoyetaInicial", "(isoyeta inicial)"};
+    Label lblSobreInicial{*this, "lblSobreInicial"};  ///< As high as the grid's heading.
+    Label lblIsoyetaFinal{*this, "lblIsoyetaFinal", "(isoyeta final)"};
     Label lblUltimaIsoyeta{*this, "lblUltimaIsoyeta", "Valor de la última isoyeta (mm):"};
     TextBox txtUltimaIsoyeta{*this, "txtUltimaIsoyeta"};
 
