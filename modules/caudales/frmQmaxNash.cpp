@@ -16,7 +16,7 @@ constexpr const char* kPatronVariable = "#####0.0###";
 frmQmaxNash::frmQmaxNash(Aplicacion& app)
     : MarcoMaximas(app, "frmQmaxNash",
                    {.titulo = "Cálculo del caudal de diseño utilizando el método estadístico propuesto por Nash",
-                    .parametros = {{"Qm", 1050}, {"Xm", 750}, {"a", 1150}, {"b", 1200}},
+                    .parametros = {{"Qm", 1050}, {"Xm", 900}, {"a", 1050}, {"b", 1150}},
                     .reporte = {{5, "Número de años disponibles: "},
                                 {25, "Qm:                 "},
                                 {36, "Xm:      "},
