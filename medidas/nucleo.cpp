@@ -13,6 +13,7 @@
 
 #include "frame/base/archivoserie.h"
 #include "frame/base/textos.h"
+#include "frame/controles/controles.h"
 #include "frame/controles/flexgrid.h"
 #include "guion/plataformaguion.h"
 #include "hojas/libros.h"
@@ -42,6 +43,9 @@ class Modulo {
     }
 
     void Pulsar(const char* boton) { app_.Pulsar(*app_.Cargada(forma_)->Controls(boton)); }
+    void Escribir(const char* caja, const char* texto) {
+        app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
+    }
     /// The answer of the next file dialog.
     void Responder(const std::string& archivo) { plataforma_.archivo = archivo; }
     int Filas() const { return grid_->Rows(); }
@@ -174,6 +178,27 @@ void Pulsar(benchmark::State& estado, const char* boton) {
     }
 }
 
+/// A window with the most rows that it takes, and what its box must say.
+struct Llena {
+    const char* forma;
+    const char* caja = nullptr;
+    const char* texto = nullptr;
+    int filas = kFilas;
+};
+
+void CalcularLlena(benchmark::State& estado, const Llena& llena) {
+    Modulo modulo(llena.forma, llena.filas);
+    if (llena.caja != nullptr) {
+        modulo.Escribir(llena.caja, llena.texto);
+    }
+    for (auto _ : estado) {
+        modulo.Pulsar("bCalcular");
+    }
+    if (!modulo.Bien()) {
+        estado.SkipWithError("the calculation failed");
+    }
+}
+
 void TeclearUnValor(benchmark::State& estado) {
     Modulo modulo;
     int fila = 0;
@@ -290,6 +315,12 @@ BENCHMARK_CAPTURE(CalcularRegresion, Polinomio2_1500, "frmRegPoli2Gra", 1500)->U
 BENCHMARK_CAPTURE(CalcularRegresion, Polinomio3_1500, "frmRegPoli3Gra", 1500)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Calcular_1500, "bCalcular")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Ordenar_1500, "bOrdenar")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, PromArit, Llena{"frmPromArit"})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, Thiessen, Llena{"frmThiessen"})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, Isoyeta, Llena{"frmIsoyeta", "txtUltimaIsoyeta", "100", kFilas - 1})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, QmaxGumbel, Llena{"frmQmaxGumbel", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, QmaxNash, Llena{"frmQmaxNash", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("Tecla_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK(AgregarUnaFila)->Name("FilaNueva_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_60, 60)->Unit(benchmark::kMillisecond);
