@@ -41,9 +41,9 @@ TEST(GumbelMaximas, ParametrosReducidosYLaTabla) {
         EXPECT_NEAR(DesviacionReducida(n).valor(), SN, 5e-7) << n;
     }
     for (const auto& [desde, hasta, deYN, deSN] :
-         {std::tuple(10, 29, 0.00273, 0.01312), std::tuple(30, 90, 0.00049, 0.00680),
-          std::tuple(91, 149, 0.00043, 0.00495), std::tuple(150, 399, 0.00062, 0.00453),
-          std::tuple(400, 1500, 0.00062, 0.00417)}) {
+         {std::tuple(2, 7, 0.06450, 0.24752), std::tuple(8, 9, 0.00509, 0.01730), std::tuple(10, 29, 0.00273, 0.01312),
+          std::tuple(30, 90, 0.00049, 0.00680), std::tuple(91, 149, 0.00043, 0.00495),
+          std::tuple(150, 399, 0.00062, 0.00453), std::tuple(400, 1500, 0.00062, 0.00417)}) {
         double mayorYN = 0, mayorSN = 0;
         for (int n = desde; n <= hasta; ++n) {
             const auto [YN, SN] = Tabular(n);
