@@ -177,6 +177,8 @@ QIcon Icono(const QString& nombre) {
     return icono;
 }
 
+QSize TamanoNatural(const QString& nombre) { return QSvgRenderer(Archivo(nombre)).defaultSize(); }
+
 void PintarFondo(QPainter& pintor, const QRectF& donde, const QString& nombre) {
     QSvgRenderer svg(Archivo(nombre));
     if (!svg.isValid()) {

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QSize>
 #include <QString>
 
 class QApplication;
@@ -34,6 +35,8 @@ int Pixeles(int twips);
 
 /// A picture of the program by its name, sharp at any size; an empty icon for an unknown name.
 QIcon Icono(const QString& nombre);
+/// Natural size of a picture, null for an unknown name.
+QSize TamanoNatural(const QString& nombre);
 /// Fills the whole rectangle with a picture, cutting off two of its edges rather than distorting it.
 void PintarFondo(QPainter& pintor, const QRectF& donde, const QString& nombre);
 

@@ -16,6 +16,7 @@ constexpr double kEscalaImagen = 2;  ///< Pixels of the picture for each pixel o
 void PonerEnPapel(LienzoGrafico& papel, const GraficoModulo& grafico, const LienzoGrafico& pantalla) {
     papel.resize(pantalla.size().expandedTo(kPapelMinimo));
     papel.Dibujar(grafico, Tinta::DePapel());
+    papel.Rotular(grafico);
     papel.VerComo(pantalla);
 }
 

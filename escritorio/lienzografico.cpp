@@ -23,9 +23,10 @@ constexpr int kSimbolosPorLinea = 24;   ///< Symbols of a longer line; more woul
 constexpr double kGrosor = 1.8, kLadoSimbolo = 7;
 constexpr int kPuntosDensos = 300;  ///< Lines with more are thinner: legible, and drawn some fifty times as fast.
 constexpr int kMuestra = 36, kMuestraSimbolo = 14;  ///< Width of a line and of a lone symbol in the legend.
+constexpr int kAnchoNumero = 36;                    ///< Room for the number of a point without an x of its own.
 constexpr int kMargenEjes = 9;                      ///< Margin left of the axis numbers and below the title.
 constexpr int kMargenDerecho = 26;                  ///< Room for the right half of the last axis number.
-constexpr int kAlfaRelleno = 90;
+constexpr int kAlfaRelleno = 90, kAlfaAgua = 60;
 
 /// Colours that people with red or green colour blindness can tell apart: dark ones for paper, light ones for a dark
 /// screen.
@@ -62,6 +63,11 @@ QCPRange ConAire(double minimo, double maximo) {
     const bool uno = maximo - minimo <= 1e-9 * mayor;
     const double aire = !uno ? kAire * (maximo - minimo) : mayor > 0 ? 0.1 * mayor : 1;
     return {minimo - aire, maximo + aire};
+}
+
+QColor ConAlfa(QColor color, int alfa) {
+    color.setAlpha(alfa);
+    return color;
 }
 
 QString Numero(double valor) { return QString::number(valor, 'g', 7); }
@@ -212,20 +218,35 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
             }
         }
     }
+    const auto& x = grafico.Conjuntos().front().x;
+    const bool sinX = std::none_of(x.begin(), x.end(), [](const auto& valor) { return valor.has_value(); });
+    numerados_ = dibujado && sinX ? grafico.NumPoints() : 0;
     PonerLeyenda(conTextos, grafico.GraphType == kGraficoLineas && grafico.GraphStyle == kSimbolosSueltos);
-    MedirDatos(grafico.GraphType == kGraficoAreas);
+    MedirDatos(grafico.GraphType == kGraficoAreas || grafico.Cauce);
     Acomodar(size());
     VerTodo();
+}
+
+void LienzoGrafico::Rotular(const GraficoModulo& grafico) {
+    QStringList abajo{Q(grafico.RotuloX()), Q(grafico.BottomTitle)};
+    abajo.removeAll(QString());
+    xAxis->setLabel(abajo.join(QLatin1Char('\n')));
+    yAxis->setLabel(Q(grafico.RotuloY()));
 }
 
 void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const GraficoModulo& grafico, std::size_t conjunto,
                                  const Tinta& tinta) {
     const std::size_t cual = conjunto % tinta.series->size();
-    const QColor color = (*tinta.series)[cual];
+    const QColor agua = (*tinta.series)[cual];
+    const QColor color = grafico.Cauce ? tinta.texto : agua;
     const bool area = grafico.GraphType == kGraficoAreas;
     const bool sueltos = !area && grafico.GraphStyle == kSimbolosSueltos;
     if (area) {
-        Rellenar(puntos, grafico.PatternData != 0, color);
+        Rellenar(puntos,
+                 QBrush(ConAlfa(color, kAlfaRelleno), grafico.PatternData != 0 ? Qt::BDiagPattern : Qt::SolidPattern));
+    } else if (grafico.Cauce) {
+        Rellenar(puntos, ConAlfa(agua, kAlfaAgua));
+        TrazarSuperficie(puntos, agua);
     }
     // QCPCurve keeps the order of the points, which closed outlines need; a QCPGraph would sort them by x.
     auto* trazo = new QCPCurve(xAxis, yAxis);
@@ -256,7 +277,13 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     trazos_.push_back(trazo);
 }
 
-void LienzoGrafico::Rellenar(const std::vector<QPointF>& puntos, bool conTrama, QColor color) {
+void LienzoGrafico::TrazarSuperficie(const std::vector<QPointF>& puntos, QColor color) {
+    auto* superficie = new QCPCurve(xAxis, yAxis);
+    superficie->setData({puntos.front().x(), puntos.back().x()}, {0, 0});
+    superficie->setPen(QPen(color, kGrosor));
+}
+
+void LienzoGrafico::Rellenar(const std::vector<QPointF>& puntos, const QBrush& brocha) {
     auto* relleno = new QCPCurve(xAxis, yAxis);
     QVector<double> x{puntos.front().x()}, y{0};
     for (const QPointF& punto : puntos) {
@@ -265,8 +292,7 @@ void LienzoGrafico::Rellenar(const std::vector<QPointF>& puntos, bool conTrama, 
     }
     relleno->setData(x << puntos.back().x(), y << 0);
     relleno->setPen(Qt::NoPen);
-    color.setAlpha(kAlfaRelleno);
-    relleno->setBrush(QBrush(color, conTrama ? Qt::BDiagPattern : Qt::SolidPattern));
+    relleno->setBrush(brocha);
 }
 
 void LienzoGrafico::PonerLeyenda(bool conTextos, bool sinLineas) {
@@ -305,7 +331,8 @@ void LienzoGrafico::MedirDatos(bool desdeCero) {
 }
 
 void LienzoGrafico::Acomodar(QSize tamano) {
-    const int ejeX = std::clamp(tamano.width() / 90, 3, 10);
+    const int caben = tamano.width() / kAnchoNumero;
+    const int ejeX = numerados_ > 0 && numerados_ <= caben ? numerados_ : std::clamp(tamano.width() / 90, 3, 10);
     const int ejeY = std::clamp(tamano.height() / 55, 3, 10);
     xAxis->ticker()->setTickCount(ejeX);
     yAxis->ticker()->setTickCount(ejeY);

@@ -27,6 +27,8 @@ class LienzoGrafico : public QCustomPlot {
     explicit LienzoGrafico(QWidget* padre = nullptr);
 
     void Dibujar(const GraficoModulo& grafico, const Tinta& tinta);
+    /// Writes at the axes what the window shows beside the chart.
+    void Rotular(const GraficoModulo& grafico);
     void VerTodo();
     void VerComo(const LienzoGrafico& otro);
     /// Zooms: a factor below 1 shows a smaller range, above 1 a larger one.
@@ -57,7 +59,9 @@ class LienzoGrafico : public QCustomPlot {
     void Entintar(const Tinta& tinta);
     void AgregarTrazo(const std::vector<QPointF>& puntos, const GraficoModulo& grafico, std::size_t conjunto,
                       const Tinta& tinta);
-    void Rellenar(const std::vector<QPointF>& puntos, bool conTrama, QColor color);
+    void TrazarSuperficie(const std::vector<QPointF>& puntos, QColor color);
+    /// Fills what lies between the line and zero.
+    void Rellenar(const std::vector<QPointF>& puntos, const QBrush& brocha);
     void PonerLeyenda(bool conTextos, bool sinLineas);
     int AnchoLeyenda(int columnas) const;
     void MedirDatos(bool desdeCero);
@@ -76,6 +80,7 @@ class LienzoGrafico : public QCustomPlot {
     QCPItemText* valores_;
     Lugar senalado_;
     bool conBorde_ = false;
+    int numerados_ = 0;  ///< Points at 1 to n for want of an x.
 };
 
 }  // namespace cuencalia

@@ -39,7 +39,8 @@ class VistaImagen : public Vista {
             lamina_->setFocusPolicy(Qt::StrongFocus);
             lamina_->setFixedHeight(3);
         } else {
-            lamina_->setMinimumSize(400, 150);
+            lamina_->setMinimumSize(estilo::TamanoNatural(Q(imagen_.Picture)));
+            lamina_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         }
     }
 

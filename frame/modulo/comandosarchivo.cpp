@@ -9,9 +9,6 @@
 
 namespace cuencalia {
 
-namespace {
-
-/// Text of a sheet's cell for the grid: a number is formatted by the pattern, a text is unchanged.
 std::string TextoDeCelda(const ValorCelda& valor, const char* patron) {
     if (const auto* numero = std::get_if<Double>(&valor)) {
         return Format(*numero, patron);
@@ -19,8 +16,6 @@ std::string TextoDeCelda(const ValorCelda& valor, const char* patron) {
     const auto* texto = std::get_if<std::string>(&valor);
     return texto == nullptr ? std::string() : *texto;
 }
-
-}  // namespace
 
 ComandosArchivo::ComandosArchivo(ModuloCalculo& modulo, const FormatoSerie* formato)
     : bCrear(modulo, "bCrear", "&Crear", "Crear archivo"),

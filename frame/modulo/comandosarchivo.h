@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "frame/base/archivoserie.h"
 #include "frame/base/hojas.h"
@@ -11,6 +12,9 @@
 namespace cuencalia {
 
 class ModuloCalculo;
+
+/// Text of a sheet's cell for a grid or a box: a number is formatted by the pattern, a text is unchanged.
+std::string TextoDeCelda(const ValorCelda& valor, const char* patron);
 
 /// The commands by which a module stores its series, reads it back, and imports it from a sheet.
 class ComandosArchivo {

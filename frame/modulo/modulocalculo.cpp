@@ -11,7 +11,8 @@ namespace cuencalia {
 ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionModulo descripcion)
     : MarcoModulo(app, std::move(nombre), descripcion.titulo),
       datos(*this, StatusBar1, std::move(descripcion.datos)),
-      archivos(*this, descripcion.archivo) {}
+      archivos(*this, descripcion.archivo),
+      filasMax_(descripcion.filasMax) {}
 
 void ModuloCalculo::Form_Load() {
     datos.IniciarGrid();
@@ -74,8 +75,10 @@ void ModuloCalculo::DespuesDeEvento() {
 
 std::string ModuloCalculo::Consejo(const ErrorEjecucion& error) const {
     switch (error.Numero()) {
-        case kSubindiceFuera:
-            return datos.Filas() > FilasMax() ? "El módulo admite hasta " + std::to_string(FilasMax()) + " datos" : "";
+        case kSubindiceFuera: {
+            const int admite = std::min(FilasMax(), filasMax_);
+            return datos.Filas() > admite ? "El módulo admite hasta " + std::to_string(admite) + " datos" : "";
+        }
         case kDivisionPorCero:
         case kDesbordamiento:
         case kArgumentoNoValido:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <string>
 #include <variant>
 #include <vector>
@@ -16,6 +17,8 @@ struct DescripcionModulo {
     std::string titulo;
     DescripcionGrid datos;
     const FormatoSerie* archivo = nullptr;  ///< Format of the series files; null for a module without files.
+    /// Rows that the module can calculate, where that is fewer than its arrays hold.
+    int filasMax = std::numeric_limits<int>::max();
 };
 
 /// A module whose data are typed into a grid, as in nearly all calculation windows. The module copies the grid into its
@@ -71,6 +74,7 @@ class ModuloCalculo : public MarcoModulo {
     Disposicion Cuerpo() override;
 
   private:
+    int filasMax_;
     std::vector<Matriz> columnas_;
     std::optional<int> calculadaCon_;  ///< Version of the data that gave the results shown.
     std::optional<int> guardada_;      ///< Version of the data that a file has.

@@ -97,11 +97,30 @@ std::vector<std::optional<Double>> GraficoModulo::Abscisas(int conjunto) const {
     return numeros;
 }
 
+void GraficoModulo::RotularEjes(Label& x, Label& y) {
+    rotuloX_ = &x;
+    rotuloY_ = &y;
+    MostrarRotulos(Visible);
+}
+
+std::string GraficoModulo::TextoDe(const Label* rotulo) {
+    return rotulo != nullptr && rotulo->Visible ? rotulo->Caption() : std::string();
+}
+
+void GraficoModulo::MostrarRotulos(bool visibles) {
+    for (Label* rotulo : {rotuloX_, rotuloY_}) {
+        if (rotulo != nullptr) {
+            rotulo->Visible = visibles;
+        }
+    }
+}
+
 void GraficoModulo::LimpiarGrafico(int fondo) {
     Background = fondo;
     BorderStyle = 0;
     DrawMode = kBorrarGrafico;
     Visible = false;
+    MostrarRotulos(false);
 }
 
 void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcion,
@@ -114,7 +133,9 @@ void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcio
     if (descripcion.conTrama) {
         grafico.PatternData = 2;
     }
+    grafico.Cauce = descripcion.cauce;
     grafico.Visible = true;
+    grafico.MostrarRotulos(true);
     grafico.BottomTitle = descripcion.titulo;
     grafico.AutoInc = descripcion.autoInc;
     grafico.PonerNumPoints(descripcion.puntos.value_or(static_cast<int>(series.at(0).y.size())));

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "frame/base/numeros.h"
-#include "frame/controles/control.h"
+#include "frame/controles/controles.h"
 
 namespace cuencalia {
 
@@ -32,6 +32,8 @@ class GraficoModulo : public Control {
     Propiedad<int> Background{*this, kFondoPapel};
     Propiedad<int> BorderStyle{*this};
     Propiedad<int> PatternData{*this};
+    /// Whether the sets are beds of a stream below the water surface y = 0: surface and water are drawn too.
+    Propiedad<bool> Cauce{*this};
     Propiedad<int> AutoInc{
         *this, 1};  ///< 1: each value written moves on to the next point; 0: ThisPoint and ThisSet address it.
     Propiedad<std::string> BottomTitle{*this};
@@ -65,6 +67,14 @@ class GraficoModulo : public Control {
     /// The chart takes the focus so that the keyboard can step through its points.
     bool AceptaFoco() const override { return true; }
 
+    /// Sets the labels of the window that name the axes. They come and go with the chart; a copy of it, which stands
+    /// without the window, has their texts at its axes.
+    void RotularEjes(Label& x, Label& y);
+    /// The texts for the axes of a copy: empty without a label, or with one that is hidden.
+    std::string RotuloX() const { return TextoDe(rotuloX_); }
+    std::string RotuloY() const { return TextoDe(rotuloY_); }
+    void MostrarRotulos(bool visibles);
+
     /// Hides the chart. Its values are not shown again, since the next drawing begins by emptying it.
     void LimpiarGrafico(int fondo = kFondoPapel);
 
@@ -73,11 +83,14 @@ class GraficoModulo : public Control {
         int conjunto = 1, punto = 1;
     };
 
+    static std::string TextoDe(const Label* rotulo);
     void Vaciar();
     void Escribir(std::vector<std::optional<Double>> Conjunto::*serie, Lugar& siguiente, Double valor);
 
     int puntos_ = 0;
     std::vector<Conjunto> conjuntos_;
+    Label* rotuloX_ = nullptr;
+    Label* rotuloY_ = nullptr;
     int punto_ = 1, conjunto_ = 1;
     Lugar siguienteY_, siguienteX_;
 };
@@ -88,6 +101,7 @@ struct DescripcionGrafico {
     int estilo = kLineasUnidas;
     int fondo = kFondoPapel;
     bool conTrama = false;  ///< Whether the module sets PatternData.
+    bool cauce = false;     ///< Whether the sets are stream beds.
     std::string titulo{};   ///< Title under the x axis.
     int autoInc = 1;
     std::optional<int> puntos{};     ///< NumPoints, when it differs from the length of the first set.

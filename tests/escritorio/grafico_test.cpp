@@ -106,6 +106,17 @@ TEST_F(Grafico, RectanglesStandSideBySideOnZero) {
     EXPECT_EQ(Color(Pixel(1.3, 1.3)), relleno) << "down to zero, where the line itself does not go";
 }
 
+// Banks at 0 and 10, the deepest place at 4.
+TEST_F(Grafico, AStreamBedHasWaterUpToItsSurface) {
+    Dibujar({{"", {0, 4, 10}, {0, -2, 0}}}, {.cauce = true});
+    const QColor agua = Color(Pixel(4.3, -0.9)), papel = Color(Pixel(0.7, -1.3));
+    EXPECT_NE(agua, papel);
+    EXPECT_EQ(Color(Pixel(7.3, -1.3)), papel) << "below the bed";
+    EXPECT_LT(Color(Pixel(5.3, 0)).lightness(), agua.lightness() - 40) << "the surface";
+    EXPECT_LT(Color(Pixel(7, -1)).lightness(), Color(Pixel(5.3, 0)).lightness()) << "the bed";
+    EXPECT_EQ(Puntos(2), (Pares{{0, 0}, {4, -2}, {10, 0}}));
+}
+
 TEST_F(Grafico, AxesHaveADecimalPointAndAsManyDecimalsAsTheyNeed) {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     Cerrar(F());
@@ -183,6 +194,14 @@ TEST_F(Grafico, ItIsCopiedAndSavedAsShownDarkOnWhite) {
     QFile pdf(elegir(3, "g.pdf"));
     EXPECT_TRUE(pdf.open(QIODevice::ReadOnly) && pdf.readAll().count("/Type /Page\n") == 1);
     EXPECT_TRUE(QSvgRenderer(elegir(4, "año.svg")).isValid());
+    const auto rotulos = [&](const char* nombre) {
+        QFile svg(elegir(4, nombre));
+        return svg.open(QIODevice::ReadOnly) ? svg.readAll().count("Texto:") : -1;
+    };
+    Hacer([this] { Modelo().RotularEjes(F().lbl1, F().lbl1); });
+    EXPECT_EQ(rotulos("con.svg"), 2) << "the names of the axes, which stand beside it on the screen";
+    Hacer([this] { F().lbl1.Visible = false; });
+    EXPECT_EQ(rotulos("sin.svg"), 0);
     EXPECT_TRUE(vigia_.mensajes.empty());
     elegir(2, "no existe/g.png");
     EXPECT_TRUE(vigia_.mensajes.size() == 1 && vigia_.mensajes[0].icono == QMessageBox::Critical &&
