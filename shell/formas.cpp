@@ -3,6 +3,9 @@
 #include "frame/reportes/frmPadre.h"
 #include "modules/caudales/frmQmaxGumbel.h"
 #include "modules/caudales/frmQmaxNash.h"
+#include "modules/aforo/frmAforoCorren.h"
+#include "modules/curvas/frmCurvaDuracion.h"
+#include "modules/curvas/frmVariacionEsta.h"
 #include "modules/distribuciones/frmDisGamma2par.h"
 #include "modules/distribuciones/frmDisGamma3par.h"
 #include "modules/distribuciones/frmDisGumbel.h"
@@ -66,6 +69,9 @@ TablaFormas FormasDelPrograma() {
         {"frmIsoyeta", Hacer<frmIsoyeta>},
         {"frmQmaxGumbel", Hacer<frmQmaxGumbel>},
         {"frmQmaxNash", Hacer<frmQmaxNash>},
+        {"frmVariacionEsta", Hacer<frmVariacionEsta>},
+        {"frmCurvaDuracion", Hacer<frmCurvaDuracion>},
+        {"frmAforoCorren", Hacer<frmAforoCorren>},
     };
 }
 
