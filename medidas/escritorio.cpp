@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QTableView>
 #include <cmath>
+#include <string>
 
 #include "escritorio/estilo.h"
 #include "escritorio/ventana.h"
@@ -54,7 +55,7 @@ class Testigo : public QObject {
 /// The program with its main menu on the screen.
 class Mesa {
   public:
-    Mesa() {
+    explicit Mesa(const char* modulo = "frmParamEsta") : modulo_(modulo) {
         Abrir("frmCuencalia");
         Pintar();
     }
@@ -63,22 +64,26 @@ class Mesa {
     void Abrir(const char* forma) {
         App().Despachar([&] { App().ModuloAbrir(forma); });
     }
-    Formulario& Modulo() { return *App().Cargada("frmParamEsta"); }
+    void AbrirModulo() { Abrir(modulo_); }
+    Formulario& Modulo() { return *App().Cargada(modulo_); }
     FlexGrid& Grid() { return dynamic_cast<FlexGrid&>(*Modulo().Controls("grdt")); }
     QWidget& Ventana() { return *static_cast<Vista*>(Grid().Vista())->Widget()->window(); }
-    void Llenar() {
-        App().Despachar([this] {
+    void Llenar(int filas = kFilas) {
+        App().Despachar([&] {
             FlexGrid& grid = Grid();
-            grid.PonerRows(kFilas + 2);
-            for (int i = 1; i <= kFilas; ++i) {
+            grid.PonerRows(filas + 2);
+            for (int i = 1; i <= filas; ++i) {
                 grid.PonerTextMatrix(i, 0, Str(i));
-                grid.PonerTextMatrix(i, 1, Format(100 + 40 * std::sin(0.7 * i), "0.0###"));
+                for (int c = 1; c < grid.Cols(); ++c) {
+                    grid.PonerTextMatrix(i, c, Format(100 + 40 * std::sin(0.7 * i * c), "0.0###"));
+                }
             }
         });
         Pintar();
     }
 
   private:
+    const char* modulo_;
     Escritorio escritorio_{FormasDelPrograma()};
 };
 
@@ -95,7 +100,7 @@ void AbrirModulo(benchmark::State& estado) {
     Mesa mesa;
     const Testigo testigo;
     for (auto _ : estado) {
-        mesa.Abrir("frmParamEsta");
+        mesa.AbrirModulo();
         Pintar();
         estado.PauseTiming();
         mesa.Ventana().close();
@@ -109,7 +114,7 @@ void AbrirModulo(benchmark::State& estado) {
 /// A digit that opens the edit box, painted, and ENTER, painted: two keys.
 void TeclearUnValor(benchmark::State& estado) {
     Mesa mesa;
-    mesa.Abrir("frmParamEsta");
+    mesa.AbrirModulo();
     mesa.Llenar();
     mesa.App().Despachar([&] { mesa.Grid().PonerCelda(1, 1); });
     const Testigo testigo;
@@ -128,7 +133,7 @@ void TeclearUnValor(benchmark::State& estado) {
 /// The whole window drawn anew: what it costs at worst to show any change.
 void PintarVentana(benchmark::State& estado) {
     Mesa mesa;
-    mesa.Abrir("frmParamEsta");
+    mesa.AbrirModulo();
     mesa.Llenar();
     for (auto _ : estado) {
         benchmark::DoNotOptimize(mesa.Ventana().grab());
@@ -137,12 +142,43 @@ void PintarVentana(benchmark::State& estado) {
 
 void Pulsar(benchmark::State& estado, const char* boton) {
     Mesa mesa;
-    mesa.Abrir("frmParamEsta");
+    mesa.AbrirModulo();
     mesa.Llenar();
     const Testigo testigo;
     for (auto _ : estado) {
         mesa.App().Pulsar(*mesa.Modulo().Controls(boton));
         Pintar();
+    }
+    testigo.Exigir(estado, 1);
+}
+
+/// A module and the rows that it takes at most.
+struct ModuloLleno {
+    const char* forma;
+    int filas;
+};
+constexpr ModuloLleno kModulos[] = {{"frmVariacionEsta", 1500}, {"frmCurvaDuracion", 499}, {"frmAforoCorren", 49}};
+
+/// A command of a full module whose first value has changed; the chart is shown from the start.
+void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char* boton) {
+    Mesa mesa(modulo.forma);
+    mesa.AbrirModulo();
+    mesa.Llenar(modulo.filas);
+    const auto pulsar = [&mesa](const char* cual) {
+        mesa.App().Pulsar(*mesa.Modulo().Controls(cual));
+        Pintar();
+    };
+    pulsar("bCalcular");
+    pulsar("bGraficar");
+    const Testigo testigo;
+    bool mayor = false;
+    for (auto _ : estado) {
+        estado.PauseTiming();
+        mayor = !mayor;
+        mesa.App().Despachar([&] { mesa.Grid().PonerTextMatrix(1, 1, mayor ? "160" : "150"); });
+        Pintar();
+        estado.ResumeTiming();
+        pulsar(boton);
     }
     testigo.Exigir(estado, 1);
 }
@@ -155,6 +191,16 @@ BENCHMARK_CAPTURE(Pulsar, Ordenar_1500_pintado, "bOrdenar")->Unit(benchmark::kMi
 
 }  // namespace
 
+/// Calcular and Graficar of each module of the table.
+void RegistrarModulos() {
+    for (const ModuloLleno& modulo : kModulos) {
+        for (const char* boton : {"bCalcular", "bGraficar"}) {
+            const std::string nombre = std::string(modulo.forma) + "_" + boton + "_pintado";
+            benchmark::RegisterBenchmark(nombre.c_str(), PulsarLleno, modulo, boton)->Unit(benchmark::kMillisecond);
+        }
+    }
+}
+
 }  // namespace cuencalia::pruebas
 
 int main(int argc, char** argv) {
@@ -166,6 +212,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     cuencalia::estilo::Aplicar(programa);
     benchmark::AddCustomContext("qt", qVersion());
+    cuencalia::pruebas::RegistrarModulos();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
