@@ -135,6 +135,7 @@ void frmCurvaDuracion::GenerarReporte(Reporte& reporte) {
     reporte.LineaDeGuiones(30);
     reporte.ReporteLinea("El caudal de diseño: Q = " + txtxq.Text() + " m3/s, tiene una probalidad del " +
                          txtxp.Text() + " % de ser igualado o excedido");
+    reporte.ReporteBlanco();
 }
 
 Disposicion frmCurvaDuracion::Contenido() {
