@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QSettings>
@@ -16,6 +17,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "escritorio/espera.h"
 #include "escritorio/impresion.h"
 #include "escritorio/ventanapadre.h"
 #include "escritorio/vista.h"
@@ -25,17 +27,17 @@ namespace cuencalia {
 
 namespace {
 
-/// Counts a box or a dialog for as long as it is open.
-class Espera {
-  public:
-    explicit Espera(int& cajas) : cajas_(cajas) { ++cajas_; }
-    ~Espera() { --cajas_; }
-    Espera(const Espera&) = delete;
-    Espera& operator=(const Espera&) = delete;
+constexpr int kEsperaConsulta = 2000;  // ms
 
-  private:
-    int& cajas_;
-};
+/// Whether the desktop has a program for workbooks. To open a file succeeds as soon as the desktop is asked to: without
+/// a program for it nothing happens. Where the desktop cannot be asked, the opening itself tells.
+bool HayHojaDeCalculo() {
+    QProcess consulta;
+    consulta.start(QStringLiteral("xdg-mime"),
+                   {QStringLiteral("query"), QStringLiteral("default"),
+                    QStringLiteral("application/vnd.openxmlformats-officedocument.spreadsheetml.sheet")});
+    return !consulta.waitForFinished(kEsperaConsulta) || !consulta.readAllStandardOutput().trimmed().isEmpty();
+}
 
 }  // namespace
 
@@ -192,25 +194,20 @@ void Escritorio::ImprimirDocumento(Formulario& documento, bool soloSeleccion, co
     }
 }
 
-/// Writes the workbook to a temporary file for the spreadsheet program, or, where there is none, to a file chosen by
-/// the user.
-void Escritorio::MostrarLibro(const Hoja& hoja) {
-    QTemporaryFile plantilla(QDir::tempPath() + QStringLiteral("/serie-XXXXXX.xlsx"));
-    plantilla.setAutoRemove(false);
-    if (!plantilla.open()) {
+/// Writes the workbook to a temporary file and has it opened.
+bool Escritorio::MostrarLibro(const Hoja& hoja) {
+    if (!HayHojaDeCalculo()) {
+        return false;
+    }
+    QTemporaryFile libro(QDir::tempPath() + QStringLiteral("/serie-XXXXXX.xlsx"));
+    if (!libro.open()) {
         throw ErrorEjecucion(kAccesoRuta);
     }
-    plantilla.close();
-    libros_.EscribirLibro(Std(plantilla.fileName()), hoja);
-    if (QDesktopServices::openUrl(QUrl::fromLocalFile(plantilla.fileName()))) {
-        return;
-    }
-    std::string nombre;
-    ElegirArchivo(ModoArchivo::Guardar, "Guardar la hoja de cálculo", "Libro de Excel|*.xlsx", nombre);
-    if (!nombre.empty()) {
-        libros_.EscribirLibro(nombre, hoja);
-    }
-    QFile::remove(plantilla.fileName());
+    libro.close();
+    libros_.EscribirLibro(Std(libro.fileName()), hoja);
+    const bool abierto = QDesktopServices::openUrl(QUrl::fromLocalFile(libro.fileName()));
+    libro.setAutoRemove(!abierto);
+    return abierto;
 }
 
 void Escritorio::Terminar() { QCoreApplication::quit(); }

@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
+#include "escritorio/librosensegundoplano.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/plataforma.h"
-#include "hojas/libros.h"
 
 namespace cuencalia {
 
@@ -39,7 +39,7 @@ class Escritorio : public Plataforma {
     void ImprimirForma(Formulario& forma) override;
     void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
     AccesoHojas& Hojas() override { return libros_; }
-    void MostrarLibro(const Hoja& hoja) override;
+    bool MostrarLibro(const Hoja& hoja) override;
     void Terminar() override;
     void MenuPrincipalCerrado() override { app_->Terminar(); }
     void DespuesDeDespachar() override { Pintar(); }
@@ -61,9 +61,9 @@ class Escritorio : public Plataforma {
     std::unique_ptr<Aplicacion> app_;
     std::map<const Formulario*, Ventana*> ventanas_;
     std::vector<Vista*> sucias_;
-    LibrosDeCalculo libros_;
     bool pintando_ = false;
-    int cajas_ = 0;  ///< Message boxes and dialogs that wait for the user.
+    int cajas_ = 0;  ///< Message boxes and dialogs that wait for the user, workbooks being written.
+    LibrosEnSegundoPlano libros_{cajas_};
 };
 
 }  // namespace cuencalia

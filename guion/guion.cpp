@@ -229,6 +229,7 @@ void Guion::Ejecutar(const std::string& linea) {
         {"estado", 2, &Guion::OrdenEstado},   {"mensajes", 1, &Guion::OrdenMensajes},
         {"archivo", 2, &Guion::OrdenArchivo}, {"deshacer", 1, &Guion::OrdenDeshacer},
         {"rehacer", 1, &Guion::OrdenRehacer}, {"pegar", 2, &Guion::OrdenPegar},
+        {"reloj", 2, &Guion::OrdenReloj},
     };
     ++linea_;
     std::string limpia = linea;
@@ -517,6 +518,8 @@ void Guion::OrdenPegar(const Palabras& p) {
 }
 
 void Guion::OrdenArchivo(const Palabras& p) { plataforma_->archivo = p[1] == "-" ? std::nullopt : std::optional(p[1]); }
+
+void Guion::OrdenReloj(const Palabras& p) { plataforma_->reloj = Val(p[1]); }
 
 void Guion::OrdenVer(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {

@@ -52,6 +52,7 @@ class Guion {
     void OrdenDeshacer(const Palabras& p);
     void OrdenRehacer(const Palabras& p);
     void OrdenPegar(const Palabras& p);
+    void OrdenReloj(const Palabras& p);
 
     Formulario& FormaActual();
     Control& Buscar(const std::string& nombre);

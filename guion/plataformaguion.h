@@ -31,7 +31,11 @@ class PlataformaGuion : public Plataforma {
     void ImprimirForma(Formulario& forma) override;
     void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
     AccesoHojas& Hojas() override { return libros_; }
-    void MostrarLibro(const Hoja& hoja) override { libro = hoja; }
+    bool MostrarLibro(const Hoja& hoja) override {
+        libro = hoja;
+        return false;
+    }
+    Double Reloj() const override { return reloj ? *reloj : Timer(); }
     void Terminar() override { terminado = true; }
     void AbrirConShell(const std::string& ruta) override;
     std::string CarpetaInstalacion() const override { return "/cuencalia"; }
@@ -45,7 +49,8 @@ class PlataformaGuion : public Plataforma {
     std::vector<Mensaje> mensajes;
     std::vector<ErrorEjecucion> errores;
     std::vector<std::string> impresas;  ///< Names of the forms and documents sent to the printer.
-    Hoja libro;                         ///< The workbook that the program showed last.
+    Hoja libro;                         ///< The workbook that the program was to show last; there is no program for it.
+    std::optional<Double> reloj;        ///< Where the clock stands; none: the clock of the machine.
     std::vector<std::string> abiertos;  ///< Paths of the files that the shell was asked to open.
     std::string portapapeles;
     std::map<std::string, std::string> ajustes;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "frame/base/errores.h"
+#include "frame/base/numeros.h"
 
 namespace cuencalia {
 
@@ -79,8 +79,11 @@ class Plataforma {
 
     /// Reading and writing of workbooks.
     virtual AccesoHojas& Hojas() = 0;
-    /// Shows a new workbook with these cells in the user's spreadsheet program.
-    virtual void MostrarLibro(const Hoja& hoja) = 0;
+    /// Shows a new workbook with these cells in the user's spreadsheet program; false when the user has none.
+    virtual bool MostrarLibro(const Hoja& hoja) = 0;
+
+    /// Seconds since midnight, local time, with fractions.
+    virtual Double Reloj() const { return Timer(); }
 
     /// The text on the system's clipboard; empty when there is none.
     virtual std::string TextoDelPortapapeles() const = 0;

@@ -86,12 +86,36 @@ TEST_F(Mensajes, SettingsClipboardAndFilesReachTheSystem) {
     EXPECT_EQ(escritorio_->TextoDelPortapapeles(), "1\t2\n°ñ");
     escritorio_->AbrirConShell("/no/hay/manual.html");
     Tecla(Qt::Key_F1);
-    escritorio_->MostrarLibro(Hoja());
-    ASSERT_EQ(vigia_.abiertos.size(), 2);
+    ASSERT_EQ(vigia_.abiertos.size(), 1);
     EXPECT_TRUE(vigia_.abiertos[0].path().endsWith("/ayuda/index.html"));
-    QFile libro(vigia_.abiertos[1].toLocalFile());
+}
+
+TEST_F(Mensajes, AWorkbookIsOpenedWhereThereIsAProgramForIt) {
+    const QTemporaryDir carpeta;
+    const QByteArray camino = qgetenv("PATH");
+    qputenv("PATH", carpeta.path().toUtf8());
+    const auto conPrograma = [&](const char* responde) {
+        QFile consulta(carpeta.filePath("xdg-mime"));
+        consulta.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        consulta.write(QByteArray("#!/bin/sh\n") + responde);
+        consulta.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        consulta.close();
+        return escritorio_->MostrarLibro(Hoja());
+    };
+    EXPECT_FALSE(conPrograma(""));
+    EXPECT_TRUE(vigia_.abiertos.empty());
+    EXPECT_TRUE(conPrograma("echo calc.desktop"));
+    qputenv("PATH", camino);
+    ASSERT_EQ(vigia_.abiertos.size(), 1);
+    QFile libro(vigia_.abiertos[0].toLocalFile());
     EXPECT_TRUE(libro.fileName().endsWith(".xlsx") && libro.size() > 0);
     libro.remove();
+
+    bool vivo = false;
+    QTimer::singleShot(0, [&] { vivo = true; });
+    escritorio_->Hojas().EscribirLibro(Std(carpeta.filePath("serie.xlsx")), Hoja());
+    EXPECT_TRUE(vivo) << "the windows live while a workbook is written";
+    EXPECT_THROW(escritorio_->Hojas().EscribirLibro("/no/hay/serie.xlsx", Hoja()), ErrorEjecucion);
 }
 
 }  // namespace cuencalia::pruebas
