@@ -223,6 +223,7 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
     numerados_ = dibujado && sinX ? grafico.NumPoints() : 0;
     PonerLeyenda(conTextos, grafico.GraphType == kGraficoLineas && grafico.GraphStyle == kSimbolosSueltos);
     MedirDatos(grafico.GraphType == kGraficoAreas || grafico.Cauce);
+    MedirDatos(grafico.GraphType == kGraficoAreas, grafico.Par());
     Acomodar(size());
     VerTodo();
 }
@@ -307,7 +308,7 @@ void LienzoGrafico::PonerLeyenda(bool conTextos, bool sinLineas) {
     legend->setMargins(conLeyenda ? QMargins(4, 6, 4, 2) : QMargins());
 }
 
-void LienzoGrafico::MedirDatos(bool desdeCero) {
+void LienzoGrafico::MedirDatos(bool desdeCero, const GraficoModulo* par) {
     todoX_ = todoY_ = QCPRange(0, 1);
     bool primero = true;
     double x0 = 0, x1 = 0, y0 = 0, y1 = 0;
@@ -322,6 +323,14 @@ void LienzoGrafico::MedirDatos(bool desdeCero) {
     }
     if (primero) {
         return;
+    }
+    if (par != nullptr && par->DrawMode == kDibujarGrafico) {
+        for (std::size_t c = 0; c < par->Conjuntos().size(); ++c) {
+            for (const QPointF& punto : PuntosDe(*par, c)) {
+                y0 = std::min(y0, punto.y());
+                y1 = std::max(y1, punto.y());
+            }
+        }
     }
     todoX_ = ConAire(x0, x1);
     todoY_ = desdeCero ? ConAire(std::min(y0, 0.0), std::max(y1, 0.0)) : ConAire(y0, y1);

@@ -64,7 +64,8 @@ class LienzoGrafico : public QCustomPlot {
     void Rellenar(const std::vector<QPointF>& puntos, const QBrush& brocha);
     void PonerLeyenda(bool conTextos, bool sinLineas);
     int AnchoLeyenda(int columnas) const;
-    void MedirDatos(bool desdeCero);
+    /// Finds the range of the data; that of y spans the values of `par`, too.
+    void MedirDatos(bool desdeCero, const GraficoModulo* par);
     /// Adapts legend and axes to that size.
     void Acomodar(QSize tamano);
     void Limitar(QCPAxis& eje, const QCPRange& todo, const QCPRange& nuevo, const QCPRange& anterior);

@@ -59,6 +59,14 @@ class GraficoModulo : public Control {
     void PonerXPosData(Double x);
 
     const std::vector<Conjunto>& Conjuntos() const { return conjuntos_; }
+
+    /// Makes the y axes of both charts span the values of both.
+    void CompartirEscala(GraficoModulo& otro) {
+        par_ = &otro;
+        otro.par_ = this;
+    }
+    /// The chart with the same y axis, or null.
+    const GraficoModulo* Par() const { return par_; }
     /// The x at which each point of a set (from 1) is drawn, empty for a point without one. A set for which no x was
     /// written takes those of the first set; if that has none either, the points are at 1 to n. Error 5 for a set that
     /// does not exist.
@@ -93,6 +101,7 @@ class GraficoModulo : public Control {
     Label* rotuloY_ = nullptr;
     int punto_ = 1, conjunto_ = 1;
     Lugar siguienteY_, siguienteX_;
+    const GraficoModulo* par_ = nullptr;
 };
 
 /// The settings in which the charts of the modules differ, for GraficoDibujar.
