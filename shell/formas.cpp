@@ -25,6 +25,8 @@
 #include "modules/precipitacion/frmIsoyeta.h"
 #include "modules/precipitacion/frmPromArit.h"
 #include "modules/precipitacion/frmThiessen.h"
+#include "modules/regresion/frmAutoregTrans.h"
+#include "modules/regresion/frmAutoregresivo.h"
 #include "modules/regresion/frmRegreLineal.h"
 #include "shell/frmCalculadora.h"
 #include "shell/frmCuencalia.h"
@@ -56,6 +58,8 @@ TablaFormas FormasDelPrograma() {
         {"frmRegMul3Var", Hacer<frmRegMul3Var>},
         {"frmRegPoli2Gra", Hacer<frmRegPoli2Gra>},
         {"frmRegPoli3Gra", Hacer<frmRegPoli3Gra>},
+        {"frmAutoregresivo", Hacer<frmAutoregresivo>},
+        {"frmAutoregTrans", Hacer<frmAutoregTrans>},
         {"frmDisGamma2par", Hacer<frmDisGamma2par>},
         {"frmDisGamma3par", Hacer<frmDisGamma3par>},
         {"frmDisGumbel", Hacer<frmDisGumbel>},

@@ -1,5 +1,7 @@
 #include "modules/estadistica/momentos.h"
 
+#include <type_traits>
+
 namespace cuencalia {
 
 namespace {
@@ -10,18 +12,30 @@ struct MomentosCentrales {
     Double M3, M4;  // third and fourth central moments, divisor n
 };
 
-/// Two passes, the mean first: sums of raw powers in a single pass would lose all digits of a series with little
-/// spread.
-MomentosCentrales CalcularMomentosCentrales(const ArregloBase<Double>& x, int n) {
-    Double S;
+template <typename R>
+R MediaDe(const ArregloBase<R>& x, int n) {
+    R S;
     for (int i = 1; i <= n; ++i) {
         S += x(i);
     }
+    const Double media = Double(S) / n;
+    if constexpr (std::is_same_v<R, Single>) {
+        return CSng(media);
+    } else {
+        return media;
+    }
+}
+
+/// Two passes, the mean first: sums of raw powers in a single pass would lose all digits of a series with little
+/// spread.
+template <typename R>
+MomentosCentrales CalcularMomentosCentrales(const ArregloBase<R>& x, int n) {
+    const R media = MediaDe(x, n);
     MomentosCentrales m;
-    m.media = S / n;
+    m.media = media;
     Double S3, S4;
     for (int i = 1; i <= n; ++i) {
-        const Double desvio = x(i) - m.media;
+        const Double desvio = x(i) - media;
         const Double cuadrado = desvio * desvio;
         m.S2 += cuadrado;
         S3 += cuadrado * desvio;
@@ -46,7 +60,15 @@ ParametrosEstadisticos Muestrales(const MomentosCentrales& m, Double N) {
 
 }  // namespace
 
+Double Media(const ArregloBase<Double>& x, int n) { return MediaDe(x, n); }
+
+Single Media(const ArregloBase<Single>& x, int n) { return MediaDe(x, n); }
+
 ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n) {
+    return Muestrales(CalcularMomentosCentrales(x, n), n);
+}
+
+ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Single>& x, int n) {
     return Muestrales(CalcularMomentosCentrales(x, n), n);
 }
 

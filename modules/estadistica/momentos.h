@@ -10,6 +10,10 @@ struct ParametrosEstadisticos {
     Double media, varianza, desviacion, Cv, Cs, Ck;
 };
 
+/// Mean of x(1) to x(n). That of Singles is added up in Single precision and is a Single. Error 6 for n = 0.
+Double Media(const ArregloBase<Double>& x, int n);
+Single Media(const ArregloBase<Single>& x, int n);
+
 /// Sample parameters of x(1) to x(n), corrected for small samples. With mk the k-th central moment of divisor n:
 ///   varianza s² = n·m2 / (n-1)                Cs = n²·m3 / ((n-1)(n-2)·s³)
 ///   Cv = s / media                            Ck = n³·m4 / ((n-1)(n-2)(n-3)·s⁴)
@@ -17,6 +21,8 @@ struct ParametrosEstadisticos {
 /// 0 / 0 (two values give 6, since their m3 is 0). Error 9 when the array has no x(1) to x(n).
 /// Source: Kite, G. W. (1977), Frequency and Risk Analyses in Hydrology, Water Resources Publications, Fort Collins.
 ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Double>& x, int n);
+/// Of Singles the sum, the mean and the differences from it are Singles too, all the rest is worked in Double.
+ParametrosEstadisticos ParametrosMuestrales(const ArregloBase<Single>& x, int n);
 
 /// Population parameters: varianza = m2, Cs = m3 / m2^(3/2), Ck = m4 / m2² (3 for a normal population). Defined for
 /// n >= 2 with a spread and a mean other than 0; errors as above.

@@ -71,6 +71,19 @@ TEST_F(Grafico, ASetIsALineThroughItsPointsInTheOrderWritten) {
     EXPECT_EQ(Lienzo().plottableCount(), 0) << "what it showed does not come back";
 }
 
+TEST_F(Grafico, TwoChartsOnOneScaleSpanTheValuesOfBoth) {
+    Abrir("frmAutoregresivo");
+    auto& graph1 = dynamic_cast<GraficoModulo&>(*Forma("frmAutoregresivo").Controls("Graph1"));
+    auto& graph2 = dynamic_cast<GraficoModulo&>(*Forma("frmAutoregresivo").Controls("Graph2"));
+    const auto y = [](GraficoModulo& grafico) { return Widget<QCustomPlot>(grafico).yAxis->range(); };
+    Hacer([&] {
+        GraficoDibujar(graph1, {}, {{.y = {50, 60}}});
+        GraficoDibujar(graph2, {}, {{.y = {10, 55, 20}}});
+    });
+    EXPECT_EQ(y(graph1), y(graph2));
+    EXPECT_TRUE(y(graph1).contains(10) && y(graph1).contains(60) && y(graph1).size() < 60);
+}
+
 TEST_F(Grafico, SixSetsAreToldApartAndTheirLegendHidesNothing) {
     Dibujar(std::vector<SerieGrafico>(6, {"un nombre que no cabe en un renglón", {}, {1, 2}}), {.fondo = kFondoGris});
     EXPECT_EQ(Color({5, 5}), Lienzo().palette().color(QPalette::Window));

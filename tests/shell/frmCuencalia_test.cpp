@@ -58,6 +58,15 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
                          "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel",
                          "Curva de variación estacional: frmVariacionEsta", "Curva de duración: frmCurvaDuracion",
                          "Correntómetro: frmAforoCorren", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
+    EXPECT_EQ(abiertas, (pruebas::Textos{
+                            "Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
+                            "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
+                            "Modelo autorregresivo AR(1) o Markoviano de orden 1: frmAutoregresivo",
+                            "Modelo autorregresivo AR(1) con transformación: frmAutoregTrans", "&Normal: frmDisNormal",
+                            "LogNormal 2 parámetros: frmDisLogNormal2", "LogNormal 3 parámetros: frmDisLogNormal3",
+                            "Gamma 2 parámetros: frmDisGamma2par", "Gamma 3 parámetros: frmDisGamma3par",
+                            "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel",
+                            "LogGumbel: frmDisLogGumbel", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
     EXPECT_FALSE(sistema.terminado);
     Elegir("mparasalir");
     EXPECT_TRUE(sistema.terminado);

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "frame/modulo/modulocalculo.h"
+#include "frame/reportes/grafico.h"
+#include "modules/estadistica/momentos.h"
+#include "modules/regresion/ar1.h"
+
+namespace cuencalia {
+
+/// A result of a module: its label on the window, its box, and the words before it in the report.
+struct CampoResultado {
+    CampoResultado(Formulario& forma, const std::string& nombre, const char* rotulo, const char* enReporte);
+
+    Label etiqueta;
+    TextBox caja;
+    const char* enReporte;
+};
+
+/// The boxes of the six sample parameters of one series.
+struct CamposParametros {
+    /// `nombres` are those of the boxes.
+    CamposParametros(Formulario& forma, const std::array<const char*, 6>& nombres, const char* rotuloDesviacion);
+
+    /// `textoMedia` is the mean of `p` as it is shown: that of a series of Singles is a Single with its own digits.
+    void Mostrar(const std::string& textoMedia, const ParametrosEstadisticos& p);
+
+    CampoResultado media, varianza, desviacion, Cv, sesgo, curtosis;
+    std::vector<CampoResultado*> todos{&media, &varianza, &desviacion, &Cv, &sesgo, &curtosis};
+};
+
+/// Stochastic generation: fits a first-order autoregressive model to an annual series and generates a synthetic series
+/// of as many years as asked for. The derived classes differ in the transformation alone.
+class ModuloAR1 : public ModuloCalculo {
+  public:
+    ModuloAR1(Aplicacion& app, std::string nombre, const std::string& titulo, const TransformacionAR1& transformacion);
+
+    SSTab SSTab1{*this, "SSTab1", {"Generar serie sintética", "Graficar series"}};
+    Frame Frame4{*this, "Frame4", "Ingreso de datos:"};
+    Label Label3{*this, "Label3", "Ingresar número de datos a generar:"};
+    TextBox txtNgen{*this, "txtNgen"};
+    Frame Frame2{*this, "Frame2", "Parámetros muestrales:"};
+    CamposParametros historica{*this,
+                               {"txtMedia", "txtVarianza", "txtDesviacion", "txtCVar", "txtSesgo", "txtCurtosis"},
+                               "Desviación Estandar:"};
+    Frame Frame8{*this, "Frame8", "Parámetros para el modelo AR(1):"};
+    CampoResultado c0{*this, "txtc0", "c0:", "c0 = "}, c1{*this, "txtc1", "c1:", "c1 = "};
+    CampoResultado ro1{*this, "txtro1", "ro1:", "ro1 = "}, Se{*this, "txts2e", "Se:", "Se = "};
+    Frame Frame1{*this, "Frame1", "Generación de serie sintética con modelo AR(1):"};
+    Label Label23{*this, "Label23", "Serie generada:", Papel::Encabezado};
+    Tabla grdGenerada{*this,
+                      "grdGenerada",
+                      "Serie generada",
+                      {.filas = 3001, .columnas = {{"N°", 700}, {"X", 1600}}, .columnasFijas = 1}};
+    Frame Frame3{*this, "Frame3", "Parámetros de la serie generada:"};
+    CamposParametros generada{*this,
+                              {"txtMediag", "txtVarianzag", "txtDesviaciong", "txtCvarg", "txtSesgog", "txtCurtosisg"},
+                              "Desviación Estándar:"};
+    Frame Frame5{*this, "Frame5"};
+    CommandButton bCrearExcel{*this, "bCrearExcel", "Crear Excel", "Pasar la serie generada a una hoja de cálculo"};
+    CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar serie ordenada"};
+    Label lblHistorica{*this, "lblHistorica", "Serie de datos históricos:", Papel::Encabezado};
+    Label lblGenerada{*this, "lblGenerada", "Serie de datos generados:", Papel::Encabezado};
+    GraficoModulo Graph1{*this, "Graph1", "Gráfico de la serie histórica"};
+    GraficoModulo Graph2{*this, "Graph2", "Gráfico de la serie generada"};
+
+    Arreglo<Single, 1, 3000> X;     ///< Historical series, one value a year.
+    Arreglo<Double, 1, 3000> Xgen;  ///< Generated series.
+    int Ngen = 0;                   ///< Number of values in Xgen.
+
+    /// Stops with error 5, after telling the user, at a value that is not greater than 0: a series that was not read
+    /// to its end is not stored.
+    void CargarMatrices() override;
+    void bGraficar_Click();
+    void bCrearExcel_Click();
+    void GenerarReporte(Reporte& reporte) override;
+
+  protected:
+    void Calcular() override;
+    std::string Consejo(const ErrorEjecucion& error) const override;
+    void LimpiarOtros() override;
+    Disposicion Cuerpo() override;
+
+  private:
+    /// Reads the grid up to its end or to the first value that is not greater than 0, and returns whether there was
+    /// none; when there was, tells the user. `n` is the number of rows in either case.
+    bool LeerSerie();
+    void Avisar(const std::string& aviso) { StatusBar1.PonerPanel(kPanelAvisos, aviso); }
+    /// Seeds the generator by the clock.
+    void Sembrar();
+    /// Generates `cuantos` values into Xgen. Error 9 for more than 2950, with the warm-up 3000.
+    void Generar(const ModeloAR1& modelo, Integer cuantos);
+
+    const TransformacionAR1& transformacion_;
+    std::optional<Single> semilla_;
+};
+
+}  // namespace cuencalia
