@@ -24,6 +24,9 @@ namespace cuencalia::pruebas {
 namespace {
 
 constexpr int kFilas = 1500;  // the most that nearly all modules take
+constexpr int kFilas = 1500;         // the most that most modules take
+constexpr int kFilasAR1 = 3000;      // those of stochastic generation
+constexpr int kGeneradosAR1 = 2950;  // the most that these generate
 
 /// A module with a full grid.
 class Modulo {
@@ -46,6 +49,10 @@ class Modulo {
     void Escribir(const char* caja, const char* texto) {
         app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
     }
+    void Escribir(const char* caja, const std::string& texto) {
+        app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
+    }
+    const Hoja& Libro() const { return plataforma_.libro; }
     /// The answer of the next file dialog.
     void Responder(const std::string& archivo) { plataforma_.archivo = archivo; }
     int Filas() const { return grid_->Rows(); }
@@ -303,6 +310,33 @@ void Graficar(benchmark::State& estado) {
     }
 }
 
+/// The model of the longest series and as many values as can be generated, in the grid.
+void GenerarAR1(benchmark::State& estado, const char* forma) {
+    Modulo modulo(forma, kFilasAR1);
+    modulo.Escribir("txtNgen", std::to_string(kGeneradosAR1));
+    for (auto _ : estado) {
+        modulo.Pulsar("bCalcular");
+    }
+    if (!modulo.Bien()) {
+        estado.SkipWithError("the calculation failed");
+    }
+}
+
+/// The workbook of the generated series.
+void EscribirLibro(benchmark::State& estado) {
+    Modulo modulo("frmAutoregresivo");
+    modulo.Escribir("txtNgen", std::to_string(kGeneradosAR1));
+    modulo.Pulsar("bCalcular");
+    modulo.Pulsar("bCrearExcel");
+    const Archivos archivos;
+    for (auto _ : estado) {
+        LibrosDeCalculo().EscribirLibro(archivos.Libro(), modulo.Libro());
+    }
+    if (modulo.Libro().Filas() != kGeneradosAR1) {
+        estado.SkipWithError("the workbook has other rows");
+    }
+}
+
 BENCHMARK_CAPTURE(Cargar, Accesar_1500, "bAccesar", &Archivos::Serie)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Cargar, Excel_1500, "bCargarExcel", &Archivos::Libro)->Unit(benchmark::kMillisecond);
 BENCHMARK(Reportar)->Name("Reporte_1500")->Unit(benchmark::kMillisecond);
@@ -321,6 +355,9 @@ BENCHMARK_CAPTURE(CalcularLlena, Isoyeta, Llena{"frmIsoyeta", "txtUltimaIsoyeta"
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, QmaxGumbel, Llena{"frmQmaxGumbel", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, QmaxNash, Llena{"frmQmaxNash", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(GenerarAR1, AR1_2950, "frmAutoregresivo")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(GenerarAR1, AR1Trans_2950, "frmAutoregTrans")->Unit(benchmark::kMillisecond);
+BENCHMARK(EscribirLibro)->Name("Libro_2950")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("Tecla_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK(AgregarUnaFila)->Name("FilaNueva_1500")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(AjustarOcho, OchoAjustes_60, 60)->Unit(benchmark::kMillisecond);
