@@ -222,8 +222,7 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
     const bool sinX = std::none_of(x.begin(), x.end(), [](const auto& valor) { return valor.has_value(); });
     numerados_ = dibujado && sinX ? grafico.NumPoints() : 0;
     PonerLeyenda(conTextos, grafico.GraphType == kGraficoLineas && grafico.GraphStyle == kSimbolosSueltos);
-    MedirDatos(grafico.GraphType == kGraficoAreas || grafico.Cauce);
-    MedirDatos(grafico.GraphType == kGraficoAreas, grafico.Par());
+    MedirDatos(grafico.GraphType == kGraficoAreas || grafico.Cauce, grafico.Par());
     Acomodar(size());
     VerTodo();
 }

@@ -23,7 +23,6 @@ namespace cuencalia::pruebas {
 
 namespace {
 
-constexpr int kFilas = 1500;  // the most that nearly all modules take
 constexpr int kFilas = 1500;         // the most that most modules take
 constexpr int kFilasAR1 = 3000;      // those of stochastic generation
 constexpr int kGeneradosAR1 = 2950;  // the most that these generate
@@ -46,9 +45,6 @@ class Modulo {
     }
 
     void Pulsar(const char* boton) { app_.Pulsar(*app_.Cargada(forma_)->Controls(boton)); }
-    void Escribir(const char* caja, const char* texto) {
-        app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
-    }
     void Escribir(const char* caja, const std::string& texto) {
         app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
     }

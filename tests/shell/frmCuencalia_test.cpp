@@ -29,44 +29,22 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
             }
         }
     }
-    EXPECT_EQ(
-        abiertas,
-        (pruebas::Textos{
-            "Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
-            "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
-            "Regresión &simple: frmEjRegSimple", "Regresión múltiple &2 var. independientes: frmRegMul2Var",
-            "Regresión múltiple &3 var. independientes: frmRegMul3Var",
-            "Regresión &polinomial 2° grado: frmRegPoli2Gra", "Regresión polinomial 3° &grado: frmRegPoli3Gra",
-            "&Normal: frmDisNormal", "LogNormal 2 parámetros: frmDisLogNormal2",
-            "LogNormal 3 parámetros: frmDisLogNormal3", "Gamma 2 parámetros: frmDisGamma2par",
-            "Gamma 3 parámetros: frmDisGamma3par", "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel",
-            "LogGumbel: frmDisLogGumbel", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
-    EXPECT_EQ(abiertas,
-              (pruebas::Textos{"Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
-                               "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
-                               "&Normal: frmDisNormal", "LogNormal 2 parámetros: frmDisLogNormal2",
-                               "LogNormal 3 parámetros: frmDisLogNormal3", "Gamma 2 parámetros: frmDisGamma2par",
-                               "Gamma 3 parámetros: frmDisGamma3par", "LogPearson tipo III: frmDisLogPearson3",
-                               "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel", "Promedio aritmético: frmPromArit",
-                               "Polígono de Thiessen: frmThiessen", "Isoyetas: frmIsoyeta", "Gumbel: frmQmaxGumbel",
-                               "Nash: frmQmaxNash", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
-        (pruebas::Textos{"Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
-                         "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
-                         "&Normal: frmDisNormal", "LogNormal 2 parámetros: frmDisLogNormal2",
-                         "LogNormal 3 parámetros: frmDisLogNormal3", "Gamma 2 parámetros: frmDisGamma2par",
-                         "Gamma 3 parámetros: frmDisGamma3par", "LogPearson tipo III: frmDisLogPearson3",
-                         "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel",
-                         "Curva de variación estacional: frmVariacionEsta", "Curva de duración: frmCurvaDuracion",
-                         "Correntómetro: frmAforoCorren", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
+    // clang-format off
     EXPECT_EQ(abiertas, (pruebas::Textos{
-                            "Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru",
-                            "Distribución de frecuencia: frmDistriFre", "Regresión &lineal: frmRegreLineal",
-                            "Modelo autorregresivo AR(1) o Markoviano de orden 1: frmAutoregresivo",
-                            "Modelo autorregresivo AR(1) con transformación: frmAutoregTrans", "&Normal: frmDisNormal",
-                            "LogNormal 2 parámetros: frmDisLogNormal2", "LogNormal 3 parámetros: frmDisLogNormal3",
-                            "Gamma 2 parámetros: frmDisGamma2par", "Gamma 3 parámetros: frmDisGamma3par",
-                            "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel",
-                            "LogGumbel: frmDisLogGumbel", "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
+        "Datos no agrupados: frmParamEsta", "Datos agrupados: frmParEstAgru", "Distribución de frecuencia: frmDistriFre",
+        "Regresión &lineal: frmRegreLineal", "Regresión &simple: frmEjRegSimple",
+        "Regresión múltiple &2 var. independientes: frmRegMul2Var", "Regresión múltiple &3 var. independientes: frmRegMul3Var",
+        "Regresión &polinomial 2° grado: frmRegPoli2Gra", "Regresión polinomial 3° &grado: frmRegPoli3Gra",
+        "Modelo autorregresivo AR(1) o Markoviano de orden 1: frmAutoregresivo",
+        "Modelo autorregresivo AR(1) con transformación: frmAutoregTrans", "&Normal: frmDisNormal",
+        "LogNormal 2 parámetros: frmDisLogNormal2", "LogNormal 3 parámetros: frmDisLogNormal3",
+        "Gamma 2 parámetros: frmDisGamma2par", "Gamma 3 parámetros: frmDisGamma3par",
+        "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel",
+        "Curva de variación estacional: frmVariacionEsta", "Curva de duración: frmCurvaDuracion",
+        "Promedio aritmético: frmPromArit", "Polígono de Thiessen: frmThiessen", "Isoyetas: frmIsoyeta",
+        "Correntómetro: frmAforoCorren", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
+        "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
+    // clang-format on
     EXPECT_FALSE(sistema.terminado);
     Elegir("mparasalir");
     EXPECT_TRUE(sistema.terminado);
