@@ -179,48 +179,52 @@ void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char
         Pintar();
         estado.ResumeTiming();
         pulsar(boton);
-        /// As many values as can be generated, the first ones painted; the chart of both series likewise.
-        void GenerarAR1(benchmark::State & estado, const char* boton) {
-            Mesa mesa;
-            mesa.Abrir("frmAutoregresivo");
-            Formulario& forma = mesa.Modulo("frmAutoregresivo");
-            mesa.App().Despachar([&] {
-                auto& grid = dynamic_cast<FlexGrid&>(*forma.Controls("grdt"));
-                grid.PonerRows(42);
-                for (int i = 1; i <= 40; ++i) {
-                    grid.PonerTextMatrix(i, 1, Format(100 + 40 * std::sin(0.7 * i), "0.0###"));
-                }
-                dynamic_cast<TextBox&>(*forma.Controls("txtNgen")).Text = "2950";
-            });
-            mesa.App().Pulsar(*forma.Controls("bCalcular"));
-            Pintar();
-            const Testigo testigo;
-            for (auto _ : estado) {
-                mesa.App().Pulsar(*forma.Controls(boton));
-                Pintar();
-            }
-            testigo.Exigir(estado, 1);
+    }
+    testigo.Exigir(estado, 1);
+}
+
+/// As many values as can be generated, the first ones painted; the chart of both series likewise.
+void GenerarAR1(benchmark::State& estado, const char* boton) {
+    Mesa mesa;
+    mesa.Abrir("frmAutoregresivo");
+    Formulario& forma = mesa.Modulo("frmAutoregresivo");
+    mesa.App().Despachar([&] {
+        auto& grid = dynamic_cast<FlexGrid&>(*forma.Controls("grdt"));
+        grid.PonerRows(42);
+        for (int i = 1; i <= 40; ++i) {
+            grid.PonerTextMatrix(i, 1, Format(100 + 40 * std::sin(0.7 * i), "0.0###"));
         }
+        dynamic_cast<TextBox&>(*forma.Controls("txtNgen")).Text = "2950";
+    });
+    mesa.App().Pulsar(*forma.Controls("bCalcular"));
+    Pintar();
+    const Testigo testigo;
+    for (auto _ : estado) {
+        mesa.App().Pulsar(*forma.Controls(boton));
+        Pintar();
+    }
+    testigo.Exigir(estado, 1);
+}
 
-        BENCHMARK(AbrirModulo)->Name("AbrirModulo_pintado")->Unit(benchmark::kMillisecond);
-        BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
-        BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);
-        BENCHMARK_CAPTURE(Pulsar, Calcular_1500_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
-        BENCHMARK_CAPTURE(Pulsar, Ordenar_1500_pintado, "bOrdenar")->Unit(benchmark::kMillisecond);
-        BENCHMARK_CAPTURE(GenerarAR1, AR1_2950_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
-        BENCHMARK_CAPTURE(GenerarAR1, GraficoAR1_2950_pintado, "bGraficar")->Unit(benchmark::kMillisecond);
+BENCHMARK(AbrirModulo)->Name("AbrirModulo_pintado")->Unit(benchmark::kMillisecond);
+BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
+BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Pulsar, Calcular_1500_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Pulsar, Ordenar_1500_pintado, "bOrdenar")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(GenerarAR1, AR1_2950_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(GenerarAR1, GraficoAR1_2950_pintado, "bGraficar")->Unit(benchmark::kMillisecond);
 
-    }  // namespace
+}  // namespace
 
-    /// Calcular and Graficar of each module of the table.
-    void RegistrarModulos() {
-        for (const ModuloLleno& modulo : kModulos) {
-            for (const char* boton : {"bCalcular", "bGraficar"}) {
-                const std::string nombre = std::string(modulo.forma) + "_" + boton + "_pintado";
-                benchmark::RegisterBenchmark(nombre.c_str(), PulsarLleno, modulo, boton)->Unit(benchmark::kMillisecond);
-            }
+/// Calcular and Graficar of each module of the table.
+void RegistrarModulos() {
+    for (const ModuloLleno& modulo : kModulos) {
+        for (const char* boton : {"bCalcular", "bGraficar"}) {
+            const std::string nombre = std::string(modulo.forma) + "_" + boton + "_pintado";
+            benchmark::RegisterBenchmark(nombre.c_str(), PulsarLleno, modulo, boton)->Unit(benchmark::kMillisecond);
         }
     }
+}
 
 }  // namespace cuencalia::pruebas
 
