@@ -237,6 +237,7 @@ class Archivos {
             serie.Escribir({CSng(valor)});
             hoja.Poner(i, 1, valor);
         }
+        serie.Publicar();
         LibrosDeCalculo().EscribirLibro(Libro(), hoja);
     }
     ~Archivos() { std::filesystem::remove_all(carpeta_); }
