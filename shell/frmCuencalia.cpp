@@ -6,7 +6,7 @@ namespace cuencalia {
 
 namespace {
 
-constexpr std::string_view kMenu = "";
+constexpr std::string_view kMenu{};
 constexpr std::string_view kTerminar = "*terminar";
 constexpr std::string_view kAyuda = "*ayuda";
 
