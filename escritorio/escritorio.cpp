@@ -89,7 +89,7 @@ void Escritorio::DarFoco() {
 void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string& titulo) {
     Pintar();
     const Espera espera(cajas_);
-    QMessageBox caja(QApplication::activeWindow());
+    QMessageBox caja(VentanaDelante());
     caja.setIcon(icono == kIconoError         ? QMessageBox::Critical
                  : icono == kIconoPregunta    ? QMessageBox::Question
                  : icono == kIconoAdvertencia ? QMessageBox::Warning
@@ -104,8 +104,7 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
 bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) {
     Pintar();
     const Espera espera(cajas_);
-    QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::Yes | QMessageBox::No,
-                     QApplication::activeWindow());
+    QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::Yes | QMessageBox::No, VentanaDelante());
     caja.setTextFormat(Qt::PlainText);
     caja.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
     caja.setDefaultButton(porOmision ? QMessageBox::Yes : QMessageBox::No);
@@ -154,6 +153,9 @@ void Escritorio::DescargarForma(Formulario& forma) {
     Ventana* ventana = hallada->second;
     ventanas_.erase(hallada);
     ventana->Soltar();
+    // In a window that the user closes, close() does nothing more: hidden here, its grids are laid out for the last
+    // time while the form is still there.
+    ventana->Marco()->hide();
     ventana->Marco()->close();
     ventana->Marco()->deleteLater();
 }
@@ -232,7 +234,7 @@ void Escritorio::ElegirArchivo(ModoArchivo modo, const std::string& titulo, cons
         filtros << (yaDicho ? partes[i] : QStringLiteral("%1 (%2)").arg(partes[i], partes[i + 1]));
     }
     const Espera espera(cajas_);
-    QFileDialog dialogo(QApplication::activeWindow(), Q(titulo), QString(), filtros.join(QStringLiteral(";;")));
+    QFileDialog dialogo(VentanaDelante(), Q(titulo), QString(), filtros.join(QStringLiteral(";;")));
     dialogo.setAcceptMode(modo == ModoArchivo::Guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(modo == ModoArchivo::Guardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (modo == ModoArchivo::Guardar && partes.size() > 1) {

@@ -17,6 +17,7 @@
 #include <memory>
 
 #include "escritorio/escritorio.h"
+#include "escritorio/ventana.h"
 #include "escritorio/vistatextorico.h"
 #include "frame/reportes/editortextorico.h"
 #include "frame/reportes/rtf.h"
@@ -105,7 +106,7 @@ void ImprimirTexto(const EditorTextoRico& texto, bool soloSeleccion, const QStri
     if (PideApaisado(*documento, impresora)) {
         impresora.setPageOrientation(QPageLayout::Landscape);
     }
-    QPrintDialog dialogo(&impresora, QApplication::activeWindow());
+    QPrintDialog dialogo(&impresora, VentanaDelante());
     dialogo.setWindowTitle(titulo);
     dialogo.setOption(QPrintDialog::PrintPageRange, false);
     dialogo.setOption(QPrintDialog::PrintCurrentPage, false);

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "escritorio/espera.h"
+#include "escritorio/ventana.h"
 
 namespace cuencalia {
 
@@ -30,7 +31,7 @@ void LibrosEnSegundoPlano::EscribirLibro(const std::string& ruta, const Hoja& ho
     }));
     // Without an end of its range the bar moves to and fro: the library does not tell how far it is.
     QProgressDialog aviso(QStringLiteral("Escribiendo el libro de %1 filas…").arg(hoja.Filas()), QString(), 0, 0,
-                          QApplication::activeWindow());
+                          VentanaDelante());
     aviso.setWindowTitle(QStringLiteral("Crear Excel"));
     aviso.setWindowModality(Qt::ApplicationModal);
     QTimer::singleShot(kEsperaAviso, &aviso, &QWidget::show);

@@ -1,5 +1,6 @@
 #include "escritorio/ventana.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -196,6 +197,12 @@ void Ventana::Soltar() {
     }
     menuBar()->clear();
     forma_ = nullptr;
+}
+
+QWidget* VentanaDelante() {
+    QWidget* activa = QApplication::activeWindow();
+    const auto* ventana = qobject_cast<Ventana*>(activa);
+    return ventana != nullptr && ventana->Forma() == nullptr ? nullptr : activa;
 }
 
 void Ventana::closeEvent(QCloseEvent* evento) {

@@ -46,6 +46,10 @@ class Ventana : public QMainWindow {
     std::vector<Vista*> vistas_;
 };
 
+/// The active window, as the parent of a box or dialog. Null when its form has gone: it waits for its end then, which
+/// would take the box along.
+QWidget* VentanaDelante();
+
 /// The action of the screen's menu that shows this entry of the form's menu.
 QAction* AccionDe(const Menu& entrada);
 

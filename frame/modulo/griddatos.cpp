@@ -262,8 +262,8 @@ void GridDatos::grdt_KeyDown(int codigo) {
 }
 
 void GridDatos::VaciarSeleccion() {
-    const auto [f0, f1] = std::minmax(grdt.Row(), grdt.RowSel());
-    const auto [c0, c1] = std::minmax(grdt.Col(), grdt.ColSel());
+    const auto [f0, f1] = std::minmax({grdt.Row(), grdt.RowSel()});
+    const auto [c0, c1] = std::minmax({grdt.Col(), grdt.ColSel()});
     for (int f = f0; f <= f1; ++f) {
         for (int c = c0; c <= c1; ++c) {
             grdt.PonerTextMatrix(f, c, "");

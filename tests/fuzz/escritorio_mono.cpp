@@ -42,7 +42,7 @@ class Mono : public QObject {
 
     template <typename T>
     auto& Uno(T& de) {
-        return de[static_cast<std::size_t>(Menor(static_cast<int>(std::size(de))))];
+        return *std::next(std::begin(de), Menor(static_cast<int>(std::size(de))));
     }
 
     void Contar(const QWidget* donde, const QString& acto) {
@@ -139,6 +139,11 @@ class Mono : public QObject {
             }
         }
         QWidget* lugar = Uno(lugares);
+        // Most programs are to live on for a while.
+        if (const auto* boton = qobject_cast<QAbstractButton*>(lugar);
+            boton != nullptr && boton->text().contains(QLatin1String("Salir")) && Menor(20) != 0) {
+            return;
+        }
         const QPoint punto(Menor(lugar->width()), Menor(lugar->height()));
         const int acto = Menor(12);
         Contar(lugar, QStringLiteral("ratón %1 en %2, %3").arg(acto).arg(punto.x()).arg(punto.y()));
