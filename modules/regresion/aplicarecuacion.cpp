@@ -50,11 +50,6 @@ void AplicarEcuacion::ApagarOpciones() {
     }
 }
 
-void AplicarEcuacion::Reiniciar() {
-    lblCalculoY.Caption = "Ecuación:";
-    ApagarOpciones();
-}
-
 void AplicarEcuacion::Aplicar(const Opcion& opcion) {
     if (!modulo_.calculado) {
         modulo_.App().MsgBox("Antes de hallar valor de Y, efectuar los cálculos de correlación");

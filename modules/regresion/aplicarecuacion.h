@@ -45,12 +45,11 @@ class AplicarEcuacion {
 
     /// The boxes that the user fills.
     std::vector<TextBox*> Cajas();
-    /// Takes the choice back, as for a new calculation.
-    void Reiniciar();
+    /// Takes the choice back.
+    void ApagarOpciones();
     Disposicion Zona();
 
   private:
-    void ApagarOpciones();
     void Aplicar(const Opcion& opcion);
     void bLimpiarDatos_Click();
 

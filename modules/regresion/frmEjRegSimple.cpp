@@ -32,7 +32,17 @@ void frmEjRegSimple::Form_Load() {
 void frmEjRegSimple::LimpiarOtros() {
     MarcoRegreSimple::LimpiarOtros();
     RotularFilas();
-    aplicar.Reiniciar();
+    aplicar.lblCalculoY.Caption = "Ecuación:";
+}
+
+void frmEjRegSimple::LimpiarModulo() {
+    datos.IniciarGrid();
+    MarcoRegreSimple::LimpiarResultados();
+}
+
+void frmEjRegSimple::LimpiarResultados() {
+    MarcoRegreSimple::LimpiarResultados();
+    aplicar.ApagarOpciones();
 }
 
 void frmEjRegSimple::Ajustar() {

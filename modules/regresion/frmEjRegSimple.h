@@ -17,6 +17,9 @@ class frmEjRegSimple : public MarcoRegreSimple {
     Double aPot, bPot;  ///< Y = aPot·X^bPot, alike.
 
     void Form_Load() override;
+    /// The choice of an equation goes with the value typed for it: with no value it stays, until data are loaded.
+    void LimpiarModulo() override;
+    void LimpiarResultados() override;
     void GenerarReporte(Reporte& reporte) override;
 
   protected:

@@ -46,7 +46,17 @@ MarcoRegMultiple::MarcoRegMultiple(Aplicacion& app, std::string nombre, Descripc
 
 void MarcoRegMultiple::LimpiarOtros() {
     calculado = false;
-    aplicar.Reiniciar();
+    aplicar.lblCalculoY.Caption = "Ecuación:";
+}
+
+void MarcoRegMultiple::LimpiarModulo() {
+    datos.IniciarGrid();
+    MarcoRegresion::LimpiarResultados();
+}
+
+void MarcoRegMultiple::LimpiarResultados() {
+    MarcoRegresion::LimpiarResultados();
+    aplicar.ApagarOpciones();
 }
 
 bool MarcoRegMultiple::Ajustar() {
