@@ -200,9 +200,10 @@ void ModuloAR1::Generar(const ModeloAR1& modelo, Integer cuantos) {
 void ModuloAR1::bGraficar_Click() {
     Graph1.LimpiarGrafico();
     Graph2.LimpiarGrafico();
-    if (!ExigirCalculo() || !LeerSerie()) {
+    if (!ExigirCalculo()) {
         return;
     }
+    LeerSerie();
     SSTab1.Tab = 1;
     GraficoDibujar(Graph1, {.conTrama = true}, {EnOrdenDeAnos(X, n)});
     GraficoDibujar(Graph2, {.conTrama = true}, {EnOrdenDeAnos(Xgen, Ngen)});

@@ -86,7 +86,8 @@ class ModuloAR1 : public ModuloCalculo {
 
   private:
     /// Reads the grid up to its end or to the first value that is not greater than 0, and returns whether there was
-    /// none; when there was, tells the user. `n` is the number of rows in either case.
+    /// none; when there was, tells the user, and X holds from that row on what it held before. `n` is the number of
+    /// rows in either case.
     bool LeerSerie();
     void Avisar(const std::string& aviso) { StatusBar1.PonerPanel(kPanelAvisos, aviso); }
     /// Seeds the generator by the clock.
