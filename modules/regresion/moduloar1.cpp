@@ -117,12 +117,6 @@ bool ModuloAR1::LeerSerie() {
     return true;
 }
 
-void ModuloAR1::CargarMatrices() {
-    if (!LeerSerie()) {
-        throw ErrorEjecucion(kArgumentoNoValido);
-    }
-}
-
 void ModuloAR1::LimpiarOtros() {
     calculado = false;
     Ngen = 0;

@@ -71,9 +71,8 @@ class ModuloAR1 : public ModuloCalculo {
     Arreglo<Double, 1, 3000> Xgen;  ///< Generated series.
     int Ngen = 0;                   ///< Number of values in Xgen.
 
-    /// Stops with error 5, after telling the user, at a value that is not greater than 0: a series that was not read
-    /// to its end is not stored.
-    void CargarMatrices() override;
+    /// Stops at a value that is not greater than 0 and tells the user. A file is stored all the same, with all rows.
+    void CargarMatrices() override { LeerSerie(); }
     void bGraficar_Click();
     void bCrearExcel_Click();
     void GenerarReporte(Reporte& reporte) override;
