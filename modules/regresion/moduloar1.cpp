@@ -119,7 +119,6 @@ bool ModuloAR1::LeerSerie() {
 
 void ModuloAR1::LimpiarOtros() {
     calculado = false;
-    Ngen = 0;
     Graph1.LimpiarGrafico();
     Graph2.LimpiarGrafico();
 }

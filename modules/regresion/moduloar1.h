@@ -69,7 +69,7 @@ class ModuloAR1 : public ModuloCalculo {
 
     Arreglo<Single, 1, 3000> X;     ///< Historical series, one value a year.
     Arreglo<Double, 1, 3000> Xgen;  ///< Generated series.
-    int Ngen = 0;                   ///< Number of values in Xgen.
+    int Ngen = 0;                   ///< Number of values in Xgen. It outlives the results shown.
 
     /// Stops at a value that is not greater than 0 and tells the user. A file is stored all the same, with all rows.
     void CargarMatrices() override { LeerSerie(); }
