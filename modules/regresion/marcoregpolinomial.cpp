@@ -1,6 +1,5 @@
 #include "modules/regresion/marcoregpolinomial.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "frame/base/textos.h"
@@ -63,9 +62,8 @@ bool MarcoRegPolinomial::Ajustar() {
     const Double R2 = regresion->R2(), R = Sqr(R2);
     const Double Se = Sqr(regresion->SumaResiduos() / (n - Regresion().k - 1));
     grdecua.PonerFila(1, FilaDeEcuacion(Regresion().filas[0], TextoEcuacion(ecuacion_, a), R, R2, Se));
-    yc.resize(std::max(yc.size(), static_cast<std::size_t>(n)));
     for (int i = 1; i <= n; ++i) {
-        yc[static_cast<std::size_t>(i - 1)] = EvaluarLineal(a, Potencias(x[0](i)));
+        yc(i) = EvaluarLineal(a, Potencias(x[0](i)));
     }
     return true;
 }
@@ -92,9 +90,8 @@ void MarcoRegPolinomial::bGraficar_Click() {
     for (int i = 1; i <= n; ++i) {
         pares.x.push_back(x[0](i));
         pares.y.push_back(y(i));
+        ajuste.y.push_back(yc(i));
     }
-    // Rows that no fit has reached have no value: after a refused fit the curve may be empty.
-    ajuste.y.assign(yc.begin(), yc.begin() + std::min<std::ptrdiff_t>(n, std::ssize(yc)));
     GraficoDibujar(Graph1, {.estilo = kSimbolosSueltos}, {pares, ajuste});
 }
 

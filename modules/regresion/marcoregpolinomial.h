@@ -30,8 +30,8 @@ class MarcoRegPolinomial : public MarcoRegresion {
 
     std::vector<Serie> x;  ///< X and its powers: x[0] to x[k - 1].
     Serie y;
-    std::vector<Double> a;   ///< Coefficients of the last fit; 0 when there was none.
-    std::vector<Double> yc;  ///< Value of the polynomial at each row of the last fit.
+    std::vector<Double> a;  ///< Coefficients of the last fit; 0 when there was none.
+    Serie yc;               ///< Value of the polynomial at each row of the last fit; 0 where no fit came.
 
     void CargarMatrices() override;
     void bCalY_Click();
