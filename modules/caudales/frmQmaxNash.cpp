@@ -55,7 +55,7 @@ MarcoMaximas::Estimacion frmQmaxNash::Estimar(Double T) {
             m, {CStr(m), Format(Q, kPatronCaudal), Format(r.T(m), kPatronVariable), Format(X, kPatronVariable),
                 Format(Q * X, kPatronCaudal), Format(Q * Q, kPatronCaudal), Format(X * X, kPatronVariable)});
     }
-    return {{c.Qm, c.Xm, c.a, c.b}, c.Qmax, c.DeltaQ};
+    return {{r.Qm, r.Xm, c.a, c.b}, c.Qmax, c.DeltaQ};
 }
 
 std::vector<Disposicion> frmQmaxNash::Detalles() {

@@ -30,22 +30,22 @@ RangosNash OrdenarPorRango(const ArregloBase<Double>& Q, int n) {
         r.SQ2 += r.Q(m) * r.Q(m);
         r.SX2 += r.X(m) * r.X(m);
     }
+    r.Qm = r.SQ / n;
+    r.Xm = r.SX / n;
     return r;
 }
 
 CaudalNash EstimarNash(const RangosNash& r, int n, Double XT) {
     CaudalNash c;
-    c.Qm = r.SQ / n;
-    c.Xm = r.SX / n;
     // Sums of equal discharges would show a spread by rounding alone.
     const bool iguales = r.Q(1) == r.Q(n);
     const Double Sxx = n * r.SX2 - r.SX * r.SX;
     const Double Sqq = iguales ? 0 : n * r.SQ2 - r.SQ * r.SQ;
     const Double Sxq = iguales ? 0 : n * r.SQX - r.SQ * r.SX;
-    c.b = (iguales ? 0 : r.SQX - n * c.Xm * c.Qm) / (r.SX2 - n * c.Xm * c.Xm);
-    c.a = c.Qm - c.b * c.Xm;
+    c.b = (iguales ? 0 : r.SQX - n * r.Xm * r.Qm) / (r.SX2 - n * r.Xm * r.Xm);
+    c.a = r.Qm - c.b * r.Xm;
     c.Qmax = c.a + c.b * XT;
-    const Double distancia = XT - c.Xm;
+    const Double distancia = XT - r.Xm;
     c.DeltaQ =
         2 * Sqr(Sqq / (Double(n) * n * (n - 1)) + distancia * distancia * (Sqq - Sxq * Sxq / Sxx) / ((n - 2) * Sxx));
     return c;

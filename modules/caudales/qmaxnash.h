@@ -8,20 +8,20 @@ namespace cuencalia {
 /// for T = 1, 5 below.
 Double VariableDeNash(Double T);
 
-/// Annual maxima by rank, m = 1 the greatest, and their sums.
+/// Annual maxima by rank, m = 1 the greatest, with their sums and means.
 struct RangosNash {
     Serie Q;                       ///< m3/s, in descending order.
     Serie T;                       ///< Return period of rank m in years, (n + 1) / m.
     Serie X;                       ///< Nash's variable of T.
     Double SQ, SX, SQX, SQ2, SX2;  ///< ΣQ, ΣX, ΣQX, ΣQ², ΣX².
+    Double Qm, Xm;                 ///< Means of Q and of X.
 };
 
-/// Ranks Q(1) to Q(n). Error 9 when Q has no place for them, or n is above 1500.
+/// Ranks Q(1) to Q(n). Error 6 for n = 0 (0 / 0), 9 when Q has no place for them, or n is above 1500.
 RangosNash OrdenarPorRango(const ArregloBase<Double>& Q, int n);
 
 /// Design discharge by Nash's line Q = a + b·X. Discharges in m3/s.
 struct CaudalNash {
-    Double Qm, Xm;  ///< Means.
     Double a, b;
     Double Qmax, DeltaQ;  ///< The line's discharge, and half the width of its interval.
 };
