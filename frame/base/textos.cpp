@@ -173,6 +173,28 @@ bool EsUnoOMas(std::string_view numero) {
     return leido.ec == std::errc{} ? orden + exponente > 0 : !texto_exponente.starts_with('-');
 }
 
+std::string EscribirSinPatron(Decimal d) {
+    constexpr int kMenorOrden = -4;  // 0.00001
+    if (d.digitos.empty()) {
+        return "0";
+    }
+    d.digitos.resize(d.digitos.find_last_not_of('0') + 1);
+    const bool fija = d.entera >= kMenorOrden && d.entera <= kDigitosDouble;
+    const int exponente = fija ? 0 : d.entera - 1;
+    d.entera -= exponente;
+
+    const std::string entera = ParteEntera(d);
+    const std::string fraccion = Fraccion(d);
+    std::string texto = d.negativo ? "-" : "";
+    texto += entera.empty() ? "0" : entera;
+    texto += fraccion.empty() ? "" : "." + fraccion;
+    if (!fija) {
+        texto += exponente < 0 ? "E-" : "E+";
+        texto += Format(std::abs(exponente), "00");
+    }
+    return texto;
+}
+
 }  // namespace
 
 Double Val(std::string_view texto) {
@@ -197,28 +219,8 @@ Double Val(std::string_view texto) {
     return negativo ? -valor : valor;
 }
 
-std::string CStr(Double valor) {
-    constexpr int kMenorOrden = -4;  // 0.00001
-    Decimal d = EnDecimal(valor);
-    if (d.digitos.empty()) {
-        return "0";
-    }
-    d.digitos.resize(d.digitos.find_last_not_of('0') + 1);
-    const bool fija = d.entera >= kMenorOrden && d.entera <= kDigitosDouble;
-    const int exponente = fija ? 0 : d.entera - 1;
-    d.entera -= exponente;
-
-    const std::string entera = ParteEntera(d);
-    const std::string fraccion = Fraccion(d);
-    std::string texto = d.negativo ? "-" : "";
-    texto += entera.empty() ? "0" : entera;
-    texto += fraccion.empty() ? "" : "." + fraccion;
-    if (!fija) {
-        texto += exponente < 0 ? "E-" : "E+";
-        texto += Format(std::abs(exponente), "00");
-    }
-    return texto;
-}
+std::string CStr(Double valor) { return EscribirSinPatron(EnDecimal(valor)); }
+std::string CStr(Single valor) { return EscribirSinPatron(EnDecimal(valor)); }
 
 std::string Str(Double valor) {
     std::string texto = CStr(valor);

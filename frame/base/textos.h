@@ -16,6 +16,10 @@ Double Val(std::string_view texto);
 /// The number with up to 15 significant digits, a point as decimal mark and no grouping ("0.5", "-3"). Below 0.00001
 /// and from 1E+15 on it has an exponent of at least two digits ("1.5E-07", "1E+20").
 std::string CStr(Double valor);
+/// As above for a Single, with its shortest decimal digits that read back as the same Single.
+std::string CStr(Single valor);
+inline std::string CStr(std::integral auto valor) { return CStr(Double(valor)); }
+inline std::string CStr(double valor) { return CStr(Double(valor)); }
 /// CStr with one leading blank for a non-negative value, as row labels show it (" 1", "-2").
 std::string Str(Double valor);
 

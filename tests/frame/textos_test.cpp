@@ -86,6 +86,7 @@ TEST(Textos, CStrYStr) {
         EXPECT_EQ(CStr(valor), texto);
         EXPECT_EQ(Str(valor), texto.front() == '-' ? texto : " " + texto);
     }
+    EXPECT_EQ(CStr(Single(0.1F)), "0.1");
 }
 
 class ComaDecimal : public std::numpunct<char> {
