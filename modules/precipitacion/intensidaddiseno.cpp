@@ -136,6 +136,12 @@ void IntensidadDiseno::ReportarImaxTD(Reporte& reporte) {
                           grdImaxTD, kDuraciones);
 }
 
+void IntensidadDiseno::ReportarResultados(Reporte& reporte) {
+    ReportarEcuacion(reporte, grdecua);
+    ReportarIntensidad(reporte, "Imax de diseño para los valores de T y D dados:", txtvT, txtvD, txtvI);
+    ReportarImaxTD(reporte);
+}
+
 Disposicion IntensidadDiseno::Zona() {
     Disposicion diseno = Grupo(
         Frame4, {Fila({Pares(3, {Label6, txtvT, Label4, Label3, txtvD, Label5, bImax, txtvI, Label8}), Espacio()}),

@@ -51,6 +51,9 @@ class IntensidadDiseno {
     /// The block of the report with the intensity table.
     void ReportarImaxTD(Reporte& reporte);
 
+    /// The last blocks of a report: the equation, the design intensity and that table.
+    void ReportarResultados(Reporte& reporte);
+
     /// Layout of all but the equation.
     Disposicion Zona();
 

@@ -43,14 +43,34 @@ void ReportarIntensidad(Reporte& reporte, std::string_view titulo, const TextBox
     reporte.ReporteBlanco();
 }
 
+DescripcionTabla TablaDeDuraciones(const char* primera, const std::vector<int>& duraciones, int filas) {
+    DescripcionTabla descripcion{.filas = filas + 1, .columnas = {{primera, 900}}, .altoEncabezado = 250};
+    for (const int d : duraciones) {
+        descripcion.columnas.push_back({CStr(d) + " min", 1000});
+    }
+    return descripcion;
+}
+
+void LlenarDuraciones(Tabla& tabla, int n, const std::function<std::string(int)>& primera,
+                      const ColumnasDuracion& columnas) {
+    tabla.Iniciar(n + 1);
+    for (int i = 1; i <= n; ++i) {
+        int columna = 0;
+        tabla.PonerTextMatrix(i, columna, primera(i));
+        for (const ArregloBase<Double>& valores : columnas) {
+            tabla.PonerTextMatrix(i, ++columna, Format(valores(i), "0.#0"));
+        }
+    }
+}
+
 void ReportarDuraciones(Reporte& reporte, std::string_view titulo, const std::vector<std::string>& encabezados,
-                        Tabla& tabla, int filas) {
+                        Tabla& tabla) {
     constexpr int kAnchoCelda = 14;
     reporte.EscribirTabla({.titulo = std::string(titulo),
                            .regla = 140,
                            .encabezado = Space(49) + "Duración\n" + UnirEncabezados(encabezados, ""),
                            .celda = CeldaCentrada(kAnchoCelda)},
-                          tabla, filas);
+                          tabla, tabla.Rows() - 1);
 }
 
 }  // namespace cuencalia

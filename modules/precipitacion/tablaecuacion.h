@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
+
 #include "frame/controles/controles.h"
 #include "frame/modulo/tabla.h"
 #include "frame/reportes/reporte.h"
-#include "modules/precipitacion/ecuacionintensidad.h"
+#include "modules/precipitacion/grobe.h"
 
 namespace cuencalia {
 
@@ -26,8 +28,13 @@ void ReportarEcuacion(Reporte& reporte, const TablaEcuacion& grdecua);
 /// The block with an intensity for a period and a duration, each as a box shows it.
 void ReportarIntensidad(Reporte& reporte, std::string_view titulo, const TextBox& T, const TextBox& D,
                         const TextBox& Imax);
-/// The block of a table with a column for each duration: its title, the line "Duración", the headings.
+/// A table with a column for each duration in minutes, of that many rows besides the headings.
+DescripcionTabla TablaDeDuraciones(const char* primera, const std::vector<int>& duraciones, int filas = 0);
+/// Gives it n rows: the text of the row, and the values of its columns, rains or intensities.
+void LlenarDuraciones(Tabla& tabla, int n, const std::function<std::string(int)>& primera,
+                      const ColumnasDuracion& columnas);
+/// Its block of a report: the title, the line "Duración", the headings, the rows.
 void ReportarDuraciones(Reporte& reporte, std::string_view titulo, const std::vector<std::string>& encabezados,
-                        Tabla& tabla, int filas);
+                        Tabla& tabla);
 
 }  // namespace cuencalia
