@@ -17,6 +17,10 @@
 #include "modules/estadistica/frmDistriFre.h"
 #include "modules/estadistica/frmParEstAgru.h"
 #include "modules/estadistica/frmParamEsta.h"
+#include "modules/precipitacion/frmAnalisisTor.h"
+#include "modules/precipitacion/frmBell.h"
+#include "modules/precipitacion/frmDyckPeschkeImax.h"
+#include "modules/precipitacion/frmIntensidadMax.h"
 #include "modules/precipitacion/frmIsoyeta.h"
 #include "modules/precipitacion/frmPromArit.h"
 #include "modules/precipitacion/frmThiessen.h"
@@ -68,6 +72,10 @@ TablaFormas FormasDelPrograma() {
         {"frmDisLogNormal3", Hacer<frmDisLogNormal3>},
         {"frmDisLogPearson3", Hacer<frmDisLogPearson3>},
         {"frmDisNormal", Hacer<frmDisNormal>},
+        {"frmAnalisisTor", Hacer<frmAnalisisTor>},
+        {"frmIntensidadMax", Hacer<frmIntensidadMax>},
+        {"frmDyckPeschkeImax", Hacer<frmDyckPeschkeImax>},
+        {"frmBell", Hacer<frmBell>},
         {"frmPromArit", Hacer<frmPromArit>},
         {"frmThiessen", Hacer<frmThiessen>},
         {"frmIsoyeta", Hacer<frmIsoyeta>},
