@@ -1,5 +1,6 @@
 #include "frame/reportes/reporte.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "frame/base/textos.h"
@@ -93,6 +94,18 @@ Reporte::Celda CeldaCentrada(int ancho, std::function<int(int, int)> extra) {
     return [ancho, extra = std::move(extra)](const std::string& texto, int fila, int columna) {
         const std::string relleno = Relleno(texto, ancho);
         return Space(extra ? extra(fila, columna) : 0) + relleno + texto + relleno;
+    };
+}
+
+Reporte::Celda CeldaBajo(std::vector<std::string> encabezados) {
+    return [encabezados = std::move(encabezados)](const std::string& texto, int, int columna) {
+        const std::string& encabezado = encabezados.at(static_cast<std::size_t>(columna));
+        const int ancho = Len(encabezado);
+        const int primera = static_cast<int>(encabezado.find_first_not_of(' '));
+        const int centrado = (2 * primera + Len(Trim(encabezado)) - Len(texto)) / 2;
+        // A text that is too long stays apart from the one before it.
+        const int izquierda = std::max(1, std::min(centrado, ancho - Len(texto)));
+        return Space(izquierda) + texto + Space(std::max(0, ancho - izquierda - Len(texto)));
     };
 }
 

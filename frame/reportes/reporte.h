@@ -64,6 +64,9 @@ Reporte::Celda CeldaSeguidaDe(std::string tras);
 /// Writes each cell centred by blanks in `ancho` characters, preceded by `extra` more blanks.
 Reporte::Celda CeldaCentrada(int ancho, std::function<int(int fila, int columna)> extra = {});
 
+/// Writes each cell centred under the words of its heading, in as many characters as the heading has.
+Reporte::Celda CeldaBajo(std::vector<std::string> encabezados);
+
 /// The blanks to put on each side of a text to centre it in `ancho` characters: (width - length) / 2, a half being
 /// rounded to the even number; none for a text that is too long.
 std::string Relleno(std::string_view texto, int ancho);

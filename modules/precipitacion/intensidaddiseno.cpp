@@ -128,11 +128,12 @@ void IntensidadDiseno::Limpiar() {
 }
 
 void IntensidadDiseno::ReportarImaxTD(Reporte& reporte) {
-    constexpr int kAnchoCelda = 16;
+    const std::vector<std::string> encabezados{"    Duración D", "    T = 5 años", "    T = 10 años ",
+                                               "    T = 20 años ", "    T = 50 años "};
     reporte.EscribirTabla({.titulo = "Valores de Imax, para diferentes D en min y para T = 5, 10, 20 y 50 años",
                            .regla = descripcion_.reglaImaxTD,
-                           .encabezado = "    Duración D    T = 5 años    T = 10 años     T = 20 años     T = 50 años ",
-                           .celda = CeldaCentrada(kAnchoCelda)},
+                           .encabezado = UnirEncabezados(encabezados, ""),
+                           .celda = CeldaBajo(encabezados)},
                           grdImaxTD, kDuraciones);
 }
 
@@ -148,9 +149,9 @@ Disposicion IntensidadDiseno::Zona() {
                  lblEcuacion});
     Disposicion grafico =
         Columna({Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}), Espacio(0)});
-    return Fila(
-        {Columna({std::move(diseno), Fila({bCalPreviosIDT, Espacio()}), Label7, Disposicion(grdImaxTD).Estira(1)}),
-         std::move(grafico).Estira(1)});
+    return Fila({Columna({std::move(diseno), Fila({bCalPreviosIDT, Disposicion(Label7).Estira(1)}),
+                          Disposicion(grdImaxTD).Estira(1)}),
+                 std::move(grafico).Estira(1)});
 }
 
 }  // namespace cuencalia

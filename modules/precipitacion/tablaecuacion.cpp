@@ -65,11 +65,10 @@ void LlenarDuraciones(Tabla& tabla, int n, const std::function<std::string(int)>
 
 void ReportarDuraciones(Reporte& reporte, std::string_view titulo, const std::vector<std::string>& encabezados,
                         Tabla& tabla) {
-    constexpr int kAnchoCelda = 14;
     reporte.EscribirTabla({.titulo = std::string(titulo),
                            .regla = 140,
                            .encabezado = Space(49) + "Duración\n" + UnirEncabezados(encabezados, ""),
-                           .celda = CeldaCentrada(kAnchoCelda)},
+                           .celda = CeldaBajo(encabezados)},
                           tabla, tabla.Rows() - 1);
 }
 
