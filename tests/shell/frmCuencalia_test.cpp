@@ -41,6 +41,9 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
         "Gamma 2 parámetros: frmDisGamma2par", "Gamma 3 parámetros: frmDisGamma3par",
         "LogPearson tipo III: frmDisLogPearson3", "Gumbel: frmDisGumbel", "LogGumbel: frmDisLogGumbel",
         "Curva de variación estacional: frmVariacionEsta", "Curva de duración: frmCurvaDuracion",
+        "Análisis tormenta: frmAnalisisTor", "Cálculo intensidad máxima: frmIntensidadMax",
+        "Cálculo de intensidad máxima con el criterio de Grobe, conocido como de Dyck y Peschke: frmDyckPeschkeImax",
+        "Cálculo de intensidad máxima con el criterio de  Frederich Bell: frmBell",
         "Promedio aritmético: frmPromArit", "Polígono de Thiessen: frmThiessen", "Isoyetas: frmIsoyeta",
         "Correntómetro: frmAforoCorren", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
         "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
