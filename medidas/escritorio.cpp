@@ -156,27 +156,53 @@ void Pulsar(benchmark::State& estado, const char* boton) {
 struct ModuloLleno {
     const char* forma;
     int filas;
+    const char* antes = nullptr;  ///< Button to be pressed before the chart.
+    const char* caja = nullptr;   ///< Box with the value of a window without a grid.
 };
-constexpr ModuloLleno kModulos[] = {{"frmVariacionEsta", 1500}, {"frmCurvaDuracion", 499}, {"frmAforoCorren", 49}};
+constexpr const char* kTablaIDT = "bCalPreviosIDT";
+constexpr ModuloLleno kModulos[] = {{"frmVariacionEsta", 1500},
+                                    {"frmCurvaDuracion", 499},
+                                    {"frmAnalisisTor", 198},
+                                    {"frmIntensidadMax", 1500, kTablaIDT},
+                                    {"frmDyckPeschkeImax", 1500, kTablaIDT},
+                                    {"frmBell", 0, kTablaIDT, "txtPD60T10"},
+                                    {"frmAforoCorren", 49}};
 
 /// A command of a full module whose first value has changed; the chart is shown from the start.
 void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char* boton) {
     Mesa mesa(modulo.forma);
     mesa.AbrirModulo();
-    mesa.Llenar(modulo.filas);
+    if (modulo.caja == nullptr) {
+        mesa.Llenar(modulo.filas);
+    }
+    const auto cambiar = [&](const char* valor) {
+        mesa.App().Despachar([&] {
+            if (modulo.caja != nullptr) {
+                auto& caja = dynamic_cast<TextBox&>(*mesa.Modulo().Controls(modulo.caja));
+                caja.TraerAlFrente();
+                caja.Text = valor;
+            } else {
+                mesa.Grid().PonerTextMatrix(1, 1, valor);
+            }
+        });
+        Pintar();
+    };
     const auto pulsar = [&mesa](const char* cual) {
         mesa.App().Pulsar(*mesa.Modulo().Controls(cual));
         Pintar();
     };
+    cambiar("150");
     pulsar("bCalcular");
+    if (modulo.antes != nullptr) {
+        pulsar(modulo.antes);
+    }
     pulsar("bGraficar");
     const Testigo testigo;
     bool mayor = false;
     for (auto _ : estado) {
         estado.PauseTiming();
         mayor = !mayor;
-        mesa.App().Despachar([&] { mesa.Grid().PonerTextMatrix(1, 1, mayor ? "160" : "150"); });
-        Pintar();
+        cambiar(mayor ? "160" : "150");
         estado.ResumeTiming();
         pulsar(boton);
     }

@@ -117,6 +117,7 @@ void IntensidadDiseno::bGraficar_Click() {
             curva.y.push_back(Val(grdImaxTD.TextMatrix(j, columna)));
         }
     }
+    Graph1.TraerAlFrente();
     GraficoDibujar(Graph1, {.conTrama = true}, curvas);
 }
 
