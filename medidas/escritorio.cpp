@@ -182,6 +182,7 @@ void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char
                 caja.TraerAlFrente();
                 caja.Text = valor;
             } else {
+                mesa.Grid().TraerAlFrente();
                 mesa.Grid().PonerTextMatrix(1, 1, valor);
             }
         });
@@ -194,6 +195,7 @@ void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char
     cambiar("150");
     pulsar("bCalcular");
     if (modulo.antes != nullptr) {
+        mesa.App().Despachar([&] { mesa.Modulo().Controls(modulo.antes)->TraerAlFrente(); });
         pulsar(modulo.antes);
     }
     pulsar("bGraficar");

@@ -11,8 +11,11 @@ namespace {
 /// Error 5 for a value without a logarithm, wherever it stands.
 bool LogaritmosIguales(const ArregloBase<Double>& x, int n) {
     bool iguales = true;
-    for (int i = 1; i <= n; ++i) {
-        iguales = Log(x(i)) == Log(x(1)) && iguales;
+    Double anterior = n > 0 ? Log(x(1)) : 0;
+    for (int i = 2; i <= n; ++i) {
+        const Double siguiente = Log(x(i));
+        iguales = siguiente == anterior && iguales;
+        anterior = siguiente;
     }
     return iguales;
 }

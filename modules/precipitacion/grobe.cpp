@@ -1,6 +1,7 @@
 #include "modules/precipitacion/grobe.h"
 
-#include "modules/estadistica/orden.h"
+#include <algorithm>
+#include <functional>
 
 namespace cuencalia {
 
@@ -26,10 +27,13 @@ IntensidadesGrobe CalcularGrobe(const ArregloBase<Double>& P24, int n, const std
             grobe.P[c](i) = LluviaGrobe(P24(i), d);
             grobe.I[c](i) = IntensidadMedia(grobe.P[c](i), d);
         }
-        ArregloBase<Double> ascendente = grobe.I[c];
-        OrdenarSerie(ascendente, n);
+        std::vector<Double> ordenadas;
+        for (int i = 1; i <= n; ++i) {
+            ordenadas.push_back(grobe.I[c](i));
+        }
+        std::sort(ordenadas.begin(), ordenadas.end(), std::greater<>());
         for (int r = 1; r <= n; ++r) {
-            grobe.Iord[c](r) = ascendente(n + 1 - r);
+            grobe.Iord[c](r) = ordenadas[static_cast<std::size_t>(r - 1)];
             grobe.puntos.Agregar(PeriodoDeRango(n, r), d, grobe.Iord[c](r));
         }
     }
