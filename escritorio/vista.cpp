@@ -27,9 +27,18 @@ Vista::Vista(Escritorio& escritorio, Control& control, QWidget* widget)
     widget->installEventFilter(this);
 }
 
-Vista::~Vista() { Soltar(); }
+Vista::~Vista() { Separar(); }
 
 void Vista::Soltar() {
+    Separar();
+    // A button that is pressed by its key is clicked a moment later, and a hidden table may still scroll.
+    widget_->disconnect(this);
+    for (const QObject* parte : widget_->findChildren<QObject*>()) {
+        parte->disconnect(this);
+    }
+}
+
+void Vista::Separar() {
     if (control_ != nullptr) {
         control_->PonerVista(nullptr);
         control_ = nullptr;

@@ -47,6 +47,7 @@ class Vista : public QObject, public VistaControl {
 
   private:
     void MoverRaton();
+    void Separar();
 
     Control* control_;
     QWidget* widget_;

@@ -168,7 +168,8 @@ TEST(EditorTextoRico, NoAbreLoQueTardaria) {
     // clang-format on
     EditorTextoRico editor;
     editor.SelText("lo de antes");
-    for (const auto& [contenido, causa] : casos) {
+    for (const auto& caso : casos) {
+        const auto& contenido = caso.first;
         const std::string ruta = pruebas::Guardar(carpeta / "x.rtf", contenido);
         try {
             editor.LoadFile(ruta);
