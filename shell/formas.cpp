@@ -3,7 +3,11 @@
 #include "frame/reportes/frmPadre.h"
 #include "modules/aforo/frmAforoCorren.h"
 #include "modules/caudales/frmQmaxGumbel.h"
+#include "modules/caudales/frmQmaxMacMath.h"
+#include "modules/caudales/frmQmaxMacMathDyckPeschke.h"
 #include "modules/caudales/frmQmaxNash.h"
+#include "modules/caudales/frmQmaxRacDyckPeschke.h"
+#include "modules/caudales/frmQmaxRacional.h"
 #include "modules/curvas/frmCurvaDuracion.h"
 #include "modules/curvas/frmVariacionEsta.h"
 #include "modules/distribuciones/frmDisGamma2par.h"
@@ -79,6 +83,10 @@ TablaFormas FormasDelPrograma() {
         {"frmPromArit", Hacer<frmPromArit>},
         {"frmThiessen", Hacer<frmThiessen>},
         {"frmIsoyeta", Hacer<frmIsoyeta>},
+        {"frmQmaxRacional", Hacer<frmQmaxRacional>},
+        {"frmQmaxRacDyckPeschke", Hacer<frmQmaxRacDyckPeschke>},
+        {"frmQmaxMacMath", Hacer<frmQmaxMacMath>},
+        {"frmQmaxMacMathDyckPeschke", Hacer<frmQmaxMacMathDyckPeschke>},
         {"frmQmaxGumbel", Hacer<frmQmaxGumbel>},
         {"frmQmaxNash", Hacer<frmQmaxNash>},
         {"frmVariacionEsta", Hacer<frmVariacionEsta>},

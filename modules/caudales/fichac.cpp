@@ -1,0 +1,154 @@
+#include "modules/caudales/fichac.h"
+
+#include <algorithm>
+
+#include "frame/base/textos.h"
+#include "frame/modulo/cajas.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr int kFilasTabla = 50;  // the heading and 49 groups
+
+DescripcionTabla TablaDeGrupos(const std::vector<const char*>& encabezados) {
+    constexpr int kAnchos[] = {340, 800, 2600, 1500, 800, 600};
+    DescripcionTabla tabla{.filas = kFilasTabla, .columnas = {}};
+    for (std::size_t c = 0; c < encabezados.size(); ++c) {
+        tabla.columnas.push_back({encabezados[c], kAnchos[c]});
+    }
+    return tabla;
+}
+
+/// Writes a cell and the tabs up to the next column of the report.
+std::string CeldaDeGrupo(const std::string& texto, int /*fila*/, int columna) {
+    constexpr int kTabuladores[] = {1, 2, 6, 4, 2, 1};  // of a column
+    constexpr int kLetras = 8;                          // between two of them
+    const int ocupados = Len(texto) / kLetras;
+    return texto + std::string(static_cast<std::size_t>(std::max(1, kTabuladores[columna] - ocupados)), '\t');
+}
+
+}  // namespace
+
+FichaC::Lista::Lista(Formulario& forma, const ListaSuelo& descripcion)
+    : rotulo(forma, std::string("lbl") + descripcion.nombre, descripcion.rotulo),
+      combo(forma, descripcion.nombre, descripcion.entradas) {
+    rotulo.Nombra(combo);
+    combo.Text = descripcion.inicio;
+}
+
+FichaC::FichaC(MarcoModulo& modulo, const TablasDeC& tablas, FichaQ& destino)
+    : fraDatosC(modulo, "fraDatosC", "Ingreso datos:"),
+      grupo(modulo, "txtgrupo", "Grupo N°:"),
+      area(modulo, "txtac", "Area (a):", "has"),
+      pendiente(modulo, "txts", "Pendiente", "%"),
+      bAgregar(modulo, "bAgregar", "Agregar", "Agregar el grupo a la tabla"),
+      grdC(modulo, "grdC", "Grupos de la cuenca", TablaDeGrupos(tablas.encabezados)),
+      fraResultadosC(modulo, "fraResultadosC", "Resultados:"),
+      bCponderado(modulo, "bCponderado", "C ponderado", "Calcular el C ponderado y pasarlo al cálculo de Q"),
+      ponderado(modulo, "txtCponderado", "C ponderado:"),
+      total(modulo, "txtatotal", "Area total:", "has"),
+      modulo_(modulo),
+      tablas_(tablas),
+      destino_(destino) {
+    for (const ListaSuelo& lista : tablas.listas) {
+        listas.push_back(std::make_unique<Lista>(modulo, lista));
+    }
+    for (Campo* campo : {&grupo, &ponderado, &total}) {
+        campo->caja.Locked = true;
+    }
+    SoloNumero(area.caja);
+    SoloNumero(pendiente.caja);
+    EncadenarEnter({&area.caja, &pendiente.caja}, bAgregar);
+    bAgregar.Click.Conectar([this] { bAgregar_Click(); });
+    bCponderado.Click.Conectar([this] { bCponderado_Click(); });
+}
+
+void FichaC::ReiniciarC() {
+    grupos_.clear();
+    grupo.caja.Text = "1";
+    grdC.Iniciar();
+    for (Campo* campo : {&area, &pendiente, &ponderado, &total}) {
+        campo->caja.Text = "";
+    }
+}
+
+void FichaC::Limpiar() {
+    ReiniciarC();
+    area.caja.SetFocus();
+}
+
+void FichaC::bAgregar_Click() {
+    if (!Exigir(area.caja, tablas_.faltaArea) ||
+        (tablas_.faltaPendiente && !Exigir(pendiente.caja, *tablas_.faltaPendiente))) {
+        return;
+    }
+    std::vector<std::string> textos;
+    for (const auto& lista : listas) {
+        textos.push_back(lista->combo.Text);
+    }
+    const GrupoClasificado clase = tablas_.clasificar(textos, Val(pendiente.caja.Text()));
+    const GrupoSuelo nuevo{CSng(Val(area.caja.Text())), CSng(clase.C)};
+    if (static_cast<int>(grupos_.size()) == tablas_.gruposMaximos) {
+        throw ErrorEjecucion(kSubindiceFuera);
+    }
+    grupos_.push_back(nuevo);
+    const int numero = static_cast<int>(grupos_.size());
+    if (numero >= kFilasTabla) {
+        Avisar("La tabla admite 49 grupos: los demás cuentan en el C ponderado, pero no se ven");
+    } else {
+        Avisar(clase.C == 0 ? "Los textos elegidos no están en las tablas: C = 0" : "");
+    }
+    grdC.PonerFila(numero,
+                   {CStr(numero), CStr(nuevo.area), clase.cobertura, clase.textura, clase.pendiente, CStr(nuevo.C)});
+    grupo.caja.Text = CStr(numero + 1);
+    area.caja.Text = "";
+    pendiente.caja.Text = "";
+    for (std::size_t i = 0; i < listas.size(); ++i) {
+        if (tablas_.listas[i].vuelve) {
+            listas[i]->combo.Text = tablas_.listas[i].inicio;
+        }
+    }
+    area.caja.SetFocus();
+}
+
+void FichaC::bCponderado_Click() {
+    Avisar(grupos_.empty() ? "No hay grupos: agregar por lo menos uno" : "");
+    const Ponderacion p = PonderarC(grupos_);
+    ponderado.caja.Text = Format(p.C, "0.0#");
+    destino_.C.caja.Text = ponderado.caja.Text();
+    total.caja.Text = CStr(p.area);
+    destino_.A.caja.Text = total.caja.Text();
+    Avisar("C y el área pasaron al cálculo de Q");
+}
+
+void FichaC::Reportar(Reporte& reporte) {
+    std::string encabezado;
+    int columna = 0;
+    for (const char* titulo : {" N°", " Área"}) {
+        encabezado += CeldaDeGrupo(titulo, 0, columna++);
+    }
+    for (; columna < static_cast<int>(tablas_.encabezados.size()); ++columna) {
+        encabezado +=
+            CeldaDeGrupo(std::string(" ") + tablas_.encabezados[static_cast<std::size_t>(columna)], 0, columna);
+    }
+    reporte.EscribirTabla(
+        {.titulo = tablas_.tituloReporte, .regla = 140, .encabezado = encabezado, .celda = CeldaDeGrupo}, grdC,
+        static_cast<int>(grupos_.size()));
+    reporte.ReporteLinea(Space(25) + "C ponderado:" + ponderado.caja.Text());
+    reporte.ReporteLinea(Space(27) + "Area total:" + total.caja.Text() + " has");
+    reporte.ReporteBlanco();
+}
+
+Disposicion FichaC::Zona() {
+    std::vector<Disposicion> elecciones;
+    for (const auto& lista : listas) {
+        elecciones.insert(elecciones.end(), {lista->rotulo, lista->combo});
+    }
+    Disposicion ingreso = Grupo(fraDatosC, {EnColumna({&grupo, &area, &pendiente}), Pares(2, std::move(elecciones)),
+                                            Fila({bAgregar, Espacio()})});
+    Disposicion resultados = Grupo(fraResultadosC, {Fila({bCponderado, Espacio()}), EnColumna({&ponderado, &total})});
+    return Fila({Columna({std::move(ingreso), std::move(resultados), Espacio()}), Disposicion(grdC).Estira(1)});
+}
+
+}  // namespace cuencalia
