@@ -1,5 +1,6 @@
 #include <QComboBox>
 #include <QScopedValueRollback>
+#include <algorithm>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vistas.h"
@@ -8,6 +9,8 @@
 namespace cuencalia {
 
 namespace {
+
+constexpr int kAireCombo = 56;  // pixels around the text: edges and arrow
 
 class VistaCombo : public Vista {
   public:
@@ -30,9 +33,13 @@ class VistaCombo : public Vista {
         if (mostrada_ != combo_.List()) {
             mostrada_ = combo_.List();
             widget_->clear();
+            int ancho = 0;
             for (const std::string& entrada : mostrada_) {
                 widget_->addItem(Q(entrada));
+                ancho = std::max(ancho, widget_->fontMetrics().horizontalAdvance(Q(entrada)));
             }
+            // The natural size of an editable list leaves its longest entry no room at the edges.
+            widget_->setMinimumWidth(ancho + kAireCombo);
         }
         if (combo_.Editable) {
             if (widget_->currentText() != Q(combo_.Text)) {
