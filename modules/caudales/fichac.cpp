@@ -1,7 +1,5 @@
 #include "modules/caudales/fichac.h"
 
-#include <algorithm>
-
 #include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
 
@@ -20,12 +18,10 @@ DescripcionTabla TablaDeGrupos(const std::vector<const char*>& encabezados) {
     return tabla;
 }
 
-/// Writes a cell and the tabs up to the next column of the report.
+/// A cell with the blanks up to the next column of the report.
 std::string CeldaDeGrupo(const std::string& texto, int /*fila*/, int columna) {
-    constexpr int kTabuladores[] = {1, 2, 6, 4, 2, 1};  // of a column
-    constexpr int kLetras = 8;                          // between two of them
-    const int ocupados = Len(texto) / kLetras;
-    return texto + std::string(static_cast<std::size_t>(std::max(1, kTabuladores[columna] - ocupados)), '\t');
+    constexpr int kAnchos[] = {8, 14, 37, 24, 16, 0};  // of the columns, in characters
+    return " " + texto + Space(kAnchos[columna] - 1 - Len(texto));
 }
 
 }  // namespace
@@ -124,13 +120,8 @@ void FichaC::bCponderado_Click() {
 
 void FichaC::Reportar(Reporte& reporte) {
     std::string encabezado;
-    int columna = 0;
-    for (const char* titulo : {" N°", " Área"}) {
-        encabezado += CeldaDeGrupo(titulo, 0, columna++);
-    }
-    for (; columna < static_cast<int>(tablas_.encabezados.size()); ++columna) {
-        encabezado +=
-            CeldaDeGrupo(std::string(" ") + tablas_.encabezados[static_cast<std::size_t>(columna)], 0, columna);
+    for (int columna = 0; columna < grdC.Cols(); ++columna) {
+        encabezado += CeldaDeGrupo(columna == 0 ? "N°" : grdC.TextMatrix(0, columna), 0, columna);
     }
     reporte.EscribirTabla(
         {.titulo = tablas_.tituloReporte, .regla = 140, .encabezado = encabezado, .celda = CeldaDeGrupo}, grdC,

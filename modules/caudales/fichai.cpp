@@ -104,11 +104,12 @@ void FichaI::MostrarIntensidad(Double intensidad) {
     destino_.I.caja.Text = Imax.caja.Text();
 }
 
-Disposicion FichaI::ZonaDatos() {
-    return Columna(
-        {Grupo(fraDatosI, {EnColumna({&L, &H, &T})}),
-         Grupo(fraDuracion, {Fila({optDuracionAdiSi, optDuracionAdiNo, txtDuracionAdi, lblDuracionAdi, Espacio()})}),
-         Fila({bcalcularI, Espacio()}), Grupo(fraResultadosI, {EnColumna({&tc, &Imax})}), Espacio()});
+Disposicion FichaI::Pasos() {
+    Disposicion duracion =
+        Columna({Grupo(fraDuracion, {Fila({optDuracionAdiSi, txtDuracionAdi, lblDuracionAdi}), optDuracionAdiNo}),
+                 Fila({bcalcularI, Espacio()})});
+    return Fila({Grupo(fraDatosI, {EnColumna({&L, &H, &T})}), std::move(duracion),
+                 Columna({Grupo(fraResultadosI, {EnColumna({&tc, &Imax})}), Espacio()}), Espacio()});
 }
 
 }  // namespace cuencalia

@@ -55,8 +55,8 @@ class FichaI {
     void MostrarDuracion(Double duracion);
     void MostrarIntensidad(Double intensidad);
     void Avisar(const std::string& aviso) { modulo_.StatusBar1.PonerPanel(kPanelAvisos, aviso); }
-    /// Layout of the boxes, the button and the results.
-    Disposicion ZonaDatos();
+    /// Layout of the boxes, the button and the results, side by side.
+    Disposicion Pasos();
 
     ModuloCalculo& modulo_;
 

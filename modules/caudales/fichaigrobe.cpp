@@ -70,8 +70,8 @@ void FichaIGrobe::Reportar(Reporte& reporte) {
 }
 
 Disposicion FichaIGrobe::Zona() {
-    return Fila({ZonaDatos(), modulo_.datos.Zona(),
-                 Columna({lblImaxOrdT, Disposicion(grdImaxOrdT).Estira(1), grdecua}).Estira(1)});
+    Disposicion ajuste = Columna({lblImaxOrdT, Disposicion(grdImaxOrdT).Estira(1), grdecua});
+    return Columna({Pasos(), Fila({modulo_.datos.Zona(), std::move(ajuste).Estira(1)}).Estira(1)});
 }
 
 }  // namespace

@@ -192,9 +192,10 @@ Disposicion FichaIRegional::Zona() {
     for (const auto& provincia : provincias) {
         opciones.emplace_back(provincia->opcion);
     }
-    return Fila({Columna({Grupo(fraOpciones, {optProvincias, optRegistros}),
-                          Grupo(fraProvincias, {Pares(2, std::move(opciones)), lblProvincia}), Espacio()}),
-                 ZonaDatos(), Columna({modulo_.datos.Zona().Estira(1), lblecuacioni, txtecuacioni}).Estira(1)});
+    Disposicion eleccion = Columna({Grupo(fraOpciones, {optProvincias, optRegistros}),
+                                    Grupo(fraProvincias, {Pares(2, std::move(opciones)), lblProvincia}), Espacio()});
+    Disposicion registros = Columna({modulo_.datos.Zona().Estira(1), lblecuacioni, txtecuacioni});
+    return Columna({Pasos(), Fila({std::move(eleccion), std::move(registros).Estira(2), Espacio(1)}).Estira(1)});
 }
 
 }  // namespace

@@ -21,6 +21,10 @@ FichaQ::FichaQ(MarcoModulo& modulo, const FormulaCaudal& formula)
       I(modulo, "txtiq", "Intensidad máxima (I):", "mm/hr"),
       lblMensajeI(modulo, "lblMensajeI", "para una duración igual al tiempo de concentración y un período de retorno T",
                   Papel::Nota),
+      lblPasos(modulo, "lblPasos",
+               "C y el área vienen de la ficha Cálculo de C, e I de la ficha Cálculo de I. También se pueden escribir "
+               "aquí.",
+               Papel::Nota),
       fraResultadoQ(modulo, "fraResultadoQ", "Resultado:"),
       Qmax(modulo, "txtqmax", "Q máximo:", "m3/s"),
       formula_(formula) {
@@ -91,7 +95,7 @@ void FichaQ::Reportar(Reporte& reporte, const char* titulo) const {
 }
 
 Disposicion FichaQ::Zona() {
-    return Fila({Columna({lblFormula, Grupo(fraDatosQ, {EnColumna(datos_), lblMensajeI}),
+    return Fila({Columna({lblFormula, Grupo(fraDatosQ, {EnColumna(datos_), lblMensajeI, lblPasos}),
                           Grupo(fraResultadoQ, {EnColumna({&Qmax})}), Espacio()}),
                  Espacio()});
 }

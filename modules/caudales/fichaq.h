@@ -21,7 +21,7 @@ class FichaQ {
     Frame fraDatosQ;
     Campo C, A, I;
     std::optional<Campo> S;  ///< Only where the formula takes it.
-    Label lblMensajeI;
+    Label lblMensajeI, lblPasos;
     Frame fraResultadoQ;
     Campo Qmax;
 
