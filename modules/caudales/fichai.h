@@ -30,7 +30,7 @@ class FichaI {
     Frame fraResultadosI;
     Campo tc, Imax;
 
-    /// Returns whether the data of the grid gave an intensity.
+    /// Returns whether there is an intensity.
     bool bcalcularI_Click();
     /// The page comes to the front.
     void Entrar();
@@ -47,8 +47,8 @@ class FichaI {
     virtual Disposicion Zona() = 0;
 
   protected:
-    /// Finds the intensity for a return period in years and a duration in minutes, shows it, and returns whether it
-    /// comes from the data of the grid.
+    /// Finds the intensity for a return period in years and a duration in minutes, shows it, and returns whether there
+    /// is one.
     virtual bool Calcular(Single periodo, Double duracion) = 0;
     /// Tells a run-time error of Calcular.
     virtual void Fallar() = 0;

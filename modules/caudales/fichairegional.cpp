@@ -162,7 +162,7 @@ bool FichaIRegional::Calcular(Single periodo, Double duracion) {
     }
     MostrarDuracion(duracion);
     MostrarIntensidad(intensidad_);
-    return optRegistros.Value;
+    return true;
 }
 
 void FichaIRegional::Fallar() {

@@ -45,7 +45,9 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
         "Cálculo de intensidad máxima con el criterio de Grobe, conocido como de Dyck y Peschke: frmDyckPeschkeImax",
         "Cálculo de intensidad máxima con el criterio de  Frederich Bell: frmBell",
         "Promedio aritmético: frmPromArit", "Polígono de Thiessen: frmThiessen", "Isoyetas: frmIsoyeta",
-        "Correntómetro: frmAforoCorren", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
+        "Correntómetro: frmAforoCorren", "Racional: frmQmaxRacional",
+        "Racional con Dyck y Peschke: frmQmaxRacDyckPeschke", "Mac Math: frmQmaxMacMath",
+        "Mac Math con Dyck y Peschke: frmQmaxMacMathDyckPeschke", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
         "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
     // clang-format on
     EXPECT_FALSE(sistema.terminado);

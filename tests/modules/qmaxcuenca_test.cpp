@@ -1,0 +1,114 @@
+#include <fstream>
+#include <sstream>
+
+#include "modules/caudales/cuenca.h"
+#include "modules/caudales/intensidadregional.h"
+#include "modules/caudales/macmath.h"
+#include "modules/caudales/moduloqmax.h"
+#include "modules/caudales/racional.h"
+#include "tests/forma_en_uso.h"
+#include "tests/numero_de_error.h"
+
+namespace cuencalia {
+namespace {
+
+/// The rows of tests/datos/cuenca.csv of that kind, each without it.
+std::vector<std::vector<std::string>> Renglones(const std::string& clase) {
+    std::ifstream archivo(CUENCALIA_DATOS "/cuenca.csv");
+    std::vector<std::vector<std::string>> renglones;
+    for (std::string linea; std::getline(archivo, linea);) {
+        std::istringstream campos(linea);
+        std::string campo;
+        if (std::getline(campos, campo, ';') && campo == clase) {
+            for (renglones.emplace_back(); std::getline(campos, campo, ';');) {
+                renglones.back().push_back(campo);
+            }
+        }
+    }
+    return renglones;
+}
+
+TEST(Escorrentia, MetodoRacional) {
+    for (const auto& r : Renglones("rural")) {
+        for (const auto& [pendiente, columna] : {std::pair(0.0, 2), std::pair(5.0, 2), std::pair(5.01, 3),
+                                                 std::pair(10.0, 3), std::pair(10.01, 4), std::pair(-1.0, 4)}) {
+            EXPECT_EQ(CoeficienteRural(r[0], r[1], pendiente), std::stod(r[static_cast<std::size_t>(columna)]))
+                << r[0] << ", " << r[1] << ", " << pendiente;
+        }
+    }
+    for (const auto& r : Renglones("urbana")) {
+        EXPECT_EQ(CoeficienteUrbano(r[0]), std::stod(r[1])) << r[0];
+    }
+    EXPECT_EQ(Renglones("rural").size(), std::size(kEscorrentiaRural) + 1);
+    EXPECT_EQ(Renglones("urbana").size(), std::size(kEscorrentiaUrbana) + 1);
+}
+
+TEST(Escorrentia, MacMath) {
+    EXPECT_EQ(Renglones("macmath").size(), 20);
+    for (const auto& r : Renglones("macmath")) {
+        EXPECT_NEAR(CoeficienteMacMath(r[0], r[1], std::stod(r[2])).valor(), std::stod(r[3]), 1e-15) << r[0] << r[1];
+    }
+}
+
+TEST(IntensidadRegional, SeisEcuaciones) {
+    const auto esperadas = Renglones("regional");
+    ASSERT_EQ(esperadas.size(), std::size(kEcuacionesRegionales));
+    for (std::size_t i = 0; i < esperadas.size(); ++i) {
+        const EcuacionRegional& ecuacion = kEcuacionesRegionales[i];
+        EXPECT_EQ(ecuacion.lugar, esperadas[i][0]);
+        EXPECT_NEAR(ecuacion.Evaluar(25, 30).valor(), std::stod(esperadas[i][1]), 5e-5) << ecuacion.lugar;
+        EXPECT_EQ(NumeroDeError([&] { return ecuacion.Evaluar(25, 1); }), ecuacion.logDeLog ? 5 : 0);
+    }
+}
+
+TEST(Cuenca, TiempoYPonderacion) {
+    // (1000³/100)^0.385 = 10^2.695 = 495.4502
+    EXPECT_NEAR(TiempoKirpich(1000, 100).valor(), 9.6612786, 1e-6);
+    EXPECT_EQ(NumeroDeError([] { return TiempoKirpich(1000, 0); }), 11);
+    // Each pair has a half as its third digit, and areas that no Single holds.
+    const Ponderacion p = PonderarC({{10.1F, 0.35F}, {10.1F, 0.5F}});
+    EXPECT_NEAR(p.C.valor(), 0.425, 1e-15);
+    EXPECT_NEAR(p.area.valor(), 20.2, 1e-14);
+}
+
+class GruposTest : public pruebas::FormaEnUso<ModuloQmax> {
+  protected:
+    GruposTest() : FormaEnUso("frmQmaxRacional") {
+        app.Despachar([this] { F().SSTab1.Tab = 1; });
+    }
+
+    void Agregar(const char* area) {
+        app.Despachar([&] { F().fichaC.area.caja.Text = area; });
+        app.Pulsar(F().fichaC.bAgregar);
+    }
+    std::string Ponderar() {
+        app.Pulsar(F().fichaC.bCponderado);
+        return F().fichaC.ponderado.caja.Text() + " " + F().fichaC.total.caja.Text();
+    }
+};
+
+// The table has room for 49 groups, the calculation for 150.
+TEST_F(GruposTest, LosQueNoCabenEnLaTablaCuentan) {
+    for (int i = 1; i <= 49; ++i) {
+        Agregar("0.1");
+    }
+    EsperarSilencio();
+    EXPECT_EQ(F().fichaC.grdC.TextMatrix(49, 0), "49");
+    EXPECT_EQ(Ponderar(), "0.1 4.9");
+    Agregar("0.1");
+    EXPECT_EQ(NumerosDe(sistema.errores), std::vector{9});
+    EXPECT_EQ(F().StatusBar1.Panel(kPanelAvisos),
+              "La tabla admite 49 grupos: los demás cuentan en el C ponderado, pero no se ven");
+    EXPECT_EQ(F().fichaC.area.caja.Text(), "0.1");
+    EXPECT_EQ(Ponderar(), "0.1 5");
+    for (int i = 51; i <= 151; ++i) {
+        Agregar("0.1");
+    }
+    EXPECT_EQ(Ponderar(), "0.1 15");
+    sistema.errores.clear();
+    // The report has no rows to read beyond the 49th.
+    EsperarMensaje(F().bReporte, "No se puede editar el reporte: " + F().Caption(), 64, "Mensaje de error");
+}
+
+}  // namespace
+}  // namespace cuencalia
