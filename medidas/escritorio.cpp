@@ -234,6 +234,26 @@ void GenerarAR1(benchmark::State& estado, const char* boton) {
     testigo.Exigir(estado, 1);
 }
 
+/// The intensity of a basin from 1500 daily maxima, with the table of its ranks.
+void CalcularIntensidad(benchmark::State& estado) {
+    Mesa mesa("frmQmaxRacDyckPeschke");
+    mesa.AbrirModulo();
+    const auto control = [&mesa](const char* nombre) -> Control& { return *mesa.Modulo().Controls(nombre); };
+    mesa.App().Despachar([&] {
+        mesa.Grid().TraerAlFrente();
+        for (const char* caja : {"txtLi", "txtHi", "txtTi"}) {
+            dynamic_cast<TextBox&>(control(caja)).Text = "100";
+        }
+    });
+    mesa.Llenar();
+    const Testigo testigo;
+    for (auto _ : estado) {
+        mesa.App().Pulsar(control("bcalcularI"));
+        Pintar();
+    }
+    testigo.Exigir(estado, 1);
+}
+
 BENCHMARK(AbrirModulo)->Name("AbrirModulo_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);
@@ -241,6 +261,7 @@ BENCHMARK_CAPTURE(Pulsar, Calcular_1500_pintado, "bCalcular")->Unit(benchmark::k
 BENCHMARK_CAPTURE(Pulsar, Ordenar_1500_pintado, "bOrdenar")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1_2950_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, GraficoAR1_2950_pintado, "bGraficar")->Unit(benchmark::kMillisecond);
+BENCHMARK(CalcularIntensidad)->Name("QmaxDyck_pintado")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -33,6 +33,10 @@ class Modulo {
     explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas) : forma_(forma) {
         app_.Despachar([this] { app_.ModuloAbrir(forma_); });
         grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
+        Llenar(filas);
+    }
+
+    void Llenar(int filas) {
         app_.Despachar([this, filas] {
             grid_->PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
@@ -43,10 +47,19 @@ class Modulo {
             }
         });
     }
-
+    void Elegir(const char* opcion) {
+        app_.Despachar([&] {
+            auto& boton = dynamic_cast<OptionButton&>(*app_.Cargada(forma_)->Controls(opcion));
+            boton.TraerAlFrente();
+            boton.Value = true;
+        });
+    }
     void Pulsar(const char* boton) { app_.Pulsar(*app_.Cargada(forma_)->Controls(boton)); }
     void Escribir(const char* caja, const std::string& texto) {
         app_.Despachar([&] { dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text = texto; });
+    }
+    const std::string& Texto(const char* caja) {
+        return dynamic_cast<TextBox&>(*app_.Cargada(forma_)->Controls(caja)).Text();
     }
     const Hoja& Libro() const { return plataforma_.libro; }
     /// The answer of the next file dialog.
@@ -202,6 +215,22 @@ void CalcularLlena(benchmark::State& estado, const Llena& llena) {
     }
 }
 
+/// The intensity of a basin from a full grid.
+void CalcularIntensidad(benchmark::State& estado, const char* forma, const char* opcion) {
+    Modulo modulo(forma, 0);
+    modulo.Elegir(opcion);
+    modulo.Llenar(kFilas);
+    modulo.Escribir("txtLi", "2500");
+    modulo.Escribir("txtHi", "80");
+    modulo.Escribir("txtTi", "25");
+    for (auto _ : estado) {
+        modulo.Pulsar("bcalcularI");
+    }
+    if (!modulo.Bien() || modulo.Texto("txtImaxi").empty()) {
+        estado.SkipWithError("the calculation failed");
+    }
+}
+
 void TeclearUnValor(benchmark::State& estado) {
     Modulo modulo;
     int fila = 0;
@@ -352,6 +381,12 @@ BENCHMARK_CAPTURE(CalcularLlena, Isoyeta, Llena{"frmIsoyeta", "txtUltimaIsoyeta"
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, QmaxGumbel, Llena{"frmQmaxGumbel", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, QmaxNash, Llena{"frmQmaxNash", "txtTdato", "100"})->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularIntensidad, QmaxRacional, "frmQmaxRacional", "optRegistros")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularIntensidad, QmaxRacDyck, "frmQmaxRacDyckPeschke", "optDuracionAdiNo")
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacMath, "frmQmaxMacMath", "optRegistros")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacDyck, "frmQmaxMacMathDyckPeschke", "optDuracionAdiNo")
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1_2950, "frmAutoregresivo")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1Trans_2950, "frmAutoregTrans")->Unit(benchmark::kMillisecond);
 BENCHMARK(EscribirLibro)->Name("Libro_2950")->Unit(benchmark::kMillisecond);
