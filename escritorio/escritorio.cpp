@@ -262,8 +262,8 @@ void Escritorio::GuardarAjuste(const std::string& clave, const std::string& valo
 
 std::string Escritorio::CarpetaInstalacion() const {
     const QDir programa(QCoreApplication::applicationDirPath());
-    // An installed program has its files in share/; a program run from its build folder uses those of the source tree.
-    for (const char* lugar : {"../share/cuencalia", "../../..", ".."}) {
+    // A build folder has the share/ of an installed program.
+    for (const char* lugar : {"../share/cuencalia", ".."}) {
         if (programa.exists(QLatin1String(lugar) + QStringLiteral("/ayuda"))) {
             return Std(QDir::cleanPath(programa.filePath(QLatin1String(lugar))));
         }

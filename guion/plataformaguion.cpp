@@ -51,6 +51,8 @@ std::string PlataformaGuion::LeerAjuste(const std::string& clave, const std::str
     return hallado == ajustes.end() ? porOmision : hallado->second;
 }
 
+std::string PlataformaGuion::CarpetaCompartida() { return CUENCALIA_COMPARTIDO; }
+
 void PlataformaGuion::ImprimirForma(Formulario& forma) { impresas.push_back(forma.Nombre()); }
 
 void PlataformaGuion::ImprimirDocumento(Formulario& documento, bool, const std::string&) {

@@ -38,7 +38,7 @@ class PlataformaGuion : public Plataforma {
     Double Reloj() const override { return reloj ? *reloj : Timer(); }
     void Terminar() override { terminado = true; }
     void AbrirConShell(const std::string& ruta) override;
-    std::string CarpetaInstalacion() const override { return "/cuencalia"; }
+    std::string CarpetaInstalacion() const override { return carpeta ? *carpeta : CarpetaCompartida(); }
     void ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                        std::string& nombre) override;
     std::string TextoDelPortapapeles() const override { return portapapeles; }
@@ -50,8 +50,9 @@ class PlataformaGuion : public Plataforma {
     std::vector<ErrorEjecucion> errores;
     std::vector<std::string> impresas;  ///< Names of the forms and documents sent to the printer.
     Hoja libro;                         ///< The workbook that the program was to show last; there is no program for it.
-    std::optional<Double> reloj;        ///< Where the clock stands; none: the clock of the machine.
-    std::vector<std::string> abiertos;  ///< Paths of the files that the shell was asked to open.
+    std::optional<std::string> carpeta;  ///< Folder of the installed program; none: that of the build folder.
+    std::optional<Double> reloj;         ///< Where the clock stands; none: the clock of the machine.
+    std::vector<std::string> abiertos;   ///< Paths of the files that the shell was asked to open.
     std::string portapapeles;
     std::map<std::string, std::string> ajustes;
     /// Answer to the next file dialog; none means Cancel.
@@ -69,6 +70,8 @@ class PlataformaGuion : public Plataforma {
     bool terminado = false;
 
   private:
+    static std::string CarpetaCompartida();
+
     LibrosDeCalculo libros_;
 };
 
