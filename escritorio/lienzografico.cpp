@@ -75,6 +75,10 @@ QString Numero(double valor) { return QString::number(valor, 'g', 7); }
 /// Axis numbers with as many decimals as the ticks need; powers of ten are used only for numbers that would be too
 /// long.
 class Marcas : public QCPAxisTicker {
+  public:
+    /// The names of the whole numbers from 1 on; without them the numbers are shown.
+    void Nombrar(const QStringList& nombres) { nombres_ = nombres; }
+
   protected:
     double getTickStep(const QCPRange& rango) override {
         paso_ = QCPAxisTicker::getTickStep(rango);
@@ -83,6 +87,10 @@ class Marcas : public QCPAxisTicker {
     }
 
     QString getTickLabel(double marca, const QLocale& lugar, QChar, int) override {
+        if (!nombres_.isEmpty()) {
+            const double punto = std::round(marca);
+            return std::abs(marca - punto) < 1e-6 * paso_ ? nombres_.value(static_cast<int>(punto) - 1) : QString();
+        }
         if (std::abs(marca) < 1e-6 * paso_) {
             return QStringLiteral("0");
         }
@@ -106,6 +114,7 @@ class Marcas : public QCPAxisTicker {
     }
 
     double paso_ = 1, mayor_ = 1;
+    QStringList nombres_;
 };
 
 }  // namespace
@@ -218,6 +227,11 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
             }
         }
     }
+    nombres_.clear();
+    for (const std::string& nombre : grafico.NombresX()) {
+        nombres_ << Q(nombre);
+    }
+    static_cast<Marcas&>(*xAxis->ticker()).Nombrar(nombres_);
     const auto& x = grafico.Conjuntos().front().x;
     const bool sinX = std::none_of(x.begin(), x.end(), [](const auto& valor) { return valor.has_value(); });
     numerados_ = dibujado && sinX ? grafico.NumPoints() : 0;
@@ -441,7 +455,7 @@ void LienzoGrafico::Senalar(const Lugar& lugar) {
     const QCPCurve& trazo = *trazos_[static_cast<std::size_t>(lugar.trazo)];
     const double x = trazo.dataMainKey(lugar.punto), y = trazo.dataMainValue(lugar.punto);
     senal_->position->setCoords(x, y);
-    const QString donde = QStringLiteral("x = %1, y = %2").arg(Numero(x), Numero(y));
+    const QString donde = QStringLiteral("x = %1, y = %2").arg(nombres_.value(lugar.punto, Numero(x)), Numero(y));
     valores_->setText(ConLeyenda() ? trazo.name() + QLatin1Char('\n') + donde : donde);
 
     // The text is placed on the side of the point towards the middle of the chart, where there is room.

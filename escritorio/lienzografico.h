@@ -81,7 +81,8 @@ class LienzoGrafico : public QCustomPlot {
     QCPItemText* valores_;
     Lugar senalado_;
     bool conBorde_ = false;
-    int numerados_ = 0;  ///< Points at 1 to n for want of an x.
+    int numerados_ = 0;    ///< Points at 1 to n for want of an x.
+    QStringList nombres_;  ///< Names of those points.
 };
 
 }  // namespace cuencalia

@@ -32,13 +32,20 @@ void EncadenarEnter(const std::vector<TextBox*>& cajas, Control& destino) {
     }
 }
 
-bool Exigir(TextBox& caja, const Aviso& aviso) {
-    if (!caja.Text().empty()) {
-        return true;
+namespace {
+
+bool Exigir(bool cumplido, Control& control, const Aviso& aviso) {
+    if (!cumplido) {
+        control.App().MsgBox(aviso);
+        control.SetFocus();
     }
-    caja.App().MsgBox(aviso);
-    caja.SetFocus();
-    return false;
+    return cumplido;
 }
+
+}  // namespace
+
+bool Exigir(TextBox& caja, const Aviso& aviso) { return Exigir(!caja.Text().empty(), caja, aviso); }
+
+bool Exigir(ComboBox& lista, const Aviso& aviso) { return Exigir(lista.ListIndex() >= 0, lista, aviso); }
 
 }  // namespace cuencalia

@@ -25,5 +25,7 @@ void EncadenarEnter(const std::vector<TextBox*>& cajas, Control& destino);
 
 /// Returns whether the box has a text; when it has none, shows `aviso` and moves the focus to the box.
 bool Exigir(TextBox& caja, const Aviso& aviso);
+/// The same for a list of which an entry must be chosen: a text that is no entry is none.
+bool Exigir(ComboBox& lista, const Aviso& aviso);
 
 }  // namespace cuencalia

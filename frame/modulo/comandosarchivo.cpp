@@ -94,6 +94,10 @@ void ComandosArchivo::bCrear_Click() {
                    " no cabe en un archivo de serie: se guardaron los anteriores");
             throw *fallo;
         }
+        if (!modulo_.DatosLegibles()) {
+            Avisar("Los datos no se guardaron: " + cdCrear.FileName + " tiene los que se leyeron antes");
+            return;
+        }
         modulo_.AnotarGuardado();
         Avisar("Se guardaron " + std::to_string(modulo_.n) + " registros en " + cdCrear.FileName);
     });

@@ -29,8 +29,10 @@ inline constexpr FormatoSerie kArchivoXMaximas{1, "Valores de X", "Valores de X"
 inline constexpr FormatoSerie kArchivoQ{1, "Valores de Q", "Valores Q", "*.Q", 1, 0, false};
 inline constexpr FormatoSerie kArchivoCD{1, "Valores de caudales Q", "Valores de caudales Q", "*.CD"};
 inline constexpr FormatoSerie kArchivoVE{1, "Valores mensuales de X", "Valores mensuales de X", "*.VE"};
-inline constexpr FormatoSerie kArchivoTM{1, "Temperaturas mensuales TM", "Temperaturas mensuales TM", "*.TM"};
-inline constexpr FormatoSerie kArchivoTB{1, "Temperaturas mensuales TB", "Temperaturas mensuales TB", "*.TB"};
+inline constexpr FormatoSerie kArchivoTM{
+    1, "Temperaturas mensuales TM", "Temperaturas mensuales TM", "*.TM", 0, 0, true, "0.0#"};
+inline constexpr FormatoSerie kArchivoTB{
+    1, "Temperaturas mensuales TB", "Temperaturas mensuales TB", "*.TB", 0, 0, true, "0.0#"};
 inline constexpr FormatoSerie kArchivoP{1, "Valores de precipitación P", "Valores de precipitación P", "*.P"};
 inline constexpr FormatoSerie kArchivoTP{2, "Temperaturas y precipitación TP", "Temperaturas y precipitación TP",
                                          "*.TP"};

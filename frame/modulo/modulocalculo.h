@@ -46,6 +46,9 @@ class ModuloCalculo : public MarcoModulo {
     /// The data, as they stand when the current event has ended, are those of a file.
     void AnotarGuardado() { guardando_ = true; }
 
+    /// Whether CargarMatrices reads the data as they stand; a module that refuses them keeps what it read before.
+    virtual bool DatosLegibles() const { return true; }
+
     /// Record i of a series file, from the arrays. Error 6 for a value beyond the range of a Single.
     Registro RegistroDe(int i) const;
     /// Greatest number of rows that the arrays can hold.

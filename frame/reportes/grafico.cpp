@@ -137,6 +137,7 @@ void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcio
     grafico.Visible = true;
     grafico.MostrarRotulos(true);
     grafico.BottomTitle = descripcion.titulo;
+    grafico.NombresX = descripcion.nombres;
     grafico.AutoInc = descripcion.autoInc;
     grafico.PonerNumPoints(descripcion.puntos.value_or(static_cast<int>(series.at(0).y.size())));
     const int dados = static_cast<int>(series.size());

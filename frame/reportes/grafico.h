@@ -37,6 +37,8 @@ class GraficoModulo : public Control {
     Propiedad<int> AutoInc{
         *this, 1};  ///< 1: each value written moves on to the next point; 0: ThisPoint and ThisSet address it.
     Propiedad<std::string> BottomTitle{*this};
+    /// Names of the points at the x axis, in place of the numbers 1 to n; empty: the numbers.
+    Propiedad<std::vector<std::string>> NombresX{*this};
     Propiedad<int> DrawMode{*this, kBorrarGrafico};
 
     int NumPoints() const { return puntos_; }
@@ -109,9 +111,10 @@ struct DescripcionGrafico {
     int tipo = kGraficoLineas;
     int estilo = kLineasUnidas;
     int fondo = kFondoPapel;
-    bool conTrama = false;  ///< Whether the module sets PatternData.
-    bool cauce = false;     ///< Whether the sets are stream beds.
-    std::string titulo{};   ///< Title under the x axis.
+    bool conTrama = false;               ///< Whether the module sets PatternData.
+    bool cauce = false;                  ///< Whether the sets are stream beds.
+    std::string titulo{};                ///< Title under the x axis.
+    std::vector<std::string> nombres{};  ///< Names of the points at the x axis.
     int autoInc = 1;
     std::optional<int> puntos{};     ///< NumPoints, when it differs from the length of the first set.
     std::optional<int> conjuntos{};  ///< NumSets, when it differs from the number of series.
