@@ -25,6 +25,9 @@
 #include "modules/precipitacion/frmBell.h"
 #include "modules/precipitacion/frmDyckPeschkeImax.h"
 #include "modules/precipitacion/frmIntensidadMax.h"
+#include "modules/evapotranspiracion/frmBalanceHidro.h"
+#include "modules/evapotranspiracion/frmBlaneyCriddle.h"
+#include "modules/evapotranspiracion/frmThornthwaite.h"
 #include "modules/precipitacion/frmIsoyeta.h"
 #include "modules/precipitacion/frmPromArit.h"
 #include "modules/precipitacion/frmThiessen.h"
@@ -92,6 +95,9 @@ TablaFormas FormasDelPrograma() {
         {"frmVariacionEsta", Hacer<frmVariacionEsta>},
         {"frmCurvaDuracion", Hacer<frmCurvaDuracion>},
         {"frmAforoCorren", Hacer<frmAforoCorren>},
+        {"frmThornthwaite", Hacer<frmThornthwaite>},
+        {"frmBlaneyCriddle", Hacer<frmBlaneyCriddle>},
+        {"frmBalanceHidro", Hacer<frmBalanceHidro>},
     };
 }
 

@@ -22,6 +22,7 @@ class ValoresPorLatitud {
     /// Takes the twelve months of a latitude; a key that the table does not have leaves them as they are. Returns
     /// whether it has it.
     bool Elegir(const std::string& clave);
+    const Arreglo<Single, 1, 12>& Meses() const { return meses_; }
     Single operator()(int mes) const { return meses_(mes); }
 
   private:

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "modules/evapotranspiracion/modulomensual.h"
+
+namespace cuencalia {
+
+/// Monthly precipitation against the evapotranspiration by Thornthwaite's method, and the first month that has more of
+/// the former.
+class frmBalanceHidro : public ModuloMensual {
+  public:
+    explicit frmBalanceHidro(Aplicacion& app);
+
+    Label lbla{*this, "lbla", "exponente (a):"}, lblMesIni{*this, "lblMesIni", "Mes de inicio que P > ETo:"};
+    TextBox txta{*this, "txta"}, txtMesIni{*this, "txtMesIni"};
+
+    DocePorMes P;  ///< mm
+    ValoresPorLatitud factorF{kTablaF};
+    Thornthwaite anual;
+    DoceSingle PmenosE;  ///< mm
+
+    void Form_Load() override;
+    void GenerarReporte(Reporte& reporte) override;
+
+  protected:
+    void Calcular() override;
+    void LimpiarOtros() override;
+    std::vector<SerieGrafico> Curvas() const override;
+    Disposicion Contenido() override;
+
+  private:
+    void RotularFilas();
+};
+
+}  // namespace cuencalia
