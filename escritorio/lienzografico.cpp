@@ -354,7 +354,10 @@ void LienzoGrafico::MedirDatos(bool desdeCero, const GraficoModulo* par) {
 
 void LienzoGrafico::Acomodar(QSize tamano) {
     const int caben = tamano.width() / kAnchoNumero;
-    const int ejeX = numerados_ > 0 && numerados_ <= caben ? numerados_ : std::clamp(tamano.width() / 90, 3, 10);
+    int ejeX = numerados_ > 0 && numerados_ <= caben ? numerados_ : std::clamp(tamano.width() / 90, 3, 10);
+    if (!nombres_.isEmpty() && numerados_ > caben) {
+        ejeX = numerados_ / 2;  // every second name
+    }
     const int ejeY = std::clamp(tamano.height() / 55, 3, 10);
     xAxis->ticker()->setTickCount(ejeX);
     yAxis->ticker()->setTickCount(ejeY);

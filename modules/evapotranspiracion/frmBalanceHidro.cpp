@@ -108,9 +108,8 @@ void frmBalanceHidro::GenerarReporte(Reporte& reporte) {
 }
 
 Disposicion frmBalanceHidro::Contenido() {
-    return Columna(
-        {Fila({Grupo(fraLatitud, {Fila({cobLatitud, cobLatitudNS})}), Espacio(), lbla, txta, lblMesIni, txtMesIni}),
-         grddis, Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}), Espacio(0)});
+    return Columna({Fila({Latitud(), Espacio(), lbla, txta, lblMesIni, txtMesIni}), Disposicion(grddis).Estira(1),
+                    Grafico().Estira(1)});
 }
 
 }  // namespace cuencalia

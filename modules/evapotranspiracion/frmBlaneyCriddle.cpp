@@ -46,9 +46,9 @@ frmBlaneyCriddle::frmBlaneyCriddle(Aplicacion& app)
                                 .archivo = &kArchivoTB},
                      .resultados = {.filas = 13,
                                     .columnas = {{"Mes", 700},
-                                                 {"T", 800},
-                                                 {"P(%)", 800},
-                                                 {"ETo diaria (mm)", 1450},
+                                                 {"T", 650},
+                                                 {"P(%)", 650},
+                                                 {"ETo diaria (mm)", 1400},
                                                  {"ETr diaria", 1050},
                                                  {"ETr mensual", 1150}},
                                     .columnasFijas = 1},
@@ -184,13 +184,9 @@ Disposicion frmBlaneyCriddle::Contenido() {
         Grupo(fraClima, {Fila({OptEstimado, OptMedido, Espacio()}), std::move(estimado), std::move(medido)});
     Disposicion kc = Grupo(fraKc, {Fila({optKcEstimado, optKcTabla, Espacio()}), Grupo(fraKcEstimado, {cobKc}),
                                    Grupo(fraKcTabla, {Fila({lblKcTabla, txtKcTabla, Espacio()})})});
-    Disposicion latitud = Grupo(fraLatitud, {Fila({cobLatitud, cobLatitudNS})});
     return Columna(
-        {Fila({Columna({std::move(latitud), Espacio()}), Columna({std::move(clima), Espacio()}),
-               Columna({std::move(kc), Espacio()}), Espacio()}),
-         Fila({grddis, Columna({Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})})
-                           .Estira(1)})
-             .Estira(1)});
+        {Fila({Columna({Latitud(), std::move(kc), Espacio()}), Columna({std::move(clima), Espacio()}), Espacio()}),
+         Fila({Columna({Disposicion(grddis).Estira(1)}), Grafico().Estira(1)}).Estira(1)});
 }
 
 }  // namespace cuencalia

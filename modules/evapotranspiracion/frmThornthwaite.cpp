@@ -58,9 +58,8 @@ void frmThornthwaite::GenerarReporte(Reporte& reporte) {
 }
 
 Disposicion frmThornthwaite::Contenido() {
-    return Columna({Fila({Grupo(fraLatitud, {Fila({cobLatitud, cobLatitudNS})}), Espacio(), lbli, txti, lbla, txta}),
-                    grddis, Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}),
-                    Espacio(0)});
+    return Columna(
+        {Fila({Latitud(), Espacio(), lbli, txti, lbla, txta}), Disposicion(grddis).Estira(1), Grafico().Estira(1)});
 }
 
 }  // namespace cuencalia

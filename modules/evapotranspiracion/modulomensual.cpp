@@ -93,6 +93,12 @@ void ModuloMensual::bGraficar_Click() {
     GraficoDibujar(Graph1, {.fondo = fondo_, .conTrama = true, .nombres = std::move(meses)}, Curvas());
 }
 
+Disposicion ModuloMensual::Latitud() { return Grupo(fraLatitud, {Fila({cobLatitud, cobLatitudNS})}); }
+
+Disposicion ModuloMensual::Grafico() {
+    return Columna({Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})});
+}
+
 Reporte::Tabla TablaDeMeses(std::string titulo, const std::vector<std::string>& encabezados, int regla) {
     return {.titulo = std::move(titulo),
             .regla = regla,

@@ -50,6 +50,10 @@ class ModuloMensual : public ModuloCalculo {
     /// The sets of the chart, twelve values each.
     virtual std::vector<SerieGrafico> Curvas() const = 0;
 
+    /// Layout of the latitude, and of the chart with the names of its axes.
+    Disposicion Latitud();
+    Disposicion Grafico();
+
     void LimpiarOtros() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
 
