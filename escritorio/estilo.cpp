@@ -69,6 +69,9 @@ QLineEdit, QComboBox {
     selection-background-color: @acento; selection-color: @sobre;
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid @acento; padding: 2px 5px; }
+QComboBox { padding-right: 0; }
+QComboBox::drop-down { border: none; width: 22px; }
+QComboBox::down-arrow { image: url(:/imagenes/flecha.svg); width: 12px; height: 12px; }
 QLineEdit[readOnly="true"] { background: @ventana; }
 QLineEdit[flotante="true"] { border: 2px solid @acento; border-radius: 0; padding: 0 2px; }
 QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea;
