@@ -1,6 +1,5 @@
 #include <QComboBox>
 #include <QScopedValueRollback>
-#include <algorithm>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/vistas.h"
@@ -10,7 +9,15 @@ namespace cuencalia {
 
 namespace {
 
-constexpr int kAireCombo = 56;  // pixels around the text: edges and arrow
+/// A list that is as wide as its longest entry; Qt leaves out the margins of the text.
+class Lista : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+    QSize sizeHint() const override { return QComboBox::sizeHint() + QSize(isEditable() ? kMargenTexto : 0, 0); }
+
+  private:
+    static constexpr int kMargenTexto = 12;
+};
 
 class VistaCombo : public Vista {
   public:
@@ -18,6 +25,7 @@ class VistaCombo : public Vista {
         : Vista(escritorio, combo, widget), combo_(combo), widget_(widget) {
         widget_->setEditable(combo.Editable);
         widget_->setInsertPolicy(QComboBox::NoInsert);
+        widget_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         connect(widget_, &QComboBox::activated, this,
                 [this](int indice) { escritorio_.App().Despachar([&] { combo_.Elegir(indice); }); });
         connect(widget_, &QComboBox::editTextChanged, this, [this](const QString& texto) {
@@ -33,13 +41,9 @@ class VistaCombo : public Vista {
         if (mostrada_ != combo_.List()) {
             mostrada_ = combo_.List();
             widget_->clear();
-            int ancho = 0;
             for (const std::string& entrada : mostrada_) {
                 widget_->addItem(Q(entrada));
-                ancho = std::max(ancho, widget_->fontMetrics().horizontalAdvance(Q(entrada)));
             }
-            // The natural size of an editable list leaves its longest entry no room at the edges.
-            widget_->setMinimumWidth(ancho + kAireCombo);
         }
         if (combo_.Editable) {
             if (widget_->currentText() != Q(combo_.Text)) {
@@ -61,7 +65,7 @@ class VistaCombo : public Vista {
 }  // namespace
 
 Vista* NuevaVista(Escritorio& escritorio, ComboBox& combo, QWidget* padre) {
-    return new VistaCombo(escritorio, combo, new QComboBox(padre));
+    return new VistaCombo(escritorio, combo, new Lista(padre));
 }
 
 }  // namespace cuencalia
