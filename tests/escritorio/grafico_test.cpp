@@ -142,6 +142,14 @@ TEST_F(Grafico, AxesHaveADecimalPointAndAsManyDecimalsAsTheyNeed) {
     QLocale::setDefault(QLocale::c());
 }
 
+TEST_F(Grafico, PointsHaveTheirNamesAtTheAxisAsFarAsTheyFit) {
+    Dibujar({{.y = {3, 1, 2, 5}}}, {.nombres = {"Ene", "Feb", "Mar", "Abr"}});
+    EXPECT_EQ(Lienzo().xAxis->tickVectorLabels().join(' '), "Ene Feb Mar Abr");
+    Lienzo().xAxis->setRange(2.6, 3.2);
+    Lienzo().replot();
+    EXPECT_EQ(Lienzo().xAxis->tickVectorLabels().join(QString()), "Mar") << "what lies between has no name";
+}
+
 TEST_F(Grafico, PointerAndArrowsTellTheValuesOfAPoint) {
     DibujarTres();
     Clic(Lienzo(), Pixel(25, 0.8));
