@@ -68,14 +68,14 @@ class Mesa {
     Formulario& Modulo(const char* forma = nullptr) { return *App().Cargada(forma != nullptr ? forma : modulo_); }
     FlexGrid& Grid() { return dynamic_cast<FlexGrid&>(*Modulo().Controls("grdt")); }
     QWidget& Ventana() { return *static_cast<Vista*>(Grid().Vista())->Widget()->window(); }
-    void Llenar(int filas = kFilas) {
+    void Llenar(int filas = kFilas, double medio = 100) {
         App().Despachar([&] {
             FlexGrid& grid = Grid();
             grid.PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
                 grid.PonerTextMatrix(i, 0, Str(i));
                 for (int c = 1; c < grid.Cols(); ++c) {
-                    grid.PonerTextMatrix(i, c, Format(100 + 40 * std::sin(0.7 * i * c), "0.0###"));
+                    grid.PonerTextMatrix(i, c, Format(medio * (1 + 0.4 * std::sin(0.7 * i * c)), "0.0###"));
                 }
             }
         });
@@ -96,8 +96,8 @@ void Teclear(int tecla, const QString& texto) {
 }
 
 /// From the command of the menu to the painted window of the module.
-void AbrirModulo(benchmark::State& estado) {
-    Mesa mesa;
+void AbrirModulo(benchmark::State& estado, const char* forma) {
+    Mesa mesa(forma);
     const Testigo testigo;
     for (auto _ : estado) {
         mesa.AbrirModulo();
@@ -152,30 +152,43 @@ void Pulsar(benchmark::State& estado, const char* boton) {
     testigo.Exigir(estado, 1);
 }
 
-/// A module and the rows that it takes at most.
+/// A module, the rows that it takes at most, about what values, and what its lists must say.
 struct ModuloLleno {
     const char* forma;
     int filas;
     const char* antes = nullptr;  ///< Button to be pressed before the chart.
     const char* caja = nullptr;   ///< Box with the value of a window without a grid.
+    double medio = 100;
+    std::vector<std::pair<const char*, int>> listas = {};
 };
 constexpr const char* kTablaIDT = "bCalPreviosIDT";
-constexpr ModuloLleno kModulos[] = {{"frmVariacionEsta", 1500},
-                                    {"frmCurvaDuracion", 499},
-                                    {"frmAnalisisTor", 198},
-                                    {"frmIntensidadMax", 1500, kTablaIDT},
-                                    {"frmDyckPeschkeImax", 1500, kTablaIDT},
-                                    {"frmBell", 0, kTablaIDT, "txtPD60T10"},
-                                    {"frmAforoCorren", 49}};
+const ModuloLleno kModulos[] = {{"frmVariacionEsta", 1500},
+                                {"frmCurvaDuracion", 499},
+                                {"frmAnalisisTor", 198},
+                                {"frmIntensidadMax", 1500, kTablaIDT},
+                                {"frmDyckPeschkeImax", 1500, kTablaIDT},
+                                {"frmBell", 0, kTablaIDT, "txtPD60T10"},
+                                {"frmAforoCorren", 49},
+                                {.forma = "frmThornthwaite", .filas = 12, .medio = 20},
+                                {.forma = "frmBlaneyCriddle",
+                                 .filas = 12,
+                                 .medio = 20,
+                                 .listas = {{"cobInsolacion", 0}, {"cobHumedad", 1}, {"cobViento", 1}, {"cobKc", 0}}},
+                                {.forma = "frmBalanceHidro", .filas = 12, .medio = 20}};
 
 /// A command of a full module whose first value has changed; the chart is shown from the start.
 void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char* boton) {
     Mesa mesa(modulo.forma);
     mesa.AbrirModulo();
     if (modulo.caja == nullptr) {
-        mesa.Llenar(modulo.filas);
+        mesa.Llenar(modulo.filas, modulo.medio);
     }
-    const auto cambiar = [&](const char* valor) {
+    mesa.App().Despachar([&] {
+        for (const auto& [lista, entrada] : modulo.listas) {
+            dynamic_cast<ComboBox&>(*mesa.Modulo().Controls(lista)).Elegir(entrada);
+        }
+    });
+    const auto cambiar = [&](const std::string& valor) {
         mesa.App().Despachar([&] {
             if (modulo.caja != nullptr) {
                 auto& caja = dynamic_cast<TextBox&>(*mesa.Modulo().Controls(modulo.caja));
@@ -192,7 +205,7 @@ void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char
         mesa.App().Pulsar(*mesa.Modulo().Controls(cual));
         Pintar();
     };
-    cambiar("150");
+    cambiar(Format(modulo.medio * 1.5, "0.0"));
     pulsar("bCalcular");
     if (modulo.antes != nullptr) {
         mesa.App().Despachar([&] { mesa.Modulo().Controls(modulo.antes)->TraerAlFrente(); });
@@ -204,7 +217,7 @@ void PulsarLleno(benchmark::State& estado, const ModuloLleno& modulo, const char
     for (auto _ : estado) {
         estado.PauseTiming();
         mayor = !mayor;
-        cambiar(mayor ? "160" : "150");
+        cambiar(Format(modulo.medio * (mayor ? 1.6 : 1.5), "0.0"));
         estado.ResumeTiming();
         pulsar(boton);
     }
@@ -255,6 +268,7 @@ void CalcularIntensidad(benchmark::State& estado) {
 }
 
 BENCHMARK(AbrirModulo)->Name("AbrirModulo_pintado")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AbrirModulo, AbrirModulo_pintado, "frmParamEsta")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Calcular_1500_pintado, "bCalcular")->Unit(benchmark::kMillisecond);
@@ -265,9 +279,11 @@ BENCHMARK(CalcularIntensidad)->Name("QmaxDyck_pintado")->Unit(benchmark::kMillis
 
 }  // namespace
 
-/// Calcular and Graficar of each module of the table.
+/// Opening, Calcular and Graficar of each module of the table.
 void RegistrarModulos() {
     for (const ModuloLleno& modulo : kModulos) {
+        const std::string abrir = std::string(modulo.forma) + "_Abrir_pintado";
+        benchmark::RegisterBenchmark(abrir.c_str(), AbrirModulo, modulo.forma)->Unit(benchmark::kMillisecond);
         for (const char* boton : {"bCalcular", "bGraficar"}) {
             const std::string nombre = std::string(modulo.forma) + "_" + boton + "_pintado";
             benchmark::RegisterBenchmark(nombre.c_str(), PulsarLleno, modulo, boton)->Unit(benchmark::kMillisecond);

@@ -30,7 +30,7 @@ constexpr int kGeneradosAR1 = 2950;  // the most that these generate
 /// A module with a full grid.
 class Modulo {
   public:
-    explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas) : forma_(forma) {
+    explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas, double medio = 100) : forma_(forma) {
         app_.Despachar([this] { app_.ModuloAbrir(forma_); });
         grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
         Llenar(filas);
@@ -38,11 +38,12 @@ class Modulo {
 
     void Llenar(int filas) {
         app_.Despachar([this, filas] {
+        app_.Despachar([this, filas, medio] {
             grid_->PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
                 grid_->PonerTextMatrix(i, 0, Str(i));
                 for (int c = 1; c < grid_->Cols(); ++c) {
-                    grid_->PonerTextMatrix(i, c, Format(100 + 40 * std::sin(0.7 * i * c), "0.0###"));
+                    grid_->PonerTextMatrix(i, c, Format(medio * (1 + 0.4 * std::sin(0.7 * i * c)), "0.0###"));
                 }
             }
         });
@@ -200,10 +201,11 @@ struct Llena {
     const char* caja = nullptr;
     const char* texto = nullptr;
     int filas = kFilas;
+    double medio = 100;  ///< About what its values are.
 };
 
 void CalcularLlena(benchmark::State& estado, const Llena& llena) {
-    Modulo modulo(llena.forma, llena.filas);
+    Modulo modulo(llena.forma, llena.filas, llena.medio);
     if (llena.caja != nullptr) {
         modulo.Escribir(llena.caja, llena.texto);
     }
@@ -386,6 +388,9 @@ BENCHMARK_CAPTURE(CalcularIntensidad, QmaxRacDyck, "frmQmaxRacDyckPeschke", "opt
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacMath, "frmQmaxMacMath", "optRegistros")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacDyck, "frmQmaxMacMathDyckPeschke", "optDuracionAdiNo")
+BENCHMARK_CAPTURE(CalcularLlena, Thornthwaite, Llena{"frmThornthwaite", nullptr, nullptr, 12, 20})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularLlena, BalanceHidro, Llena{"frmBalanceHidro", nullptr, nullptr, 12, 20})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1_2950, "frmAutoregresivo")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1Trans_2950, "frmAutoregTrans")->Unit(benchmark::kMillisecond);
