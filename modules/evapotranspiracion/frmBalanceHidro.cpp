@@ -108,8 +108,8 @@ void frmBalanceHidro::GenerarReporte(Reporte& reporte) {
 }
 
 Disposicion frmBalanceHidro::Contenido() {
-    return Columna({Fila({Latitud(), Espacio(), lbla, txta, lblMesIni, txtMesIni}), Disposicion(grddis).Estira(1),
-                    Grafico().Estira(1)});
+    return Columna({Fila({Latitud(), Espacio(), lbla, txta, lblMesIni, txtMesIni}), Disposicion(grddis).Estira(2),
+                    Grafico().Estira(3)});
 }
 
 }  // namespace cuencalia

@@ -78,8 +78,8 @@ frmBlaneyCriddle::frmBlaneyCriddle(Aplicacion& app)
 
 void frmBlaneyCriddle::Alternar(OptionButton& opcion, Frame& marco, Frame& otro, Control& primero) {
     opcion.Click.Conectar([&] {
+        otro.Visible = false;  // first: with both in sight the window would grow
         marco.Visible = true;
-        otro.Visible = false;
         primero.SetFocus();
     });
 }
