@@ -267,7 +267,6 @@ void CalcularIntensidad(benchmark::State& estado) {
     testigo.Exigir(estado, 1);
 }
 
-BENCHMARK(AbrirModulo)->Name("AbrirModulo_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(AbrirModulo, AbrirModulo_pintado, "frmParamEsta")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);

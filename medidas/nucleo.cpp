@@ -33,11 +33,10 @@ class Modulo {
     explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas, double medio = 100) : forma_(forma) {
         app_.Despachar([this] { app_.ModuloAbrir(forma_); });
         grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
-        Llenar(filas);
+        Llenar(filas, medio);
     }
 
-    void Llenar(int filas) {
-        app_.Despachar([this, filas] {
+    void Llenar(int filas, double medio = 100) {
         app_.Despachar([this, filas, medio] {
             grid_->PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
@@ -388,6 +387,7 @@ BENCHMARK_CAPTURE(CalcularIntensidad, QmaxRacDyck, "frmQmaxRacDyckPeschke", "opt
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacMath, "frmQmaxMacMath", "optRegistros")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacDyck, "frmQmaxMacMathDyckPeschke", "optDuracionAdiNo")
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, Thornthwaite, Llena{"frmThornthwaite", nullptr, nullptr, 12, 20})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, BalanceHidro, Llena{"frmBalanceHidro", nullptr, nullptr, 12, 20})

@@ -48,7 +48,6 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
         "Correntómetro: frmAforoCorren", "Racional: frmQmaxRacional",
         "Racional con Dyck y Peschke: frmQmaxRacDyckPeschke", "Mac Math: frmQmaxMacMath",
         "Mac Math con Dyck y Peschke: frmQmaxMacMathDyckPeschke", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
-        "Correntómetro: frmAforoCorren", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
         "Thornthwaite: frmThornthwaite", "Blaney-Criddle: frmBlaneyCriddle", "Balance hídrico: frmBalanceHidro",
         "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
     // clang-format on
