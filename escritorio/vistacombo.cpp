@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
 
 #include "escritorio/escritorio.h"
@@ -36,6 +37,15 @@ class VistaCombo : public Vista {
     }
 
   protected:
+    /// ENTER is the form's, which may lead on to the next box; the widget itself has no use for it.
+    bool Tecla(QKeyEvent& evento) override {
+        if (EsOrden(evento) || CodigoDeTecla(evento) != kTeclaEnter) {
+            return false;
+        }
+        escritorio_.App().PulsarTecla(kTeclaEnter, kTeclaEnter);
+        return true;
+    }
+
     void Mostrar() override {
         const QScopedValueRollback<bool> mostrando(mostrando_, true);
         if (mostrada_ != combo_.List()) {

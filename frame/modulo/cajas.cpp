@@ -16,7 +16,7 @@ void SoloNumero(TextBox& caja, Cifras cifras) {
     });
 }
 
-void AlPulsarEnter(TextBox& caja, std::function<void()> accion) {
+void AlPulsarEnter(Control& caja, std::function<void()> accion) {
     caja.KeyPress.Conectar([accion = std::move(accion)](int& caracter) {
         if (caracter == kTeclaEnter) {
             caracter = 0;
@@ -25,7 +25,7 @@ void AlPulsarEnter(TextBox& caja, std::function<void()> accion) {
     });
 }
 
-void EncadenarEnter(const std::vector<TextBox*>& cajas, Control& destino) {
+void EncadenarEnter(const std::vector<Control*>& cajas, Control& destino) {
     for (std::size_t i = 0; i < cajas.size(); ++i) {
         Control* siguiente = i + 1 < cajas.size() ? cajas[i + 1] : &destino;
         AlPulsarEnter(*cajas[i], [siguiente] { siguiente->SetFocus(); });

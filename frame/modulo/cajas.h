@@ -17,11 +17,11 @@ enum class Cifras {
 /// Makes the box accept only those characters, Backspace and ENTER.
 void SoloNumero(TextBox& caja, Cifras cifras = Cifras::ConUnSoloPunto);
 
-/// Runs `accion` when ENTER is pressed in the box; ENTER is then not treated as a character.
-void AlPulsarEnter(TextBox& caja, std::function<void()> accion);
+/// Runs `accion` when ENTER is pressed in the text or combo box; ENTER is then not treated as a character.
+void AlPulsarEnter(Control& caja, std::function<void()> accion);
 
 /// Makes ENTER move the focus from each box to the next one, and from the last box to `destino`.
-void EncadenarEnter(const std::vector<TextBox*>& cajas, Control& destino);
+void EncadenarEnter(const std::vector<Control*>& cajas, Control& destino);
 
 /// Returns whether the box has a text; when it has none, shows `aviso` and moves the focus to the box.
 bool Exigir(TextBox& caja, const Aviso& aviso);

@@ -151,6 +151,8 @@ TEST_F(Controles, WhatTheUserPicksArrives) {
         Tecla(Qt::Key_Down);
         EXPECT_EQ(combo->Text(), combo->List()[1]);
         EXPECT_EQ(Sucesos().back(), combo->Nombre() + " clic");
+        Tecla(Qt::Key_Return);
+        EXPECT_EQ(Sucesos().back(), combo->Nombre() + " letra 13");
     }
     Widget(F().cmb1).setFocus();
     Escribir("x");
