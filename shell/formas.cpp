@@ -23,6 +23,8 @@
 #include "modules/estadistica/frmParamEsta.h"
 #include "modules/evapotranspiracion/frmBalanceHidro.h"
 #include "modules/evapotranspiracion/frmBlaneyCriddle.h"
+#include "modules/evapotranspiracion/frmHargreaves.h"
+#include "modules/evapotranspiracion/frmPenman.h"
 #include "modules/evapotranspiracion/frmThornthwaite.h"
 #include "modules/precipitacion/frmAnalisisTor.h"
 #include "modules/precipitacion/frmBell.h"
@@ -97,6 +99,8 @@ TablaFormas FormasDelPrograma() {
         {"frmAforoCorren", Hacer<frmAforoCorren>},
         {"frmThornthwaite", Hacer<frmThornthwaite>},
         {"frmBlaneyCriddle", Hacer<frmBlaneyCriddle>},
+        {"frmPenman", Hacer<frmPenman>},
+        {"frmHargreaves", Hacer<frmHargreaves>},
         {"frmBalanceHidro", Hacer<frmBalanceHidro>},
     };
 }

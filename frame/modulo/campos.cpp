@@ -38,17 +38,17 @@ std::vector<TextBox*> Campos::Cajas() {
     return cajas;
 }
 
-void Campos::AgregarA(std::vector<Disposicion>& celdas, int columnas) {
+void Campos::AgregarA(std::vector<Disposicion>& celdas, int vacias) {
     for (Campo& campo : campos_) {
         celdas.insert(celdas.end(), {campo.rotulo, campo.caja, campo.unidad});
-        celdas.resize(celdas.size() + static_cast<std::size_t>(columnas - 3));
+        celdas.resize(celdas.size() + static_cast<std::size_t>(vacias));
     }
 }
 
-Disposicion Campos::Tabla() {
+Disposicion Campos::Tabla(int columnas) {
     std::vector<Disposicion> celdas;
     AgregarA(celdas);
-    return Pares(3, std::move(celdas));
+    return Pares(columnas, std::move(celdas));
 }
 
 }  // namespace cuencalia

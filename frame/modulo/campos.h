@@ -43,10 +43,10 @@ class Campos {
     TextBox& Caja(std::size_t i) { return campos_[i].caja; }
     std::string Renglon(std::size_t i) const { return campos_[i].Renglon(); }
     std::vector<TextBox*> Cajas();
-    /// A row of caption, box and unit for each, behind the cells that a table of so many columns has already.
-    void AgregarA(std::vector<Disposicion>& celdas, int columnas = 3);
-    /// Captions, boxes and units in three columns.
-    Disposicion Tabla();
+    /// Caption, box and unit of each, and `vacias` empty cells, behind the cells that a table has already.
+    void AgregarA(std::vector<Disposicion>& celdas, int vacias = 0);
+    /// Captions, boxes and units in three columns, or in a multiple of three.
+    Disposicion Tabla(int columnas = 3);
 
   private:
     std::deque<Campo> campos_;  ///< A control stays where it was made.
