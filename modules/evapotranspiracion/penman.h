@@ -16,9 +16,8 @@ Double FactorDeAltura(Double z);
 /// Saturation vapour pressure in mbar at T ºC. For T > -237.3. Source: FAO 56, eq. 11.
 Double PresionDeSaturacion(Double T);
 
-/// Weight W of the radiation term, Δ/(Δ + γ), at T ºC and h m above the sea; that of the wind's term is 1 - W. Its
-/// pressures cancel out as far as both are worked out: Δ in mbar/ºC, γ = 0.016286·P/λ with P in kPa and λ in MJ/kg.
-/// For T > -237.3 and h < 45076 m, error 5 above.
+/// Weight W of the radiation term, Δ/(Δ + γ), at T ºC and h m above the sea; that of the wind's term is 1 - W. Δ and
+/// γ = 0.016286·P/λ are in mbar/ºC, P in kPa, λ in MJ/kg. For T > -237.3 and h < 45077 m, error 5 above.
 /// Source: Jensen, M. E., Burman, R. D. and Allen, R. G. (1990), Evapotranspiration and Irrigation Water Requirements,
 /// ASCE Manual 70.
 Double FactorDePonderacion(Double T, Double h);
