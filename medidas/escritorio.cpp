@@ -69,6 +69,8 @@ class Mesa {
     FlexGrid& Grid() { return dynamic_cast<FlexGrid&>(*Modulo().Controls("grdt")); }
     QWidget& Ventana() { return *static_cast<Vista*>(Grid().Vista())->Widget()->window(); }
     void Llenar(int filas = kFilas, double medio = 100) {
+    QWidget& Ventana() { return *static_cast<Vista*>(Modulo().Controls("bCalcular")->Vista())->Widget()->window(); }
+    void Llenar(int filas = kFilas) {
         App().Despachar([&] {
             FlexGrid& grid = Grid();
             grid.PonerRows(filas + 2);
@@ -268,6 +270,8 @@ void CalcularIntensidad(benchmark::State& estado) {
 }
 
 BENCHMARK_CAPTURE(AbrirModulo, AbrirModulo_pintado, "frmParamEsta")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AbrirModulo, AbrirPenman_pintado, "frmPenman")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(AbrirModulo, AbrirHargreaves_pintado, "frmHargreaves")->Unit(benchmark::kMillisecond);
 BENCHMARK(TeclearUnValor)->Name("DosTeclas_1500_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK(PintarVentana)->Name("VentanaEntera_pintado")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Pulsar, Calcular_1500_pintado, "bCalcular")->Unit(benchmark::kMillisecond);

@@ -9,6 +9,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "frame/base/archivoserie.h"
@@ -27,7 +28,7 @@ constexpr int kFilas = 1500;         // the most that most modules take
 constexpr int kFilasAR1 = 3000;      // those of stochastic generation
 constexpr int kGeneradosAR1 = 2950;  // the most that these generate
 
-/// A module with a full grid.
+/// A module with a full grid, if it has one.
 class Modulo {
   public:
     explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas, double medio = 100) : forma_(forma) {
@@ -38,6 +39,10 @@ class Modulo {
 
     void Llenar(int filas, double medio = 100) {
         app_.Despachar([this, filas, medio] {
+        if (grid_ == nullptr) {
+            return;
+        }
+        app_.Despachar([this, filas] {
             grid_->PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
                 grid_->PonerTextMatrix(i, 0, Str(i));
@@ -228,6 +233,20 @@ void CalcularIntensidad(benchmark::State& estado, const char* forma, const char*
         modulo.Pulsar("bcalcularI");
     }
     if (!modulo.Bien() || modulo.Texto("txtImaxi").empty()) {
+/// A window of boxes, each with its value; `opcion` shows the last of them.
+void CalcularCajas(benchmark::State& estado, const char* forma,
+                   const std::vector<std::pair<const char*, const char*>>& valores, const char* opcion = nullptr) {
+    Modulo modulo(forma);
+    if (opcion != nullptr) {
+        modulo.Pulsar(opcion);
+    }
+    for (const auto& [caja, valor] : valores) {
+        modulo.Escribir(caja, valor);
+    }
+    for (auto _ : estado) {
+        modulo.Pulsar("bCalcular");
+    }
+    if (!modulo.Bien()) {
         estado.SkipWithError("the calculation failed");
     }
 }
@@ -391,6 +410,19 @@ BENCHMARK_CAPTURE(CalcularIntensidad, QmaxMacDyck, "frmQmaxMacMathDyckPeschke", 
 BENCHMARK_CAPTURE(CalcularLlena, Thornthwaite, Llena{"frmThornthwaite", nullptr, nullptr, 12, 20})
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalcularLlena, BalanceHidro, Llena{"frmBalanceHidro", nullptr, nullptr, 12, 20})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularCajas, Penman, "frmPenman",
+                  {{"txth", "95"},
+                   {"txtt", "28.5"},
+                   {"txtHRmed", "55"},
+                   {"txtHRmax", "80"},
+                   {"txtUz", "9.66"},
+                   {"txtHz", "2"},
+                   {"txtRVdVn", "1.5"},
+                   {"txtnp", "11.5"}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CalcularCajas, Hargreaves, "frmHargreaves",
+                  {{"txtTmin", "14.8"}, {"txtTmax", "26.6"}, {"txtKcTabla", "1.15"}}, "optKcTabla")
     ->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1_2950, "frmAutoregresivo")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(GenerarAR1, AR1Trans_2950, "frmAutoregTrans")->Unit(benchmark::kMillisecond);
