@@ -24,7 +24,7 @@ Double FactorDePonderacion(Double T, Double h);
 
 /// Adjustment c for weather that differs between day and night: wind Um in m/s, radiation Rs in mm/day, greatest
 /// relative humidity in %, ratio R of the day's wind to the night's. A polynomial that stands for table 16 of
-/// Doorenbos, J. and Pruitt, W. O. (1977), Crop water requirements, FAO Irrigation and Drainage Paper 24;
+/// Doorenbos, J. and Pruitt, W. O. (1977), Guidelines for predicting crop water requirements, FAO 24;
 /// docs/numerics.md tells how near it comes.
 Double FactorDeAjuste(Single Um, Double Rs, Double HRmax, Double R);
 
