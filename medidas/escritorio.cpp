@@ -67,10 +67,8 @@ class Mesa {
     void AbrirModulo() { Abrir(modulo_); }
     Formulario& Modulo(const char* forma = nullptr) { return *App().Cargada(forma != nullptr ? forma : modulo_); }
     FlexGrid& Grid() { return dynamic_cast<FlexGrid&>(*Modulo().Controls("grdt")); }
-    QWidget& Ventana() { return *static_cast<Vista*>(Grid().Vista())->Widget()->window(); }
-    void Llenar(int filas = kFilas, double medio = 100) {
     QWidget& Ventana() { return *static_cast<Vista*>(Modulo().Controls("bCalcular")->Vista())->Widget()->window(); }
-    void Llenar(int filas = kFilas) {
+    void Llenar(int filas = kFilas, double medio = 100) {
         App().Despachar([&] {
             FlexGrid& grid = Grid();
             grid.PonerRows(filas + 2);

@@ -34,15 +34,13 @@ class Modulo {
     explicit Modulo(const char* forma = "frmParamEsta", int filas = kFilas, double medio = 100) : forma_(forma) {
         app_.Despachar([this] { app_.ModuloAbrir(forma_); });
         grid_ = dynamic_cast<FlexGrid*>(app_.Cargada(forma_)->Controls("grdt"));
-        Llenar(filas, medio);
+        if (grid_ != nullptr) {
+            Llenar(filas, medio);
+        }
     }
 
     void Llenar(int filas, double medio = 100) {
         app_.Despachar([this, filas, medio] {
-        if (grid_ == nullptr) {
-            return;
-        }
-        app_.Despachar([this, filas] {
             grid_->PonerRows(filas + 2);
             for (int i = 1; i <= filas; ++i) {
                 grid_->PonerTextMatrix(i, 0, Str(i));
@@ -233,6 +231,10 @@ void CalcularIntensidad(benchmark::State& estado, const char* forma, const char*
         modulo.Pulsar("bcalcularI");
     }
     if (!modulo.Bien() || modulo.Texto("txtImaxi").empty()) {
+        estado.SkipWithError("the calculation failed");
+    }
+}
+
 /// A window of boxes, each with its value; `opcion` shows the last of them.
 void CalcularCajas(benchmark::State& estado, const char* forma,
                    const std::vector<std::pair<const char*, const char*>>& valores, const char* opcion = nullptr) {

@@ -48,8 +48,6 @@ TEST_F(CuencaliaTest, CadaEntradaAbreSuFormaOEsGris) {
         "Correntómetro: frmAforoCorren", "Racional: frmQmaxRacional",
         "Racional con Dyck y Peschke: frmQmaxRacDyckPeschke", "Mac Math: frmQmaxMacMath",
         "Mac Math con Dyck y Peschke: frmQmaxMacMathDyckPeschke", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
-        "Thornthwaite: frmThornthwaite", "Blaney-Criddle: frmBlaneyCriddle", "Balance hídrico: frmBalanceHidro",
-        "Correntómetro: frmAforoCorren", "Gumbel: frmQmaxGumbel", "Nash: frmQmaxNash",
         "Thornthwaite: frmThornthwaite", "Blaney-Criddle: frmBlaneyCriddle", "Penman: frmPenman",
         "Hargreaves: frmHargreaves", "Balance hídrico: frmBalanceHidro",
         "Ayuda: frmCuencalia", "Acerca de Cuencalia 2: frmacerc"}));
