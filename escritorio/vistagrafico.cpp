@@ -55,7 +55,18 @@ void VistaGrafico::HacerMenu() {
     lienzo_->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
+VistaGrafico::Dibujo VistaGrafico::Actual() const {
+    return {grafico_.Conjuntos(), grafico_.GraphType, grafico_.GraphStyle,  grafico_.Background, grafico_.BorderStyle,
+            grafico_.PatternData, grafico_.DrawMode,  grafico_.BottomTitle, lienzo_->palette()};
+}
+
 void VistaGrafico::Mostrar() {
+    // A view is also updated when the focus moves: the part of the chart that the user has chosen stays then.
+    Dibujo actual = Actual();
+    if (actual == dibujado_) {
+        return;
+    }
+    dibujado_ = std::move(actual);
     lienzo_->Dibujar(grafico_, Tinta::DePantalla(lienzo_->palette(), grafico_.Background == kFondoGris));
     lienzo_->setAccessibleDescription(Descripcion());
     lienzo_->replot();

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QPalette>
+#include <tuple>
+#include <vector>
+
 #include "escritorio/exportargrafico.h"
 #include "escritorio/vista.h"
+#include "frame/reportes/grafico.h"
 
 namespace cuencalia {
 
-class GraficoModulo;
 class LienzoGrafico;
 
 /// Shows a chart. The pointer or the arrow keys select a point, whose values are shown; wheel, plus and minus zoom;
@@ -21,6 +25,11 @@ class VistaGrafico : public Vista {
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
   private:
+    /// Everything that a drawing is made of.
+    using Dibujo =
+        std::tuple<std::vector<GraficoModulo::Conjunto>, int, int, int, int, int, int, std::string, QPalette>;
+
+    Dibujo Actual() const;
     void HacerMenu();
     /// Lets the user choose a file name and writes the chart to that file. A failure is shown in a message with its
     /// reason.
@@ -29,6 +38,7 @@ class VistaGrafico : public Vista {
 
     GraficoModulo& grafico_;
     LienzoGrafico* lienzo_;
+    Dibujo dibujado_;  ///< What the widget shows.
 };
 
 }  // namespace cuencalia

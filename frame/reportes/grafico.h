@@ -22,6 +22,7 @@ class GraficoModulo : public Control {
     struct Conjunto {
         std::string leyenda;
         std::vector<std::optional<Double>> x, y;  ///< An element is empty until it is written.
+        bool operator==(const Conjunto&) const = default;
     };
 
     GraficoModulo(Formulario& forma, std::string nombre, std::string nombreAccesible = "Gráfico");
