@@ -13,7 +13,7 @@ namespace cuencalia {
 
 namespace {
 
-constexpr QSize kTamanoMinimo(320, 220), kTamanoNatural(480, 320);
+constexpr QSize kTamanoMinimo(300, 180), kTamanoNatural(480, 320);
 constexpr double kAire = 0.04;  ///< Share of the range left free on either side of the data.
 constexpr double kMayorAcercamiento = 1e-6, kMayorAlejamiento = 1e3;  ///< Zoom limits, shares of the range of all data.
 constexpr double kMayorValor = 1e200;   ///< Beyond it the axes cannot show a point: it is left out.

@@ -24,9 +24,9 @@ namespace {
 
 constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
-constexpr int kAireColumna = 18;
+constexpr int kAireColumna = 18, kAireMinimo = 14;
+constexpr int kMinimoDatos = 180, kMinimoResultados = 440;  // a wider table is scrolled on a small screen
 constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
-constexpr int kFilasDeTexto = 10;  // a grid of no more rows may hold texts, such as equations, that need their width
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -113,7 +113,7 @@ QVariant ModeloGrid::headerData(int seccion, Qt::Orientation orientacion, int ro
 QSize TablaGrid::minimumSizeHint() const {
     const int fila = verticalHeader()->defaultSectionSize();
     const int filas = model() == nullptr ? kFilasMinimas : std::min(kFilasMinimas, model()->rowCount());
-    return {std::min(anchoNatural, 180), horizontalHeader()->height() + filas * fila + 2 * frameWidth()};
+    return {anchoMinimo, horizontalHeader()->height() + filas * fila + 2 * frameWidth()};
 }
 
 void TablaGrid::resizeEvent(QResizeEvent* evento) {
@@ -164,7 +164,7 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->setWordWrap(false);
     tabla_->viewport()->setMouseTracking(true);
     // A grid that takes no typing does not show its current cell while another control has the focus.
-    tabla_->setProperty("lectura", !grid.KeyPress.Atendido());
+    tabla_->setProperty("lectura", EsDeLectura());
     tabla_->setProperty("varias", false);
     tabla_->setProperty("marco", grid.BorderStyle());
 
@@ -216,28 +216,28 @@ QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Ro
 void VistaGrid::MedirColumnas() {
     tabla_->ensurePolished();  // sets the font of the style, also before the window is first shown
     const QFontMetrics letra = tabla_->fontMetrics();
-    std::vector<int> anchos;
+    // A column of results is at least as wide as they are.
+    const int desde = EsDeLectura() ? grid_.Rows() : grid_.FixedRows();
+    std::vector<int> anchos, minimos;
     for (int c = 0; c < grid_.Cols(); ++c) {
         int texto = 0;
-        const int filas = c < grid_.FixedCols() ? std::min(grid_.Rows(), kFilasMedidas) : grid_.FixedRows();
+        const int filas = c < grid_.FixedCols() ? std::min(grid_.Rows(), kFilasMedidas) : desde;
         for (int f = 0; f < filas; ++f) {
             texto = std::max(texto, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c)).trimmed()));
         }
         anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), texto + kAireColumna));
+        const bool cede = EsDeLectura() && c >= grid_.FixedCols();
+        minimos.push_back(cede ? std::min(texto + kAireMinimo, anchos.back()) : anchos.back());
     }
-    const bool mismosAnchos = anchos == anchos_;
-    anchos_ = anchos;
-    std::vector<int> faltas = FaltaDeAncho();
-    const bool mismasFaltas = faltas == faltas_;
-    faltas_ = std::move(faltas);
-    if (mismosAnchos) {
-        if (!mismasFaltas) {
-            AjustarColumnas();
-        }
+    if (anchos == anchos_ && minimos == minimos_) {
         return;
     }
-    const int barra = tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    tabla_->anchoNatural = std::accumulate(anchos_.begin(), anchos_.end(), 0) + barra + 2 * tabla_->frameWidth() + 2;
+    anchos_ = anchos;
+    minimos_ = minimos;
+    const int bordes = tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * tabla_->frameWidth() + 2;
+    tabla_->anchoNatural = std::accumulate(anchos_.begin(), anchos_.end(), 0) + bordes;
+    const int todo = std::accumulate(minimos_.begin(), minimos_.end(), 0) + bordes;
+    tabla_->anchoMinimo = std::min(todo, EsDeLectura() ? kMinimoResultados : kMinimoDatos);
     const bool conEtiquetas = grid_.FixedCols() > 0;
     tabla_->verticalHeader()->setVisible(conEtiquetas);
     if (conEtiquetas && !anchos_.empty()) {
@@ -248,39 +248,27 @@ void VistaGrid::MedirColumnas() {
     AjustarColumnas();
 }
 
-std::vector<int> VistaGrid::FaltaDeAncho() const {
-    std::vector<int> faltas(anchos_.size());
-    if (grid_.Rows() > kFilasDeTexto) {
-        return faltas;
-    }
-    const QFontMetrics letra = tabla_->fontMetrics();
-    for (int c = grid_.FixedCols(); c < grid_.Cols(); ++c) {
-        int& falta = faltas[static_cast<std::size_t>(c)];
-        for (int f = grid_.FixedRows(); f < grid_.Rows(); ++f) {
-            const int texto = letra.horizontalAdvance(Q(grid_.TextMatrix(f, c))) + kAireColumna;
-            falta = std::max(falta, texto - anchos_[static_cast<std::size_t>(c)]);
-        }
-    }
-    return faltas;
-}
-
 void VistaGrid::AjustarColumnas() {
     const auto primera = static_cast<std::size_t>(grid_.FixedCols());
     if (anchos_.size() <= primera) {
         return;
     }
-    // Spare width is distributed among the data columns, so that the table has no empty strip at its right: first to
-    // those that cut a text, then in equal parts.
-    const int natural = std::accumulate(anchos_.begin() + static_cast<std::ptrdiff_t>(primera), anchos_.end(), 0);
-    const int sobra = std::max(0, tabla_->viewport()->width() - natural);
-    const int falta = std::accumulate(faltas_.begin(), faltas_.end(), 0);
-    const int resto = std::max(0, sobra - falta);
+    // Spare width is distributed among the data columns, so that the table has no empty strip at its right; where width
+    // is missing, they give up what their texts do not need, so that the table need not be scrolled.
+    const auto suma = [primera](const std::vector<int>& anchos) {
+        return std::accumulate(anchos.begin() + static_cast<std::ptrdiff_t>(primera), anchos.end(), 0);
+    };
+    const int natural = suma(anchos_), cede = natural - suma(minimos_);
+    const int sobra = std::max(tabla_->viewport()->width() - natural, -cede);
     const int columnas = static_cast<int>(anchos_.size() - primera);
+    int cedido = 0;
     for (int c = 0; c < columnas; ++c) {
-        const std::size_t k = primera + static_cast<std::size_t>(c);
-        const int propia = falta > sobra ? faltas_[k] * sobra / falta : faltas_[k];
-        const int parte = resto * (c + 1) / columnas - resto * c / columnas;
-        tabla_->setColumnWidth(c, anchos_[k] + propia + parte);
+        const auto i = primera + static_cast<std::size_t>(c);
+        const int antes = cedido;
+        cedido += anchos_[i] - minimos_[i];
+        const int parte = sobra >= 0 ? sobra * (c + 1) / columnas - sobra * c / columnas
+                                     : sobra * cedido / cede - sobra * antes / cede;
+        tabla_->setColumnWidth(c, anchos_[i] + parte);
     }
     const int alto = tabla_->verticalHeader()->defaultSectionSize();
     grid_.PonerFilasVisibles(tabla_->viewport()->height() / std::max(1, alto));

@@ -37,6 +37,8 @@ class TablaGrid : public QTableView {
 
     /// Width at which every column is as wide as the grid says.
     int anchoNatural = 0;
+    /// Width that it has on the smallest screen.
+    int anchoMinimo = 0;
     /// Height at which all rows are shown, or as many as a data grid shows at first.
     int altoNatural = 0;
 
@@ -72,10 +74,10 @@ class VistaGrid : public Vista {
     bool Tecla(QKeyEvent& evento) override;
 
   private:
+    /// Whether the grid shows results, and takes no typing.
+    bool EsDeLectura() const { return !grid_.KeyPress.Atendido(); }
     void AjustarColumnas();
     void MedirColumnas();
-    /// How much wider each column would have to be to show its texts whole; 0 in all columns of a long grid.
-    std::vector<int> FaltaDeAncho() const;
     void MostrarSeleccion();
     void MostrarDesplazamiento();
     bool Presionar(QMouseEvent& evento);
@@ -88,7 +90,7 @@ class VistaGrid : public Vista {
     TablaGrid* tabla_;
     ModeloGrid* modelo_;
     QLabel* esquina_;
-    std::vector<int> anchos_, faltas_;
+    std::vector<int> anchos_, minimos_;  ///< Of each column: what it should have, what its texts need.
     int filaMostrada_ = -1, superiorMostrada_ = -1;
     bool mostrando_ = false;
 };

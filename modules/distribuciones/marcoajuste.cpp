@@ -312,21 +312,23 @@ Disposicion MarcoAjuste::ZonaParametros() {
 }
 
 Disposicion MarcoAjuste::ZonaDiseno() {
-    return Grupo(fraDiseno,
-                 {Fila({Pares(3, {lblT, txtxt, lblUnidadT, lblQ, txtxq, lblUnidadQ, lblP, txtxp, lblUnidadP}),
-                        Pares(2, {bQ, bT, bPmayor, bPmenor}), Espacio()})});
+    return Grupo(fraDiseno, {Pares(3, {lblT, txtxt, lblUnidadT, lblQ, txtxq, lblUnidadQ, lblP, txtxp, lblUnidadP}),
+                             Fila({bQ, bT, bPmayor, bPmenor, Espacio()})});
 }
 
+/// The options and the parameters stand side by side above the table and the chart, so that the table has the width of
+/// all its columns on a small screen.
 Disposicion MarcoAjuste::Contenido() {
-    std::vector<Disposicion> opciones;
+    std::vector<Disposicion> arriba;
     if (tipo) {
-        opciones.push_back(Grupo(tipo->marco, {tipo->optOrdinario, tipo->optMomentoLi}));
+        arriba.push_back(Grupo(tipo->marco, {tipo->optOrdinario, tipo->optMomentoLi}));
     }
-    opciones.push_back(Grupo(fraNivel, {Pares(2, {opt020, opt010, opt005, opt001})}));
-    Disposicion prueba = Columna({Fila(std::move(opciones)), Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
-    Disposicion evaluacion = Columna({ZonaParametros(), ZonaDiseno(), Fila({lblEjeY, Espacio()}),
-                                      Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX}), Espacio(0)});
-    return Fila({std::move(prueba), std::move(evaluacion).Estira(1)});
+    arriba.push_back(Grupo(fraNivel, {Pares(2, {opt020, opt010, opt005, opt001})}));
+    arriba.push_back(ZonaParametros().Estira(1));
+    Disposicion prueba = Columna({Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
+    Disposicion evaluacion = Columna({ZonaDiseno(), Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1),
+                                      Fila({Espacio(), lblEjeX}), Espacio(0)});
+    return Columna({Fila(std::move(arriba)), Fila({std::move(prueba), std::move(evaluacion).Estira(1)}).Estira(1)});
 }
 
 }  // namespace cuencalia
