@@ -72,8 +72,15 @@ QLineEdit:focus, QComboBox:focus { border: 2px solid @acento; padding: 2px 5px; 
 QComboBox { padding-right: 0; }
 QComboBox::drop-down { border: none; width: 22px; }
 QComboBox::down-arrow { image: url(:/imagenes/flecha.svg); width: 12px; height: 12px; }
-QLineEdit[readOnly="true"] { background: @ventana; }
+QLineEdit[readOnly="true"] { background: @encabezado; }
 QLineEdit[flotante="true"] { border: 2px solid @acento; border-radius: 0; padding: 0 2px; }
+QRadioButton { spacing: 7px; padding: 1px 0; }
+QRadioButton::indicator { width: 12px; height: 12px; border: 1px solid @tenue; border-radius: 7px; background: @base; }
+QRadioButton::indicator:checked { background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5,
+    stop: 0 @acento, stop: 0.55 @acento, stop: 0.65 @base, stop: 1 @base); }
+QRadioButton::indicator:hover { border-color: @acento; }
+QRadioButton::indicator:focus { border: 2px solid @acento; width: 10px; height: 10px; }
+QRadioButton:disabled { color: @tenue; }
 QTableView { background: @base; border: 1px solid @linea; gridline-color: @linea;
     selection-background-color: @luz; selection-color: @texto; }
 QTableView:focus { border: 1px solid @acento; }

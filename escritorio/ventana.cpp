@@ -18,6 +18,7 @@
 #include "escritorio/estilo.h"
 #include "escritorio/vistas.h"
 #include "frame/controles/flexgrid.h"
+#include "frame/reportes/grafico.h"
 
 namespace cuencalia {
 
@@ -49,6 +50,13 @@ class VistaFormulario : public Vista {
         : Vista(escritorio, forma, lienzo), forma_(forma), ventana_(ventana) {}
 
   protected:
+    /// A pointer that has left the window is over none of its buttons: the form is told as if it were beside them.
+    bool eventFilter(QObject* objeto, QEvent* evento) override {
+        if (evento->type() == QEvent::Leave && ventana_->isVisible()) {
+            MoverRaton();
+        }
+        return Vista::eventFilter(objeto, evento);
+    }
     /// The title is set only when it changed, because the window around a document adds its own text to the title.
     void Mostrar() override {
         if (titulo_ != forma_.Caption()) {
@@ -261,6 +269,12 @@ void Ventana::Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre) {
             const auto* texto = dynamic_cast<TextBox*>(d.control);
             Vista* vista = Hacer(*d.control, padre);
             if (vista != nullptr && (texto == nullptr || texto->Sobre() == nullptr)) {
+                if (dynamic_cast<GraficoModulo*>(d.control) != nullptr) {
+                    // A hidden chart keeps its room, so that what stands around it does not grow and shrink.
+                    QSizePolicy politica = vista->Widget()->sizePolicy();
+                    politica.setRetainSizeWhenHidden(true);
+                    vista->Widget()->setSizePolicy(politica);
+                }
                 if (dynamic_cast<FlexGrid*>(d.control) != nullptr) {
                     // A grid that takes no spare room is a small table, of which all rows are shown.
                     vista->Widget()->setSizePolicy(QSizePolicy::Preferred,

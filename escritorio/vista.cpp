@@ -69,7 +69,7 @@ void Vista::Actualizar() {
 bool Vista::Tecla(QKeyEvent&) { return false; }
 
 void Vista::MoverRaton() {
-    if (control_->MouseMove.Atendido()) {
+    if (control_ != nullptr && control_->MouseMove.Atendido()) {
         escritorio_.App().Despachar([this] { control_->MouseMove(); });
     }
 }

@@ -42,11 +42,12 @@ class Vista : public QObject, public VistaControl {
     /// Handles a key for the control and returns true; returns false for keys that the widget is to handle.
     virtual bool Tecla(QKeyEvent& evento);
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+    /// Tells the control that the pointer moved over it.
+    void MoverRaton();
 
     Escritorio& escritorio_;
 
   private:
-    void MoverRaton();
     void Separar();
 
     Control* control_;

@@ -1,6 +1,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QTableView>
 
 #include "escritorio/escritorio.h"
@@ -37,7 +38,13 @@ class VistaTexto : public Vista {
   protected:
     void Mostrar() override {
         const QScopedValueRollback<bool> mostrando(mostrando_, true);
-        linea_->setReadOnly(caja_.Locked);
+        if (linea_->isReadOnly() != caja_.Locked()) {
+            // A box for a result is passed over by Tab; the pointer still reaches it, to copy the result.
+            linea_->setReadOnly(caja_.Locked);
+            linea_->setFocusPolicy(caja_.Locked ? Qt::ClickFocus : Qt::StrongFocus);
+            linea_->style()->unpolish(linea_);
+            linea_->style()->polish(linea_);
+        }
         const QString texto = Q(caja_.Text);
         if (linea_->text() != texto) {
             linea_->setText(texto);
