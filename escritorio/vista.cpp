@@ -118,6 +118,8 @@ int CodigoDeSigno(int tecla) {
             return 190;
         case Qt::Key_Slash:
             return 111;
+        case Qt::Key_Equal:
+            return kTeclaIgual;
         default:
             return 0;
     }

@@ -1,6 +1,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QToolButton>
 #include <algorithm>
 
@@ -18,6 +19,10 @@ class VistaBoton : public Vista {
     VistaBoton(Escritorio& escritorio, CommandButton& boton, QAbstractButton* widget)
         : Vista(escritorio, boton, widget), boton_(boton), widget_(widget) {
         widget_->setFocusPolicy(Qt::StrongFocus);
+        if (boton.Cancel) {
+            auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), widget_);
+            connect(escape, &QShortcut::activated, this, [this] { escritorio_.App().Pulsar(boton_); });
+        }
         connect(widget_, &QAbstractButton::clicked, this, [this] { escritorio_.App().Pulsar(boton_); });
     }
 

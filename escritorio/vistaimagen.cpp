@@ -52,10 +52,11 @@ class VistaImagen : public Vista {
 
     bool Tecla(QKeyEvent& evento) override {
         const int codigo = CodigoDeTecla(evento);
-        if (!imagen_.AceptaFoco() || EsOrden(evento) || codigo == 0) {
+        const bool delPortapapeles = evento.matches(QKeySequence::Copy) || evento.matches(QKeySequence::Paste);
+        if (!imagen_.AceptaFoco() || (EsOrden(evento) && !delPortapapeles) || codigo == 0) {
             return false;
         }
-        escritorio_.App().PulsarTecla(codigo, CaracterDe(evento));
+        escritorio_.App().PulsarTecla(codigo, EsOrden(evento) ? 0 : CaracterDe(evento), ModificadoresDe(evento));
         return true;
     }
 

@@ -39,7 +39,7 @@ BBCalc::BBCalc(Formulario& forma, const std::string& nombre)
       PicDisplay(forma, "PicDisplay"),
       lblDisplay(forma, "lblDisplay", EnPantalla(""), Papel::Pantalla) {
     PicDisplay.NombreAccesible = "Pantalla de la calculadora";
-    PicDisplay.KeyDown.Conectar(this, &BBCalc::KeyboardInput);
+    PicDisplay.KeyDown.Conectar(this, &BBCalc::TeclaDePantalla);
 }
 
 void BBCalc::ShowBox() {
@@ -214,6 +214,20 @@ void BBCalc::ClearOperation() {
         ShowBox();
     } else {
         Escribir("");
+    }
+}
+
+void BBCalc::TeclaDePantalla(int tecla) {
+    if (App().ConControl()) {
+        if (tecla == 'C' || tecla == 'V') {
+            ClipboardAction(tecla == 'C' ? 0 : 1);
+        }
+    } else if (tecla == kTeclaIgual) {
+        DoResult();
+    } else if (tecla == kTeclaEscape) {
+        Clear();
+    } else {
+        KeyboardInput(tecla);
     }
 }
 

@@ -77,6 +77,8 @@ class BBCalc : public Control {
     void ShowBox();
 
   private:
+    /// Besides the keys of KeyboardInput, those of a calculator on the desk: "=", Escape for C, Ctrl+C and Ctrl+V.
+    void TeclaDePantalla(int tecla);
     bool Pendiente() const { return codigo_ != 0; }
     /// Makes the value the second operand when an operation is pending, the first one otherwise.
     void PonerOperando(Double valor);

@@ -11,6 +11,8 @@ class frmacerc : public Formulario {
 
     PictureBox imgLogo{*this, "imgLogo", "acerca"};
     Label lblPrograma{*this, "lblPrograma", {}, Papel::Nota};
+    Label lblVersion{*this, "lblVersion"};
+    Label lblLicencia{*this, "lblLicencia", {}, Papel::Nota};
     Label lblTrabajos{*this, "lblTrabajos", "Para otros trabajos consultar:", Papel::Encabezado};
     Label lblTrabajosDato{*this, "lblTrabajosDato"};
     Label lblConsultas{*this, "lblConsultas", "Consultas y sugerencias :", Papel::Encabezado};

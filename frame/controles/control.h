@@ -57,6 +57,7 @@ enum CodigoTecla : int {
     kTeclaSuprimir = 46,
     kTeclaF1 = 112,
     kTeclaF2 = 113,
+    kTeclaIgual = 187,
 };
 
 /// Keys held down while another key is pressed.

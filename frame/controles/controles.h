@@ -94,6 +94,7 @@ class CommandButton : public Control {
     Propiedad<std::string> Caption{*this};  ///< `&` marks the access key.
     Propiedad<std::string> Picture{*this};  ///< Name of the picture shown on the button; empty for none.
     Propiedad<Color> BackColor{*this};
+    Propiedad<bool> Cancel{*this};    ///< True: Escape presses the button, wherever the focus is in its window.
     Propiedad<bool> ConColor{*this};  ///< True: BackColor is used; false: the look of the other buttons.
 
     bool AceptaFoco() const override { return true; }
