@@ -5,7 +5,6 @@
 #include <QCursor>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
@@ -19,6 +18,7 @@
 
 #include "escritorio/espera.h"
 #include "escritorio/impresion.h"
+#include "escritorio/manual.h"
 #include "escritorio/ventanapadre.h"
 #include "escritorio/vista.h"
 #include "escritorio/vistagrid.h"
@@ -221,30 +221,25 @@ void Escritorio::AbrirConShell(const std::string& ruta) {
     }
 }
 
+void Escritorio::AbrirManualEn(const std::string& ventana) const {
+    AbrirManual(LugarDelManual(Q(CarpetaInstalacion()) + QStringLiteral("/ayuda"), Q(ventana)));
+}
+
 void Escritorio::IrACarpetaDelPrograma() { QDir::setCurrent(Q(CarpetaInstalacion())); }
 
 void Escritorio::ElegirArchivo(ModoArchivo modo, const std::string& titulo, const std::string& filtro,
                                std::string& nombre) {
     Pintar();
-    // "label|pattern|label|pattern" becomes "label (pattern);;label (pattern)".
-    const QStringList partes = Q(filtro).split(QLatin1Char('|'));
-    QStringList filtros;
-    for (int i = 0; i + 1 < partes.size(); i += 2) {
-        const bool yaDicho = partes[i].contains(partes[i + 1]);
-        filtros << (yaDicho ? partes[i] : QStringLiteral("%1 (%2)").arg(partes[i], partes[i + 1]));
-    }
-    const Espera espera(cajas_);
-    QFileDialog dialogo(VentanaDelante(), Q(titulo), QString(), filtros.join(QStringLiteral(";;")));
-    dialogo.setAcceptMode(modo == ModoArchivo::Guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialogo.setFileMode(modo == ModoArchivo::Guardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    if (modo == ModoArchivo::Guardar && partes.size() > 1) {
-        dialogo.setDefaultSuffix(QFileInfo(partes[1]).suffix());
-    }
-    if (!nombre.empty()) {
-        dialogo.selectFile(Q(nombre));
-    }
-    if (dialogo.exec() == QDialog::Accepted && !dialogo.selectedFiles().isEmpty()) {
-        nombre = Std(dialogo.selectedFiles().first());
+    const auto reemplazar = [this](const QString& archivo) {
+        return Preguntar(Std(QStringLiteral("Ya existe el archivo\n%1\n\n¿Reemplazarlo?").arg(archivo)), "Guardar",
+                         false);
+    };
+    const QString elegido = [&] {
+        const Espera espera(cajas_);
+        return dialogoArchivo_.Elegir(modo, Q(titulo), Q(filtro), Q(nombre), reemplazar);
+    }();
+    if (!elegido.isEmpty()) {
+        nombre = Std(elegido);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "escritorio/dialogoarchivo.h"
 #include "escritorio/librosensegundoplano.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/plataforma.h"
@@ -28,6 +29,9 @@ class Escritorio : public Plataforma {
     /// True while the views are being updated: signals of the widgets are then not caused by the user.
     bool Pintando() const { return pintando_; }
     void Pintar();
+
+    /// Opens the manual at the section on the window of that name.
+    void AbrirManualEn(const std::string& ventana) const;
 
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
     bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) override;
@@ -61,6 +65,7 @@ class Escritorio : public Plataforma {
     std::unique_ptr<Aplicacion> app_;
     std::map<const Formulario*, Ventana*> ventanas_;
     std::vector<Vista*> sucias_;
+    DialogoArchivo dialogoArchivo_;
     bool pintando_ = false;
     int cajas_ = 0;  ///< Message boxes and dialogs that wait for the user, workbooks being written.
     LibrosEnSegundoPlano libros_{cajas_};

@@ -162,7 +162,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     if (forma.Padre() == nullptr) {
         auto* ayuda = new QShortcut(QKeySequence(Qt::Key_F1), this);
         connect(ayuda, &QShortcut::activated, this,
-                [this] { escritorio_.App().Despachar([this] { escritorio_.App().AbrirAyuda(); }); });
+                [this] { escritorio_.AbrirManualEn(forma_ == nullptr ? std::string() : forma_->Nombre()); });
     }
 
     for (Vista* vista : vistas_) {
