@@ -18,6 +18,7 @@
 
 #include "escritorio/espera.h"
 #include "escritorio/impresion.h"
+#include "escritorio/listaventanas.h"
 #include "escritorio/manual.h"
 #include "escritorio/ventanapadre.h"
 #include "escritorio/vista.h"
@@ -122,6 +123,10 @@ Ventana& Escritorio::VentanaPara(Formulario& forma) {
     if (ventana == nullptr) {
         auto* padre = dynamic_cast<frmPadre*>(&forma);
         ventana = padre == nullptr ? new Ventana(*this, forma) : new VentanaPadre(*this, *padre);
+        const QWidget* delante = QApplication::activeWindow();
+        if (padre == nullptr && forma.Padre() == nullptr && delante != nullptr) {
+            PonerEnCascada(*ventana, *delante);
+        }
     }
     return *ventana;
 }

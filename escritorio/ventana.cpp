@@ -12,10 +12,12 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
+#include <QToolButton>
 #include <algorithm>
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
+#include "escritorio/listaventanas.h"
 #include "escritorio/vistas.h"
 #include "frame/controles/flexgrid.h"
 #include "frame/reportes/grafico.h"
@@ -163,6 +165,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
         auto* ayuda = new QShortcut(QKeySequence(Qt::Key_F1), this);
         connect(ayuda, &QShortcut::activated, this,
                 [this] { escritorio_.AbrirManualEn(forma_ == nullptr ? std::string() : forma_->Nombre()); });
+        HacerListaDeVentanas();
     }
 
     for (Vista* vista : vistas_) {
@@ -180,7 +183,7 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     const QSize pantalla = screen()->availableSize();
     // A window with grids gets a minimum initial size that leaves room for them.
     const QSize deModulo = Tiene<FlexGrid>(forma) ? QSize(940, 720) : QSize(0, 0);
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(960, 580);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(1000, 600);
     resize(propio.boundedTo(pantalla));
 }
 
@@ -243,6 +246,26 @@ void Ventana::HacerMenus() {
                     [this, menu] { escritorio_.App().Despachar([menu] { menu->Click(); }); });
         }
     }
+}
+
+/// The list stands in the corner of the menu bar, where there is one, and behind a key in every window.
+void Ventana::HacerListaDeVentanas() {
+    auto* lista = new ListaVentanas(escritorio_, this);
+    auto* tecla = new QShortcut(QKeySequence(Qt::Key_F6), this);
+    connect(tecla, &QShortcut::activated, lista, &ListaVentanas::Abrir);
+    if (forma_->Barra().empty()) {
+        return;
+    }
+    auto* boton = new QToolButton(menuBar());
+    boton->setObjectName(QStringLiteral("ventanas"));
+    boton->setIcon(estilo::Icono(QStringLiteral("ventanas")));
+    boton->setToolTip(QStringLiteral("Ventanas abiertas (F6)"));
+    boton->setAccessibleName(QStringLiteral("Ventanas abiertas"));
+    boton->setAutoRaise(true);
+    boton->setFocusPolicy(Qt::NoFocus);
+    boton->setPopupMode(QToolButton::InstantPopup);
+    boton->setMenu(lista);
+    menuBar()->setCornerWidget(boton);
 }
 
 Vista* Ventana::Hacer(Control& control, QWidget* padre) {

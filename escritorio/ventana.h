@@ -33,6 +33,7 @@ class Ventana : public QMainWindow {
 
   private:
     void HacerMenus();
+    void HacerListaDeVentanas();
     /// Adds the controls of the layout tree to `caja`.
     void Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
     void PonerHijos(const Disposicion& d, QBoxLayout& caja, QWidget* padre);

@@ -1,0 +1,48 @@
+#include "escritorio/listaventanas.h"
+
+#include <QScreen>
+
+#include "escritorio/escritorio.h"
+#include "escritorio/vista.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr int kPaso = 30;     ///< Of the cascade, in pixels: the title of the window below is seen.
+constexpr int kConTecla = 9;  ///< Windows that have a digit as their access key.
+constexpr int kLargoTitulo = 60;
+
+}  // namespace
+
+ListaVentanas::ListaVentanas(Escritorio& escritorio, QWidget* padre) : QMenu(padre), escritorio_(escritorio) {
+    connect(this, &QMenu::aboutToShow, this, &ListaVentanas::Llenar);
+}
+
+void ListaVentanas::Abrir() {
+    Llenar();
+    const QWidget* ventana = parentWidget()->window();
+    popup(ventana->mapToGlobal(ventana->rect().center() - QRect(QPoint(), sizeHint()).center()));
+}
+
+void ListaVentanas::Llenar() {
+    clear();
+    int numero = 0;
+    for (const Formulario* forma : escritorio_.App().Cargadas()) {
+        const QString titulo = fontMetrics().elidedText(Q(forma->Caption), Qt::ElideRight,
+                                                        kLargoTitulo * fontMetrics().averageCharWidth());
+        const QString tecla = ++numero <= kConTecla ? QStringLiteral("&%1  ").arg(numero) : QString();
+        QAction* accion = addAction(tecla + QString(titulo).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        connect(accion, &QAction::triggered, this, [this, nombre = forma->Nombre()] {
+            escritorio_.App().Despachar([&] { escritorio_.App().ModuloAbrir(nombre); });
+        });
+    }
+}
+
+void PonerEnCascada(QWidget& nueva, const QWidget& delante) {
+    const QRect pantalla = delante.screen()->availableGeometry();
+    const QRect lugar(delante.pos() + QPoint(kPaso, kPaso), nueva.size());
+    nueva.move(pantalla.contains(lugar) ? lugar.topLeft() : pantalla.topLeft());
+}
+
+}  // namespace cuencalia
