@@ -27,6 +27,7 @@ constexpr int kFilasMinimas = 4;
 constexpr int kAireColumna = 18, kAireMinimo = 14;
 constexpr int kMinimoDatos = 180, kMinimoResultados = 440;  // a wider table is scrolled on a small screen
 constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
+constexpr int kFilasDeTexto = 10;  // a grid of no more rows may hold texts, such as equations, that need their width
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -216,20 +217,31 @@ QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Ro
 void VistaGrid::MedirColumnas() {
     tabla_->ensurePolished();  // sets the font of the style, also before the window is first shown
     const QFontMetrics letra = tabla_->fontMetrics();
-    // A column of results is at least as wide as they are.
-    const int desde = EsDeLectura() ? grid_.Rows() : grid_.FixedRows();
-    std::vector<int> anchos, minimos;
+    const bool corta = grid_.Rows() <= kFilasDeTexto;
+    std::vector<int> anchos, minimos, faltas;
     for (int c = 0; c < grid_.Cols(); ++c) {
-        int texto = 0;
-        const int filas = c < grid_.FixedCols() ? std::min(grid_.Rows(), kFilasMedidas) : desde;
-        for (int f = 0; f < filas; ++f) {
-            texto = std::max(texto, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c)).trimmed()));
-        }
-        anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), texto + kAireColumna));
-        const bool cede = EsDeLectura() && c >= grid_.FixedCols();
-        minimos.push_back(cede ? std::min(texto + kAireMinimo, anchos.back()) : anchos.back());
+        const bool fija = c < grid_.FixedCols();
+        const auto texto = [&](int desde, int hasta) {
+            int ancho = 0;
+            for (int f = desde; f < hasta; ++f) {
+                ancho = std::max(ancho, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c)).trimmed()));
+            }
+            return ancho;
+        };
+        int ancho = texto(0, fija ? std::min(grid_.Rows(), kFilasMedidas) : grid_.FixedRows());
+        const int celdas = fija || (!EsDeLectura() && !corta) ? 0 : texto(grid_.FixedRows(), grid_.Rows());
+        // A column of results is at least as wide as they are.
+        ancho = EsDeLectura() ? std::max(ancho, celdas) : ancho;
+        anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), ancho + kAireColumna));
+        minimos.push_back(EsDeLectura() && !fija ? std::min(ancho + kAireMinimo, anchos.back()) : anchos.back());
+        faltas.push_back(std::max(0, celdas + kAireColumna - anchos.back()));
     }
+    const bool mismasFaltas = faltas == faltas_;
+    faltas_ = std::move(faltas);
     if (anchos == anchos_ && minimos == minimos_) {
+        if (!mismasFaltas) {
+            AjustarColumnas();
+        }
         return;
     }
     anchos_ = anchos;
@@ -253,20 +265,23 @@ void VistaGrid::AjustarColumnas() {
     if (anchos_.size() <= primera) {
         return;
     }
-    // Spare width is distributed among the data columns, so that the table has no empty strip at its right; where width
-    // is missing, they give up what their texts do not need, so that the table need not be scrolled.
     const auto suma = [primera](const std::vector<int>& anchos) {
         return std::accumulate(anchos.begin() + static_cast<std::ptrdiff_t>(primera), anchos.end(), 0);
     };
-    const int natural = suma(anchos_), cede = natural - suma(minimos_);
+    // Spare width is distributed among the data columns, so that the table has no empty strip at its right: first to
+    // those that cut a text, then in equal parts. Where width is missing, they give up what their texts do not need, so
+    // that the table need not be scrolled.
+    const int natural = suma(anchos_), cede = natural - suma(minimos_), falta = suma(faltas_);
     const int sobra = std::max(tabla_->viewport()->width() - natural, -cede);
+    const int resto = std::max(0, sobra - falta);
     const int columnas = static_cast<int>(anchos_.size() - primera);
     int cedido = 0;
     for (int c = 0; c < columnas; ++c) {
         const auto i = primera + static_cast<std::size_t>(c);
         const int antes = cedido;
         cedido += anchos_[i] - minimos_[i];
-        const int parte = sobra >= 0 ? sobra * (c + 1) / columnas - sobra * c / columnas
+        const int propia = falta > sobra && sobra >= 0 ? faltas_[i] * sobra / falta : faltas_[i];
+        const int parte = sobra >= 0 ? propia + resto * (c + 1) / columnas - resto * c / columnas
                                      : sobra * cedido / cede - sobra * antes / cede;
         tabla_->setColumnWidth(c, anchos_[i] + parte);
     }

@@ -90,7 +90,8 @@ class VistaGrid : public Vista {
     TablaGrid* tabla_;
     ModeloGrid* modelo_;
     QLabel* esquina_;
-    std::vector<int> anchos_, minimos_;  ///< Of each column: what it should have, what its texts need.
+    /// Of each column: what it should have, what its texts need, and by how much it would cut those of a short grid.
+    std::vector<int> anchos_, minimos_, faltas_;
     int filaMostrada_ = -1, superiorMostrada_ = -1;
     bool mostrando_ = false;
 };

@@ -53,7 +53,7 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
     EXPECT_GE(Tabla().columnWidth(0), 200);  // 3000 twips of 15 to a pixel
     EXPECT_GT(Tabla().columnWidth(1), Tabla().fontMetrics().horizontalAdvance(largo));
     // In a grid of few rows a text that would be cut has the spare width before the others get their share.
-    Tabla().window()->resize(1200, 600);
+    Tabla().window()->resize(1400, 600);
     const int sobra = Tabla().columnWidth(2) - 40;
     ASSERT_GT(sobra, 100);
     Hacer([&] {
