@@ -74,9 +74,13 @@ class VistaTexto : public Vista {
         // In the box over a grid Tab confirms and goes on; elsewhere it leaves the box.
         const bool deSalir =
             evento.key() == Qt::Key_Backtab || (evento.key() == Qt::Key_Tab && caja_.Sobre() == nullptr);
-        if (evento.matches(QKeySequence::Paste)) {
-            escritorio_.App().PulsarTecla('V', 0, kControl);
-            return true;
+        const std::pair<QKeySequence::StandardKey, int> deEdicion[] = {
+            {QKeySequence::Paste, 'V'}, {QKeySequence::Undo, 'Z'}, {QKeySequence::Redo, 'Y'}};
+        for (const auto& [orden, codigo] : deEdicion) {
+            if (evento.matches(orden)) {
+                escritorio_.App().PulsarTecla(codigo, 0, kControl);
+                return true;
+            }
         }
         if (EsOrden(evento) || deMover || deSalir) {
             return false;

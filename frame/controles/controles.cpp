@@ -15,6 +15,10 @@ TextBox::TextBox(Formulario& forma, std::string nombre, std::string nombreAccesi
 }
 
 void TextBox::AlCambiarTexto() {
+    if (!trasEscribir_) {
+        antes_.clear();
+        despues_.clear();
+    }
     const int longitud = Len(Text());
     const int inicio = trasEscribir_ ? trasEscribir_->inicio : SelStart();
     const int marcados = trasEscribir_ ? trasEscribir_->longitud : SelLength();
@@ -34,8 +38,21 @@ void TextBox::EscritoPorUsuario(const std::string& texto, int selStart, int selL
         Seleccionar(selStart, selLength);
         return;
     }
+    antes_.push_back({Text, {SelStart, SelLength}});
+    despues_.clear();
     trasEscribir_ = {selStart, selLength};
     Text = texto;
+}
+
+void TextBox::Volver(std::vector<Estado>& de, std::vector<Estado>& a) {
+    if (de.empty()) {
+        return;
+    }
+    a.push_back({Text, {SelStart, SelLength}});
+    const Estado estado = std::move(de.back());
+    de.pop_back();
+    trasEscribir_ = estado.marca;
+    Text = estado.texto;
 }
 
 void TextBox::Reemplazar(int inicio, int cuantos, const std::string& nuevo) {
@@ -71,6 +88,8 @@ void TextBox::TeclaPorDefecto(int codigo, int caracter) {
         if (!Locked) {
             Pegar(App().Sistema().TextoDelPortapapeles());
         }
+    } else if (App().ConControl() && (codigo == 'Z' || codigo == 'Y')) {
+        codigo == 'Z' ? Volver(antes_, despues_) : Volver(despues_, antes_);
     } else if (App().ConControl() && codigo == 'A') {
         Seleccionar(0, longitud);
     } else if (!Locked && caracter == kTeclaRetroceso) {
@@ -171,7 +190,13 @@ Frame::Frame(Formulario& forma, std::string nombre, std::string caption) : Contr
 }
 
 SSTab::SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos)
-    : Control(forma, std::move(nombre)), titulos_(std::move(titulos)) {}
+    : Control(forma, std::move(nombre)), titulos_(std::move(titulos)) {
+    std::string paginas;
+    for (const std::string& titulo : titulos_) {
+        paginas += (paginas.empty() ? "" : ", ") + titulo;
+    }
+    NombreAccesible = paginas;
+}
 
 /// A control on a page that is no longer in front loses the focus, so that typing does not go to a hidden control.
 void SSTab::AlCambiarFicha() {

@@ -35,7 +35,7 @@ class TextBox : public Control {
 
     bool AceptaFoco() const override { return true; }
     /// Replaces the selection by the character, or inserts it at the insertion point; Backspace, Delete and the arrow
-    /// keys edit and move as usual.
+    /// keys edit and move as usual. Ctrl+Z and Ctrl+Y undo and redo what the user wrote since the program set the text.
     void TeclaPorDefecto(int codigo, int caracter) override;
     /// Replaces the selection by the first line of a copied text; a number with a decimal comma is written with a
     /// point.
@@ -53,10 +53,17 @@ class TextBox : public Control {
     struct Marca {
         int inicio, longitud;
     };
+    struct Estado {
+        std::string texto;
+        Marca marca;
+    };
+    /// Takes the last state of `de`, and leaves the present one in `a`.
+    void Volver(std::vector<Estado>& de, std::vector<Estado>& a);
 
     FlexGrid* sobre_ = nullptr;
     /// Cursor and selection to be set when Change fires for a text that the user wrote.
     std::optional<Marca> trasEscribir_;
+    std::vector<Estado> antes_, despues_;
 };
 
 /// What a label is for; the screen chooses its appearance by it.
@@ -150,6 +157,7 @@ class Frame : public Control {
 /// A tab control: pages, each with a tab.
 class SSTab : public Control {
   public:
+    /// Its accessible name is the titles of its pages, unless the form gives it another one.
     SSTab(Formulario& forma, std::string nombre, std::vector<std::string> titulos);
 
     const std::vector<std::string>& Titulos() const { return titulos_; }

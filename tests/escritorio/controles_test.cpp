@@ -92,6 +92,12 @@ TEST_F(Controles, ATextBoxFiltersCharactersAndMovesByItself) {
     EXPECT_EQ(F().txt1.Text(), "€");
     Tecla(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(F().txt1.Text(), "ac€");
+    for (const char* texto : {"€", "ac€", "ac"}) {
+        Tecla(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(caja.text(), texto);
+    }
+    Tecla(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(caja.text(), "ac€");
 
     // The widget counts units of UTF-16, the program characters: 😀 is two of the former.
     Hacer([this] {
@@ -127,6 +133,7 @@ TEST_F(Controles, TheKeyboardIsWhereTheModelHasIt) {
         });
     }
     EXPECT_EQ(Sucesos(), (Textos{"txtt sale", "grd1 entra"}));
+    Hacer([this] { F().txt2.Locked = true; });
     std::set<std::string> alcanzados;
     for (int i = 0; i < 10; ++i) {
         Tecla(i < 5 ? Qt::Key_Tab : Qt::Key_Backtab);
@@ -134,6 +141,7 @@ TEST_F(Controles, TheKeyboardIsWhereTheModelHasIt) {
         alcanzados.insert(Foco()->Nombre());
     }
     EXPECT_GE(alcanzados.size(), 5u) << "Tab leads out of a grid and on";
+    EXPECT_FALSE(alcanzados.contains("txt2")) << "not to a box of results";
 }
 
 TEST_F(Controles, WhatTheUserPicksArrives) {
@@ -192,6 +200,10 @@ TEST_F(Controles, ThePointerIsToldToWhatIsBelowItAlone) {
     Apuntar(marco, QPoint(4, marco.height() - 4));
     Apuntar(lienzo, QPoint(3, 3));
     EXPECT_EQ(F().punteros, (Textos{"btn1", "Frame1", "frmPrueba"}));
+    Apuntar(boton, boton.rect().center());
+    QEvent fuera(QEvent::Leave);
+    QCoreApplication::sendEvent(&lienzo, &fuera);
+    EXPECT_EQ(F().punteros.back(), "frmPrueba") << "out of the window";
 }
 
 }  // namespace cuencalia::pruebas
