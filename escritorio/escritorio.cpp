@@ -102,14 +102,30 @@ void Escritorio::MsgBox(const std::string& texto, Icono icono, const std::string
     caja.exec();
 }
 
-bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) {
+int Escritorio::Contestar(const std::string& texto, const std::string& titulo, int botones, int porOmision) {
     Pintar();
     const Espera espera(cajas_);
-    QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::Yes | QMessageBox::No, VentanaDelante());
+    QMessageBox caja(QMessageBox::Question, Q(titulo), Q(texto), QMessageBox::StandardButtons(botones),
+                     VentanaDelante());
     caja.setTextFormat(Qt::PlainText);
     caja.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
-    caja.setDefaultButton(porOmision ? QMessageBox::Yes : QMessageBox::No);
-    return caja.exec() == QMessageBox::Yes;
+    if (QAbstractButton* cancelar = caja.button(QMessageBox::Cancel)) {
+        cancelar->setText(QStringLiteral("&Cancelar"));
+    }
+    caja.setDefaultButton(QMessageBox::StandardButton(porOmision));
+    return caja.exec();
+}
+
+bool Escritorio::Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) {
+    return Contestar(texto, titulo, QMessageBox::Yes | QMessageBox::No,
+                     porOmision ? QMessageBox::Yes : QMessageBox::No) == QMessageBox::Yes;
+}
+
+std::optional<bool> Escritorio::PreguntarOCancelar(const std::string& texto, const std::string& titulo) {
+    const int respuesta =
+        Contestar(texto, titulo, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
+    const bool contestada = respuesta == QMessageBox::Yes || respuesta == QMessageBox::No;
+    return contestada ? std::optional(respuesta == QMessageBox::Yes) : std::nullopt;
 }
 
 void Escritorio::MostrarError(const ErrorEjecucion& error) {

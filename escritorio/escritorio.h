@@ -35,6 +35,7 @@ class Escritorio : public Plataforma {
 
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
     bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) override;
+    std::optional<bool> PreguntarOCancelar(const std::string& texto, const std::string& titulo) override;
     bool Bloqueada() const override { return cajas_ > 0; }
     void MostrarError(const ErrorEjecucion& error) override;
     void MostrarForma(Formulario& forma) override;
@@ -58,6 +59,8 @@ class Escritorio : public Plataforma {
     void GuardarAjuste(const std::string& clave, const std::string& valor) override;
 
   private:
+    /// Asks with those buttons of a message box, and returns the one pressed.
+    int Contestar(const std::string& texto, const std::string& titulo, int botones, int porOmision);
     void DarFoco();
     /// The window of a form; it is created if there is none yet.
     Ventana& VentanaPara(Formulario& forma);

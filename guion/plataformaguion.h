@@ -24,6 +24,9 @@ class PlataformaGuion : public Plataforma {
     void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) override;
     /// The question counts as a message; the answer is yes.
     bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) override;
+    std::optional<bool> PreguntarOCancelar(const std::string& texto, const std::string& titulo) override {
+        return Preguntar(texto, titulo, true);
+    }
     void MostrarError(const ErrorEjecucion& error) override;
     void MostrarForma(Formulario& forma) override;
     void DescargarForma(Formulario& forma) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "frame/base/numeros.h"
@@ -40,6 +41,8 @@ class Plataforma {
     virtual void MsgBox(const std::string& texto, Icono icono, const std::string& titulo) = 0;
     /// Asks a question that is answered by yes or no; ENTER answers `porOmision`.
     virtual bool Preguntar(const std::string& texto, const std::string& titulo, bool porOmision) = 0;
+    /// The same of a question that may be left unanswered: empty when it was. ENTER answers yes.
+    virtual std::optional<bool> PreguntarOCancelar(const std::string& texto, const std::string& titulo) = 0;
     /// Shows the number and text of a run-time error that no handler caught.
     virtual void MostrarError(const ErrorEjecucion& error) = 0;
 

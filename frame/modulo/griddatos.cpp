@@ -359,11 +359,17 @@ void GridDatos::Pegar(const std::string& texto) {
     SignoDecimal signo = SignoDecimal::Punto;
     if (lectura.signo) {
         signo = *lectura.signo;
-    } else if (!app_.Sistema().Preguntar("«" + lectura.dudoso +
-                                             "» puede leerse de dos maneras.\n\n¿El punto es el signo "
-                                             "decimal de los datos copiados?",
-                                         "Pegar datos", true)) {
-        signo = SignoDecimal::Coma;
+    } else {
+        const std::optional<bool> esPunto =
+            app_.Sistema().PreguntarOCancelar("«" + lectura.dudoso +
+                                                  "» puede leerse de dos maneras.\n\n¿El punto es el signo "
+                                                  "decimal de los datos copiados?",
+                                              "Pegar datos");
+        if (!esPunto) {
+            Avisar("No se pegó nada");
+            return;
+        }
+        signo = *esPunto ? SignoDecimal::Punto : SignoDecimal::Coma;
     }
     const int columna = grdt.Col(), primera = grdt.Row(), filas = static_cast<int>(bloque.size() - lectura.encabezados);
     const int nuevas = std::max(0, primera + filas - FilaEntrada());

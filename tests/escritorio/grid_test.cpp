@@ -45,6 +45,7 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
         const auto alineacion = Tabla().model()->index(0, c).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
         EXPECT_EQ(alineacion & Qt::AlignHorizontal_Mask, esperado[c]);
     }
+    Tabla().window()->resize(1400, 600);
     Hacer([&] {
         G().PonerColWidth(1, 3000);
         G().PonerColWidth(2, 150);
@@ -53,7 +54,6 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
     EXPECT_GE(Tabla().columnWidth(0), 200);  // 3000 twips of 15 to a pixel
     EXPECT_GT(Tabla().columnWidth(1), Tabla().fontMetrics().horizontalAdvance(largo));
     // In a grid of few rows a text that would be cut has the spare width before the others get their share.
-    Tabla().window()->resize(1400, 600);
     const int sobra = Tabla().columnWidth(2) - 40;
     ASSERT_GT(sobra, 100);
     Hacer([&] {
@@ -63,6 +63,10 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
                             std::string(static_cast<std::size_t>(3 * sobra / Tabla().fontMetrics().height()), 'm'));
     });
     EXPECT_GT(Tabla().columnWidth(2), Tabla().fontMetrics().horizontalAdvance(Texto(0, 2))) << sobra;
+    Tabla().window()->resize(1000, 600);
+    QCoreApplication::processEvents();
+    EXPECT_LT(Tabla().columnWidth(0), 200) << "width that no number needs is given up before the table is scrolled";
+    EXPECT_EQ(Tabla().horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(Grid, RowsInSightGoBothWays) {
@@ -154,6 +158,18 @@ TEST_F(Grid, ATableIsCopiedByItsMenuAndADoubleClickEdits) {
         Hacer([&, t = texto] { dynamic_cast<FlexGrid&>(*forma.Controls("grdt")).PonerTextMatrix(1, 1, t); });
         EXPECT_EQ(datos.model()->index(0, 0).data(Qt::BackgroundRole).isValid(), marcada) << texto;
     }
+}
+
+TEST_F(Grid, APasteIsCancelledWithItsQuestion) {
+    Abrir("frmParamEsta");
+    auto& datos = dynamic_cast<FlexGrid&>(*Forma("frmParamEsta").Controls("grdt"));
+    for (const char* texto : {"1.234", "1.5"}) {
+        Volver("frmParamEsta");
+        QApplication::clipboard()->setText(texto);
+        Tecla(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(datos.TextMatrix(1, 1), texto == std::string("1.5") ? "1.5" : "");
+    }
+    EXPECT_EQ(vigia_.mensajes.size(), 1U);
 }
 
 TEST_F(Grid, TheEditBoxStandsOnTheCurrentCell) {

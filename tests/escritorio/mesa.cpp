@@ -90,6 +90,11 @@ void Mesa::Abrir(const std::string& forma) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
 }
 
+void Mesa::Volver(const std::string& forma) {
+    Ventana(forma)->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Ventana(forma)));
+}
+
 QMainWindow* Mesa::Ventana(const std::string& forma) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible() && widget->objectName() == Q("ventana_" + forma)) {

@@ -86,6 +86,8 @@ class Mesa : public testing::Test {
     void Hacer(const std::function<void()>& accion) { escritorio_->App().Despachar(accion); }
     /// Opens a form, or brings its window to the front.
     void Abrir(const std::string& forma);
+    /// Gives the keyboard back to the window of that form: a dialog that closes may leave it to none.
+    static void Volver(const std::string& forma);
     void Cerrar(Formulario& forma) {
         Hacer([&] { escritorio_->App().Unload(forma); });
     }
