@@ -97,9 +97,10 @@ std::vector<std::optional<Double>> GraficoModulo::Abscisas(int conjunto) const {
     return numeros;
 }
 
-void GraficoModulo::RotularEjes(Label& x, Label& y) {
+void GraficoModulo::RotularEjes(Label& x, Label& y, Label* unidadY) {
     rotuloX_ = &x;
     rotuloY_ = &y;
+    unidadY_ = unidadY;
     MostrarRotulos(Visible);
 }
 
@@ -107,8 +108,13 @@ std::string GraficoModulo::TextoDe(const Label* rotulo) {
     return rotulo != nullptr && rotulo->Visible ? rotulo->Caption() : std::string();
 }
 
+std::string GraficoModulo::RotuloY() const {
+    const std::string unidad = TextoDe(unidadY_);
+    return unidad.empty() ? TextoDe(rotuloY_) : TextoDe(rotuloY_) + " " + unidad;
+}
+
 void GraficoModulo::MostrarRotulos(bool visibles) {
-    for (Label* rotulo : {rotuloX_, rotuloY_}) {
+    for (Label* rotulo : {rotuloX_, rotuloY_, unidadY_}) {
         if (rotulo != nullptr) {
             rotulo->Visible = visibles;
         }

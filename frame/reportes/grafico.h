@@ -80,10 +80,11 @@ class GraficoModulo : public Control {
 
     /// Sets the labels of the window that name the axes. They come and go with the chart; a copy of it, which stands
     /// without the window, has their texts at its axes.
-    void RotularEjes(Label& x, Label& y);
+    /// `unidadY` is what stands behind the name of y.
+    void RotularEjes(Label& x, Label& y, Label* unidadY = nullptr);
     /// The texts for the axes of a copy: empty without a label, or with one that is hidden.
     std::string RotuloX() const { return TextoDe(rotuloX_); }
-    std::string RotuloY() const { return TextoDe(rotuloY_); }
+    std::string RotuloY() const;
     void MostrarRotulos(bool visibles);
 
     /// Hides the chart. Its values are not shown again, since the next drawing begins by emptying it.
@@ -102,6 +103,7 @@ class GraficoModulo : public Control {
     std::vector<Conjunto> conjuntos_;
     Label* rotuloX_ = nullptr;
     Label* rotuloY_ = nullptr;
+    Label* unidadY_ = nullptr;
     int punto_ = 1, conjunto_ = 1;
     Lugar siguienteY_, siguienteX_;
     const GraficoModulo* par_ = nullptr;

@@ -57,7 +57,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
     lblT.Nombra(txtxt);
     lblQ.Nombra(txtxq);
     lblP.Nombra(txtxp);
-    MostrarEjes(false);
+    Graph1.RotularEjes(lblEjeX, lblEjeY);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     bQ.Click.Conectar([this] { bQ_Click(); });
     bT.Click.Conectar([this] { bT_Click(); });
@@ -75,21 +75,11 @@ void MarcoAjuste::DeclararParametros(Campos ordinarios, Campos lineales) {
     }
 }
 
-void MarcoAjuste::MostrarEjes(bool visibles) {
-    lblEjeY.Visible = visibles;
-    lblEjeX.Visible = visibles;
-}
-
-void MarcoAjuste::LimpiarGrafico() {
-    Graph1.LimpiarGrafico();
-    MostrarEjes(false);
-}
-
 void MarcoAjuste::LimpiarOtros() {
     calculado = false;
     lblmensaje.Caption = "";
     lblAjuste.Caption = kAjusteEnReposo;
-    LimpiarGrafico();
+    Graph1.LimpiarGrafico();
 }
 
 void MarcoAjuste::Calcular() {
@@ -228,7 +218,6 @@ void MarcoAjuste::bGraficar_Click() {
         }
     }
     GraficoDibujar(Graph1, {}, series);
-    MostrarEjes(true);
 }
 
 void MarcoAjuste::ReportarTabla(Reporte& reporte) {

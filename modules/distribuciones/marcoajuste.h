@@ -91,7 +91,6 @@ class MarcoAjuste : public ModuloCalculo {
     Serie Yord, Ylin;           ///< Reduced variable of xo by ordinary and by linear moments.
     Serie Delta;
 
-    void LimpiarGrafico();
     void bGraficar_Click();
     void bQ_Click();
     void bT_Click();
@@ -139,7 +138,6 @@ class MarcoAjuste : public ModuloCalculo {
 
   private:
     void MostrarParametros();
-    void MostrarEjes(bool visibles);
     void LlenarTabla();
     const NivelSignificacion& Nivel() const;
     /// Returns whether there is a fit and a value at which to evaluate it; when not, tells the user what is missing.

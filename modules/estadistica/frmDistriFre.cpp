@@ -13,19 +13,12 @@ frmDistriFre::frmDistriFre(Aplicacion& app)
     optDensidad.Click.Conectar([this] { optDensidad_Click(); });
     optAcumulada.Click.Conectar([this] { optAcumulada_Click(); });
     fraTipoGrafico.Visible = false;
-    MostrarRotulos(false);
-}
-
-void frmDistriFre::MostrarRotulos(bool visibles) {
-    lblPorcentaje.Visible = visibles;
-    lblFuncion.Visible = visibles;
-    lblMarcaClase.Visible = visibles;
+    Graph1.RotularEjes(lblMarcaClase, lblFuncion, &lblPorcentaje);
 }
 
 void frmDistriFre::LimpiarOtros() {
     ModuloSerie::LimpiarOtros();
     Graph1.LimpiarGrafico();
-    MostrarRotulos(false);
     calculado = false;
 }
 
@@ -55,7 +48,7 @@ void frmDistriFre::bGraficar_Click() {
     optDensidad.Value = false;
     optAcumulada.Value = false;
     optAcumulada.Value = true;
-    MostrarRotulos(true);
+    Graph1.MostrarRotulos(true);
     lblFuncion.Caption = "Fx";
 }
 

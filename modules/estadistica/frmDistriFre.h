@@ -39,7 +39,6 @@ class frmDistriFre : public ModuloSerie {
     Disposicion Contenido() override;
 
   private:
-    void MostrarRotulos(bool visibles);
     void Dibujar(const char* funcion, const Clases::Columna& ordenadas);
 };
 
