@@ -105,8 +105,9 @@ QMdiArea QTabBar::tab:hover { background: @luz; }
 QMenuBar { background: @base; border-bottom: 1px solid @linea; padding: 2px; }
 QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: @luz; }
-QMenuBar QToolButton, QToolBar QToolButton { border: 1px solid transparent; background: transparent; padding: 3px 5px; }
-QMenuBar QToolButton:hover, QToolBar QToolButton:hover { background: @luz; }
+QLabel QToolButton, QToolBar QToolButton { border: 1px solid transparent; background: transparent; padding: 3px 5px; }
+QLabel QToolButton { padding: 0; }
+QLabel QToolButton:hover, QToolBar QToolButton:hover { background: @luz; }
 QToolBar QToolButton:checked { background: @luz; border-color: @acento; }
 QToolButton::menu-indicator { image: none; }
 QToolBar { background: @ventana; border: none; border-bottom: 1px solid @linea; padding: 2px 6px; spacing: 1px; }

@@ -14,6 +14,7 @@
 #include <QTextLayout>
 #include <QWidget>
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 #include "escritorio/escritorio.h"
@@ -27,6 +28,7 @@ namespace cuencalia {
 namespace {
 
 constexpr qreal kMargenHoja = 20;  // mm
+constexpr int kRenglonesDePie = 2;
 constexpr qreal kPixelesPorPunto = 96.0 / 72;
 constexpr qreal kEscalaMinima = 0.6;  // 10-point letters are then printed as 6 points; smaller ones would be illegible
 
@@ -90,12 +92,35 @@ bool PideApaisado(const QTextDocument& documento, const QPagedPaintDevice& hoja)
 }
 
 /// The page is laid out at 96 pixels an inch, as on the screen, and scaled to the sheet. For a wide table the page is
-/// made wider, so that it is printed smaller as a whole and columns of dashes, blanks and tabs stay aligned.
+/// made wider, so that it is printed smaller as a whole and columns of dashes, blanks and tabs stay aligned. The last
+/// lines of each sheet are for the number of the page.
 void ImprimirAjustado(QTextDocument& documento, QPagedPaintDevice& hoja) {
     const QSizeF util = EnPixeles(hoja.pageLayout().paintRectPoints().size());
     const qreal escala = std::clamp(util.width() / std::max(AnchoDeTablas(documento), 1.0), kEscalaMinima, 1.0);
-    documento.setPageSize(util / escala);
-    documento.print(&hoja);
+    const QSizeF todo = util / escala;
+    const QSizeF pagina = todo - QSizeF(0, kRenglonesDePie * QFontMetricsF(documento.defaultFont()).lineSpacing());
+    documento.setPageSize(pagina);
+    QPainter pintor;
+    if (!pintor.begin(&hoja)) {
+        return;
+    }
+    pintor.scale(hoja.width() / todo.width(), hoja.width() / todo.width());
+    // Letters have the size of the layout, whatever the resolution of the sheet.
+    QFont letra = documento.defaultFont();
+    letra.setPixelSize(static_cast<int>(std::lround(letra.pointSizeF() * kPixelesPorPunto)));
+    pintor.setFont(letra);
+    const int paginas = documento.pageCount();
+    for (int i = 0; i < paginas; ++i) {
+        if (i > 0) {
+            hoja.newPage();
+        }
+        pintor.save();
+        pintor.translate(0, -i * pagina.height());
+        documento.drawContents(&pintor, QRectF(QPointF(0, i * pagina.height()), pagina));
+        pintor.restore();
+        pintor.drawText(QRectF(QPointF(), todo), Qt::AlignHCenter | Qt::AlignBottom,
+                        QStringLiteral("Página %1 de %2").arg(i + 1).arg(paginas));
+    }
 }
 
 void ImprimirTexto(const EditorTextoRico& texto, bool soloSeleccion, const QString& titulo, const QString& nombre) {

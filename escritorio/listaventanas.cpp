@@ -15,7 +15,8 @@ constexpr int kLargoTitulo = 60;
 
 }  // namespace
 
-ListaVentanas::ListaVentanas(Escritorio& escritorio, QWidget* padre) : QMenu(padre), escritorio_(escritorio) {
+ListaVentanas::ListaVentanas(Escritorio& escritorio, QWidget* padre)
+    : QMenu(QStringLiteral("&Ventana"), padre), escritorio_(escritorio) {
     connect(this, &QMenu::aboutToShow, this, &ListaVentanas::Llenar);
 }
 

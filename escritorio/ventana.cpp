@@ -10,7 +10,9 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QTabWidget>
 #include <QToolButton>
 #include <algorithm>
@@ -25,8 +27,6 @@
 namespace cuencalia {
 
 namespace {
-
-constexpr int kMargenDocumento = 100;  // twips around the text of a document
 
 /// The contents of a window inside its frame, drawn over the form's background picture, if it has one.
 class Lienzo : public QWidget {
@@ -63,7 +63,9 @@ class VistaFormulario : public Vista {
     void Mostrar() override {
         if (titulo_ != forma_.Caption()) {
             titulo_ = forma_.Caption();
-            ventana_->setWindowTitle(Q(titulo_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]")));
+            const QString titulo = Q(titulo_).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+            // The last "[*]" is where a document that no file has is marked.
+            ventana_->setWindowTitle(forma_.Padre() == nullptr ? titulo : titulo + QStringLiteral("[*]"));
         }
     }
 
@@ -180,10 +182,11 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     for (QLayout* interior : lienzo->findChildren<QLayout*>()) {
         interior->invalidate();
     }
-    const QSize pantalla = screen()->availableSize();
+    const QSize pantalla = screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     // A window with grids gets a minimum initial size that leaves room for them.
     const QSize deModulo = Tiene<FlexGrid>(forma) ? QSize(940, 720) : QSize(0, 0);
     const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(1000, 600);
+    Enrollar(pantalla);
     resize(propio.boundedTo(pantalla));
 }
 
@@ -248,24 +251,43 @@ void Ventana::HacerMenus() {
     }
 }
 
-/// The list stands in the corner of the menu bar, where there is one, and behind a key in every window.
+/// The list is the last menu of the bar or, where there is none, a button at the end of the status bar; a key opens it
+/// in every window.
 void Ventana::HacerListaDeVentanas() {
     auto* lista = new ListaVentanas(escritorio_, this);
     auto* tecla = new QShortcut(QKeySequence(Qt::Key_F6), this);
     connect(tecla, &QShortcut::activated, lista, &ListaVentanas::Abrir);
-    if (forma_->Barra().empty()) {
+    if (!forma_->Barra().empty()) {
+        menuBar()->addMenu(lista);
         return;
     }
-    auto* boton = new QToolButton(menuBar());
-    boton->setObjectName(QStringLiteral("ventanas"));
-    boton->setIcon(estilo::Icono(QStringLiteral("ventanas")));
-    boton->setToolTip(QStringLiteral("Ventanas abiertas (F6)"));
-    boton->setAccessibleName(QStringLiteral("Ventanas abiertas"));
-    boton->setAutoRaise(true);
-    boton->setFocusPolicy(Qt::NoFocus);
-    boton->setPopupMode(QToolButton::InstantPopup);
-    boton->setMenu(lista);
-    menuBar()->setCornerWidget(boton);
+    for (const Control* control : EnOrden(forma_->Distribucion())) {
+        if (dynamic_cast<const StatusBar*>(control) != nullptr) {
+            QWidget* barra = static_cast<Vista*>(control->Vista())->Widget();
+            auto* boton = new QToolButton(barra);
+            boton->setIcon(estilo::Icono(QStringLiteral("ventanas")));
+            boton->setToolTip(QStringLiteral("Ventanas abiertas (F6)"));
+            boton->setAccessibleName(lista->title());
+            boton->setFocusPolicy(Qt::NoFocus);
+            boton->setPopupMode(QToolButton::InstantPopup);
+            boton->setMenu(lista);
+            barra->layout()->addWidget(boton);
+        }
+    }
+}
+
+/// A screen smaller than the controls need shows them by parts.
+void Ventana::Enrollar(QSize pantalla) {
+    const QSize minimo = minimumSizeHint();
+    if (minimo.width() <= pantalla.width() && minimo.height() <= pantalla.height()) {
+        return;
+    }
+    auto* rollo = new QScrollArea(this);
+    rollo->setFrameShape(QFrame::NoFrame);
+    rollo->setFocusPolicy(Qt::NoFocus);
+    rollo->setWidgetResizable(true);
+    rollo->setWidget(takeCentralWidget());
+    setCentralWidget(rollo);
 }
 
 Vista* Ventana::Hacer(Control& control, QWidget* padre) {

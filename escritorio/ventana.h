@@ -14,6 +14,8 @@ namespace cuencalia {
 class Escritorio;
 class Vista;
 
+inline constexpr int kMargenDocumento = 100;  ///< Twips around the text of a document.
+
 /// The window of a form: its menus, and its controls in the form's layout.
 class Ventana : public QMainWindow {
     Q_OBJECT
@@ -34,6 +36,7 @@ class Ventana : public QMainWindow {
   private:
     void HacerMenus();
     void HacerListaDeVentanas();
+    void Enrollar(QSize pantalla);
     /// Adds the controls of the layout tree to `caja`.
     void Poner(const Disposicion& d, QBoxLayout& caja, QWidget* padre);
     void PonerHijos(const Disposicion& d, QBoxLayout& caja, QWidget* padre);

@@ -9,22 +9,27 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QStyle>
 #include <QTabBar>
+#include <QTextDocument>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 
+#include "escritorio/barraformato.h"
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
 #include "escritorio/vista.h"
+#include "escritorio/vistatextorico.h"
 #include "frame/controles/aplicacion.h"
 
 namespace cuencalia {
 
 namespace {
 
-constexpr int kMiradaAlReloj = 5000;  // ms
-const QSize kMinimo(320, 240);        // room for the menus, some lines and the status bar
+constexpr int kMiradaAlReloj = 5000;      // ms
+const QSize kMinimo(320, 240);            // room for the menus, some lines and the status bar
+constexpr double kAltoPorOmision = 9600;  // twips
 
 /// A length in pixels, limited because a stored setting may contain any number.
 int EnPixeles(double twips) {
@@ -44,6 +49,8 @@ QScreen* PantallaDe(const QRect& lugar) {
     return mejor;
 }
 
+CajaTextoRico* TextoDe(const Ventana& documento) { return documento.findChild<CajaTextoRico*>(); }
+
 }  // namespace
 
 QRect LugarVisible(double izquierda, double arriba, double ancho, double alto, const QSize& minimo) {
@@ -57,7 +64,8 @@ QRect LugarVisible(double izquierda, double arriba, double ancho, double alto, c
 }
 
 VentanaPadre::VentanaPadre(Escritorio& escritorio, frmPadre& forma)
-    : Ventana(escritorio, forma), escritorio_(escritorio), area_(new QMdiArea(this)) {
+    : Ventana(escritorio, forma), escritorio_(escritorio), area_(new QMdiArea(this)), barra_(new BarraFormato(this)) {
+    addToolBar(barra_);
     area_->setViewMode(QMdiArea::TabbedView);
     area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
     area_->setDocumentMode(true);
@@ -99,12 +107,21 @@ void VentanaPadre::PonerDelante(Ventana& hija) {
     if (marco == nullptr) {
         marco = area_->addSubWindow(&hija);
         marco->showMaximized();
+        // The tab of a document marks a text that no file has.
+        const QTextDocument* documento = TextoDe(hija)->document();
+        connect(documento, &QTextDocument::modificationChanged, &hija, &QWidget::setWindowModified);
+        hija.setWindowModified(documento->isModified());
     }
     area_->setActiveSubWindow(marco);
+    barra_->Seguir(TextoDe(hija));
 }
 
 void VentanaPadre::Activada(QMdiSubWindow* marco) {
     const auto* hija = marco == nullptr ? nullptr : qobject_cast<Ventana*>(marco->widget());
+    // A window in the background has no active document, but a current one.
+    const QMdiSubWindow* frente = area_->currentSubWindow();
+    const auto* documento = frente == nullptr ? nullptr : qobject_cast<Ventana*>(frente->widget());
+    barra_->Seguir(documento == nullptr ? nullptr : TextoDe(*documento));
     if (Padre() == nullptr || hija == nullptr || hija->Forma() == nullptr) {
         return;
     }
@@ -114,9 +131,19 @@ void VentanaPadre::Activada(QMdiSubWindow* marco) {
     }
 }
 
+QSizeF VentanaPadre::LargoAlAbrir() const {
+    const frmPadre& padre = *Padre();
+    if (padre.Width != frmPadre::kLargoPorOmision || padre.Height != frmPadre::kLargoPorOmision) {
+        return {padre.Width, padre.Height};
+    }
+    const int barra = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return {2 * kMargenDocumento + (AnchoDeReglas() + barra) * estilo::kTwipsPorPixel, kAltoPorOmision};
+}
+
 void VentanaPadre::AbrirEnSuLugar() {
     const frmPadre& padre = *Padre();
-    const QRect lugar = LugarVisible(padre.Left, padre.Top, padre.Width, padre.Height, minimumSize());
+    const QSizeF largo = LargoAlAbrir();
+    const QRect lugar = LugarVisible(padre.Left, padre.Top, largo.width(), largo.height(), minimumSize());
     resize(lugar.size());
     move(lugar.topLeft());
 }

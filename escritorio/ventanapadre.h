@@ -8,8 +8,11 @@ class QMdiSubWindow;
 
 namespace cuencalia {
 
+class BarraFormato;
+
 /// The window of a form that contains other forms, each in a tab. It opens at the position and size given by the form,
-/// and reports to the form when the user moves or resizes it.
+/// and reports to the form when the user moves or resizes it. As long as the user has chosen no size it is as wide as
+/// the rules of a report.
 class VentanaPadre : public Ventana {
     Q_OBJECT
 
@@ -31,9 +34,12 @@ class VentanaPadre : public Ventana {
     void DecirHora();
     void Activada(QMdiSubWindow* marco);
     void PonerAtajos();
+    /// In twips.
+    QSizeF LargoAlAbrir() const;
 
     Escritorio& escritorio_;
     QMdiArea* area_;
+    BarraFormato* barra_;
 };
 
 /// Position and size for a window, in pixels without its frame: those asked for, changed as needed to fit the screen

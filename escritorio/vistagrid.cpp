@@ -26,6 +26,7 @@ constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
 constexpr int kAireColumna = 18, kAireMinimo = 14;
 constexpr int kMinimoDatos = 180, kMinimoResultados = 440;  // a wider table is scrolled on a small screen
+constexpr char kDato[] = "00000.000";                       // a column of data shows that much of a number
 constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
 constexpr int kFilasDeTexto = 10;  // a grid of no more rows may hold texts, such as equations, that need their width
 
@@ -233,7 +234,8 @@ void VistaGrid::MedirColumnas() {
         // A column of results is at least as wide as they are.
         ancho = EsDeLectura() ? std::max(ancho, celdas) : ancho;
         anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), ancho + kAireColumna));
-        minimos.push_back(EsDeLectura() && !fija ? std::min(ancho + kAireMinimo, anchos.back()) : anchos.back());
+        const int preciso = EsDeLectura() ? ancho : std::max(ancho, letra.horizontalAdvance(QLatin1String(kDato)));
+        minimos.push_back(fija ? anchos.back() : std::min(preciso + kAireMinimo, anchos.back()));
         faltas.push_back(std::max(0, celdas + kAireColumna - anchos.back()));
     }
     const bool mismasFaltas = faltas == faltas_;

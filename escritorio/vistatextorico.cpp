@@ -11,6 +11,7 @@
 
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
+#include "frame/reportes/reporte.h"
 #include "frame/reportes/rtf.h"
 
 namespace cuencalia {
@@ -19,6 +20,7 @@ namespace {
 
 constexpr int kPasoTabulador = 720;  // twips; half an inch, the default of RTF
 constexpr int kMargen = 6;           // pixels between the edge of the sheet and the text
+constexpr int kReglaAncha = 145;     // dashes
 
 /// Property with the colour that the text has in the file, where the screen shows another one.
 constexpr int kColorPropio = QTextFormat::UserProperty;
@@ -166,13 +168,17 @@ QString SinReservados(QString texto) {
     return texto;
 }
 
-void Preparar(QTextDocument& documento) {
+QFont LetraDeReporte() {
     QFont fuente;
     fuente.setFamilies(Familias(kFuenteReporte));
     fuente.setStyleHint(QFont::Monospace);
     fuente.setFixedPitch(true);
     fuente.setPointSizeF(FormatoCaracter{}.medioPuntos / 2.0);
-    documento.setDefaultFont(fuente);
+    return fuente;
+}
+
+void Preparar(QTextDocument& documento) {
+    documento.setDefaultFont(LetraDeReporte());
     QTextOption opcion = documento.defaultTextOption();
     opcion.setTabStopDistance(EnPixeles(kPasoTabulador));
     opcion.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -319,6 +325,7 @@ VistaTextoRico::VistaTextoRico(Escritorio& escritorio, RichTextBox& caja, QWidge
         editado_ = true;
         escritorio_.App().Despachar([&] { caja_.Editor().Pegar(texto); });
     };
+    texto_->document()->setModified(false);
     caja_.AlConsultar([this](EditorTextoRico& editor) { Traer(editor); });
 }
 
@@ -359,9 +366,16 @@ void VistaTextoRico::MostrarSeleccion(const EditorTextoRico& editor) {
 }
 
 void VistaTextoRico::Mostrar() {
-    if (caja_.Version() == version_) {
-        return;
+    if (caja_.Version() != version_) {
+        MostrarTexto();
     }
+    if (caja_.Guardados() != guardados_) {
+        guardados_ = caja_.Guardados();
+        texto_->document()->setModified(false);
+    }
+}
+
+void VistaTextoRico::MostrarTexto() {
     version_ = caja_.Version();
     const EditorTextoRico& editor = caja_.SinTraer();
     Formatos formatos(texto_->palette().color(QPalette::Base));
@@ -369,6 +383,12 @@ void VistaTextoRico::Mostrar() {
     mostrado_ = editor.Documento();
     editado_ = false;
     MostrarSeleccion(editor);
+}
+
+int AnchoDeReglas() {
+    const QFontMetricsF letra(LetraDeReporte());
+    const double regla = kReglaAncha * letra.horizontalAdvance(QLatin1Char('-'));
+    return static_cast<int>(std::ceil(regla + 2 * (EnPixeles(kMargenReporte) + kMargen)));
 }
 
 std::unique_ptr<QTextDocument> DocumentoParaPapel(const TextoRico& texto) {

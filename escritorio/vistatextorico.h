@@ -41,14 +41,19 @@ class VistaTextoRico : public Vista {
     void Traer(EditorTextoRico& editor);
     void TraerSeleccion(EditorTextoRico& editor);
     void MostrarSeleccion(const EditorTextoRico& editor);
+    void MostrarTexto();
 
     RichTextBox& caja_;
     CajaTextoRico* texto_;
     TextoRico mostrado_;        ///< The text of the widget when it was last synchronised with the control.
     int version_ = -1;          ///< Version of the control's text that the widget shows.
+    int guardados_ = 0;         ///< How often the text had become that of a file.
     bool editado_ = false;      ///< The user has changed the widget's text since then.
     int inicio_ = 0, fin_ = 0;  ///< Selection of the widget at the last synchronisation.
 };
+
+/// Pixels that the widest rules of the reports take in a window, with the indents of a report.
+int AnchoDeReglas();
 
 /// The text laid out for paper: with its own colours, as wide as the page.
 std::unique_ptr<QTextDocument> DocumentoParaPapel(const TextoRico& texto);

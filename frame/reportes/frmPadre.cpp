@@ -41,7 +41,10 @@ frmDocumento::frmDocumento(Aplicacion& app, const std::string& caption) : Formul
 
 bool frmDocumento::EsNuevo() const { return Subtexto(Caption(), 0, 8) == "Document"; }
 
-void frmDocumento::AnotarGuardado() { guardado_ = EscribirRtf(rtfText.Leer().Documento(), ClaseRtf::kDocumento); }
+void frmDocumento::AnotarGuardado() {
+    guardado_ = EscribirRtf(rtfText.Leer().Documento(), ClaseRtf::kDocumento);
+    rtfText.AnotarGuardado();
+}
 
 bool frmDocumento::ConTrabajo() {
     const EditorTextoRico& texto = rtfText.Leer();

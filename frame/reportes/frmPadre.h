@@ -32,6 +32,9 @@ class frmPadre : public Formulario {
   public:
     explicit frmPadre(Aplicacion& app);
 
+    /// Width and height, in twips, of the window of a user who has chosen none.
+    static constexpr double kLargoPorOmision = 6500;
+
     CommonDialog dlgCommonDialog{*this, "dlgCommonDialog"};
     StatusBar sbStatusBar{*this, "sbStatusBar", 3};
     Menu mnuFile{*this, "mnuFile", "&Archivo"};

@@ -9,7 +9,6 @@ namespace cuencalia {
 
 namespace {
 
-constexpr int kMargenReporte = 200;  // twips
 constexpr int kIzquierda = 0;
 constexpr int kCentro = 2;
 

@@ -10,6 +10,8 @@
 
 namespace cuencalia {
 
+inline constexpr int kMargenReporte = 200;  ///< Twips left and right of the text of a report.
+
 /// Writes a module's report at the insertion point of a document. Numbers are written as the module's grids and boxes
 /// show them.
 class Reporte {

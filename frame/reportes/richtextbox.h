@@ -28,6 +28,13 @@ class RichTextBox : public Control {
     void AlConsultar(std::function<void(EditorTextoRico&)> traer) { traer_ = std::move(traer); }
     /// Increases with each change made by the program.
     int Version() const { return version_; }
+    /// The text is now that of a file.
+    void AnotarGuardado() {
+        ++guardados_;
+        Notificar();
+    }
+    /// Counts the calls of AnotarGuardado.
+    int Guardados() const { return guardados_; }
     /// The text without fetching the user's latest changes from the view.
     const EditorTextoRico& SinTraer() const { return editor_; }
 
@@ -37,6 +44,7 @@ class RichTextBox : public Control {
     EditorTextoRico editor_;
     std::function<void(EditorTextoRico&)> traer_;
     int version_ = 0;
+    int guardados_ = 0;
 };
 
 }  // namespace cuencalia

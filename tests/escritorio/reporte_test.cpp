@@ -130,23 +130,58 @@ TEST_F(Reportes, EachDocumentHasATabWithItsTitle) {
     Escribir("uno");
     Tecla(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(Fichas().tabText(1), "Documento 2");
+    Hacer([this] { Padre().ActiveForm()->Caption = "/año/serie[*].rtf"; });
+    EXPECT_EQ(Fichas().tabText(1), "/año/serie[*].rtf");
     EXPECT_TRUE(Editor().hasFocus());
     Clic(Fichas(), Fichas().tabRect(0).center());
     EXPECT_EQ(Texto(), "uno");
     EXPECT_TRUE(Editor().hasFocus());
-    Hacer([this] { Padre().ActiveForm()->Caption = "/año/serie[*].rtf"; });
-    EXPECT_EQ(Fichas().tabText(0), "/año/serie[*].rtf");
+    const QTemporaryDir carpeta;
+    vigia_.elegir = [&](QFileDialog&) { return carpeta.filePath("uno"); };
+    for (const bool guardado : {false, true, false}) {
+        EXPECT_EQ(Fichas().tabText(0).endsWith("*"), !guardado) << "a text that no file has is marked";
+        Volver("frmPadre");
+        guardado ? Escribir("x") : Tecla(Qt::Key_S, Qt::ControlModifier);
+    }
     Fichas().tabCloseRequested(1);
     QCoreApplication::processEvents();
-    EXPECT_EQ(Texto(), "uno");
+    EXPECT_EQ(Texto(), "unox");
+    Volver("frmPadre");
     Tecla(Qt::Key_W, Qt::ControlModifier);
     QCoreApplication::processEvents();
     EXPECT_TRUE(Padre().ActiveForm() == nullptr && Fichas().count() == 0);
     EXPECT_TRUE(vigia_.mensajes.empty()) << "text that was not saved goes without a question";
 }
 
+TEST_F(Reportes, TheBarFormatsUndoesAndFinds) {
+    const auto pulsar = [this](const char* boton) {
+        Ventana("frmPadre")->findChild<QAction*>(boton)->trigger();
+        return Caja().Leer().Documento().parrafos[0];
+    };
+    Informar("Media 2\nmedia 3");
+    Tecla(Qt::Key_Home, Qt::ControlModifier);
+    Tecla(Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_TRUE(pulsar("negrita").tramos[0].formato.negrita);
+    EXPECT_TRUE(pulsar("cursiva").tramos[0].formato.cursiva);
+    EXPECT_TRUE(pulsar("subrayado").tramos[0].formato.subrayado);
+    EXPECT_EQ(pulsar("derecha").formato.alineacion, Alineacion::kDerecha);
+    EXPECT_EQ(pulsar("centro").formato.alineacion, Alineacion::kCentrada);
+    EXPECT_EQ(pulsar("deshacer").formato.alineacion, Alineacion::kDerecha);
+    EXPECT_EQ(pulsar("rehacer").formato.alineacion, Alineacion::kCentrada);
+    Tecla(Qt::Key_F, Qt::ControlModifier);
+    Escribir("media");
+    for (const int donde : {8, 0, 8}) {  // from behind the first one, and round the end
+        Tecla(Qt::Key_Return);
+        EXPECT_EQ(Caja().Leer().SelStart(), donde);
+    }
+    Tecla(Qt::Key_Escape);
+    EXPECT_TRUE(Editor().hasFocus());
+}
+
 // 15 twips make a pixel.
 TEST_F(Reportes, TheWindowComesBackWhereItWas) {
+    Informar(std::string(145, '-') + "\n");
+    EXPECT_EQ(Editor().document()->begin().layout()->lineCount(), 1) << "as wide as the rules at first";
     const auto lugar = [this] { return QRect(Ventana("frmPadre")->pos(), Ventana("frmPadre")->size()); };
     for (const QRect& pedido : {lugar(), QRect(200, 100, 640, 480)}) {
         Ventana("frmPadre")->move(pedido.topLeft());
