@@ -187,6 +187,10 @@ TEST_F(Grafico, TheUserZoomsAndMovesAndComesBack) {
     QTest::mouseMove(&Lienzo(), centro + QPoint(60, 0));
     QTest::mouseRelease(&Lienzo(), Qt::LeftButton, Qt::NoModifier, centro + QPoint(60, 0));
     EXPECT_LT(X().lower, izquierda);
+    const QCPRange elegido = X();
+    Widget(F().btn1).setFocus();
+    Hacer([this] { Modelo().SetFocus(); });
+    EXPECT_EQ(X(), elegido) << "the part chosen stays when the focus moves";
     QTest::mouseDClick(&Lienzo(), Qt::LeftButton, Qt::NoModifier, centro);
     EXPECT_TRUE(X() == todoX && Y() == todoY);
     // Neither end of the zoom leads where the axes have no numbers: a step is a fifth.

@@ -1,7 +1,9 @@
 #include <QPrinterInfo>
 #include <new>
 
+#include "escritorio/manual.h"
 #include "frame/base/hojas.h"
+#include "shell/formas.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {
@@ -57,16 +59,20 @@ TEST_F(Mensajes, AnErrorIsToldWhereverItComesFrom) {
 
 TEST_F(Mensajes, AFileIsAskedFor) {
     const QTemporaryDir carpeta;
+    bool primero = true;  // the later dialogs open in the folder of the file chosen last
     QFile(carpeta.filePath("hay.x")).open(QIODevice::WriteOnly);
+    QFile(carpeta.filePath("otro.y.X")).open(QIODevice::WriteOnly);
     const std::tuple<ModoArchivo, std::string, const char*, const char*> casos[] = {
         {ModoArchivo::Guardar, "viejo.x", "nuevo", "nuevo.X"},
-        {ModoArchivo::Guardar, "", "nuevo.dat", "nuevo.dat"},
+        {ModoArchivo::Guardar, "", "nuevo.dat", "nuevo.dat.X"},
+        {ModoArchivo::Guardar, "", "nuevo.x", "nuevo.x"},
         {ModoArchivo::Abrir, "", "hay.x", "hay.x"}};
     for (const auto& [modo, propuesto, elegido, esperado] : casos) {
         vigia_.elegir = [&, modo = modo, &propuesto = propuesto, elegido = elegido](QFileDialog& dialogo) {
             EXPECT_EQ(dialogo.acceptMode() == QFileDialog::AcceptSave, modo == ModoArchivo::Guardar);
             EXPECT_EQ(dialogo.nameFilters(), QStringList({"Valores X (*.X)", "Todos (*.*)"}));
             EXPECT_EQ(dialogo.findChild<QLineEdit*>("fileNameEdit")->text(), Q(propuesto));
+            EXPECT_EQ(dialogo.directory() == QDir(carpeta.path()), std::exchange(primero, false) == false);
             return carpeta.filePath(elegido);
         };
         std::string nombre = propuesto;
@@ -75,7 +81,28 @@ TEST_F(Mensajes, AFileIsAskedFor) {
             EXPECT_EQ(nombre, Std(carpeta.filePath(esperado)));
         }
     }
-    EXPECT_EQ(vigia_.otrosDialogos.count("Serie"), 6);
+    EXPECT_EQ(vigia_.otrosDialogos.count("Serie"), 8);
+    std::string nombre = "no";
+    vigia_.elegir = [&](QFileDialog&) { return carpeta.filePath("otro.y"); };
+    escritorio_->ElegirArchivo(ModoArchivo::Guardar, "Serie", "Valores X|*.X", nombre);
+    EXPECT_TRUE(nombre == "no" && vigia_.mensajes.size() == 1) << "asked about the name with its extension";
+    vigia_.elegir = [&](QFileDialog& dialogo) {
+        EXPECT_EQ(dialogo.nameFilters().first(), "Libros de Excel (*.xlsx *.xls)");
+        return carpeta.filePath("hay.x");
+    };
+    escritorio_->ElegirArchivo(ModoArchivo::Abrir, "Hoja", "Nuevos|*.xlsx|Viejos|*.xls", nombre);
+}
+
+TEST_F(Mensajes, TheManualOpensAtTheWindowInFront) {
+    for (const auto& [nombre, hacer] : FormasDelPrograma()) {
+        const QUrl lugar = LugarDelManual(Q(escritorio_->CarpetaInstalacion() + "/ayuda"), Q(nombre));
+        EXPECT_EQ(lugar.fragment(), Q(nombre));
+    }
+    Abrir("frmParamEsta");
+    Tecla(Qt::Key_F1);
+    QFile salto(vigia_.abiertos.at(0).toLocalFile());
+    ASSERT_TRUE(salto.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(salto.readAll().contains("ayuda/estadistica.html#frmParamEsta\""));
 }
 
 TEST_F(Mensajes, SettingsClipboardAndFilesReachTheSystem) {

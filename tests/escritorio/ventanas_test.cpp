@@ -74,10 +74,11 @@ TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
     Abrir("frmacerc");
     EXPECT_EQ(Ventana("frmacerc"), ventana);
     EXPECT_FALSE(ventana->isMinimized());
-    Abrir("frmPrueba");
+    Tecla(Qt::Key_F6);
+    EXPECT_TRUE(QTest::qWaitFor([] { return Ventana()->isActiveWindow(); })) << "the list names it first";
     ventana->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return &Foco()->Forma() == &Forma("frmacerc"); }));
-    EXPECT_TRUE(ventana->close());
+    Tecla(Qt::Key_Escape);
     EXPECT_EQ(escritorio_->App().Cargada("frmacerc"), nullptr);
     // Unloaded inside a handler, the form lives to its end and may still change what nobody shows any more.
     Hacer([this] {
@@ -87,6 +88,39 @@ TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
         forma.txt1.Text = "9";
         forma.mnuUno.Enabled = false;
     });
+}
+
+TEST_F(Ventanas, TheyOpenInCascadeAndASmallScreenShowsThemByParts) {
+    Ventana()->move(50, 70);
+    Abrir("frmacerc");
+    EXPECT_EQ(Ventana("frmacerc")->pos(), QPoint(80, 100));
+    Ventana("frmacerc")->move(1900, 100);
+    Abrir("frmCalculadora");
+    EXPECT_EQ(Ventana("frmCalculadora")->pos(), QPoint(0, 0)) << "not over the border of the screen";
+    const QFont antes = QApplication::font();
+    QFont letra = antes;
+    letra.setPointSizeF(antes.pointSizeF() * 3);
+    QApplication::setFont(letra);
+    Abrir("frmDisNormal");
+    QApplication::setFont(antes);
+    const QWidget& todo = *Ventana("frmDisNormal")->findChild<QScrollArea*>()->widget();
+    EXPECT_GT(todo.height(), Ventana("frmDisNormal")->height());
+    EXPECT_GE(todo.height(), todo.minimumSizeHint().height());
+}
+
+TEST_F(Ventanas, WhatStandsBesideAChartKeepsItsSizeWithoutIt) {
+    Abrir("frmDistriFre");
+    Formulario& forma = Forma("frmDistriFre");
+    std::set<int> altos;
+    for (const bool visible : {true, false}) {
+        Hacer([&] {
+            forma.Controls("fraTipoGrafico")->Visible = true;
+            forma.Controls("Graph1")->Visible = visible;
+        });
+        QCoreApplication::processEvents();
+        altos.insert(Widget(*forma.Controls("fraTipoGrafico")).height());
+    }
+    EXPECT_EQ(altos.size(), 1U);
 }
 
 }  // namespace cuencalia::pruebas

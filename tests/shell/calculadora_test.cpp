@@ -191,7 +191,8 @@ TEST_F(CalculadoraTest, Portapapeles) {
 TEST_F(CalculadoraTest, Teclado) {
     for (const std::string& caso : Partes("49 50 57 48 → 1290.; 97 98 105 96 → 1290.; 54 8 55 → 7.; 51 190 53 → 3.5;"
                                           "51 110 53 → 3.5; 54 106 55 13 → 42.; 54 107 55 13 → 13.; 54 109 55 13 → -1.;"
-                                          "54 111 56 13 → 0.75; 54 65 108 187 32 55 → 67.")) {  // other keys do nothing
+                                          "54 111 56 13 → 0.75; 54 65 108 188 32 55 → 67.;"  // other keys do nothing
+                                          "54 107 55 187 → 13.; 54 107 27 55 13 → 7.")) {
         Marcar("C");
         std::istringstream codigos(caso);
         for (int codigo = 0; codigos >> codigo;) {
@@ -199,6 +200,11 @@ TEST_F(CalculadoraTest, Teclado) {
         }
         EXPECT_TRUE(caso.ends_with(kFlecha + Pantalla())) << caso << ", not " << Pantalla();
     }
+    app.PulsarTecla('C', 0, kControl);
+    app.PulsarTecla(kTeclaEscape, 0);
+    EXPECT_EQ(Pantalla() + sistema.portapapeles, ".07.");
+    app.PulsarTecla('V', 0, kControl);
+    EXPECT_EQ(Pantalla(), "7.");
     // Whatever was clicked, the keyboard goes on writing on the display.
     for (const std::string& tecla : Partes("7; ×; =; MS; MC; pi; ±; ←; CE; C")) {
         Marcar(tecla);
