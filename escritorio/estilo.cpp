@@ -103,7 +103,7 @@ QMdiArea QTabBar::tab { background: transparent; color: @tenue; border: none; bo
 QMdiArea QTabBar::tab:selected { color: @texto; border-bottom-color: @acento; }
 QMdiArea QTabBar::tab:hover { background: @luz; }
 QMenuBar { background: @base; border-bottom: 1px solid @linea; padding: 2px; }
-QMenuBar::item { padding: 5px 9px; border-radius: 4px; background: transparent; }
+QMenuBar::item { padding: 5px 8px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: @luz; }
 QLabel QToolButton, QToolBar QToolButton { border: 1px solid transparent; background: transparent; padding: 3px 5px; }
 QLabel QToolButton { padding: 0; }

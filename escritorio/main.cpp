@@ -4,6 +4,7 @@
 #include "escritorio/escritorio.h"
 #include "escritorio/estilo.h"
 #include "escritorio/programa.h"
+#include "escritorio/traduccion.h"
 #include "shell/formas.h"
 
 int main(int argc, char** argv) {
@@ -12,6 +13,8 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName(QStringLiteral("cuencalia"));
     QGuiApplication::setDesktopFileName(QStringLiteral("cuencalia"));
     QLocale::setDefault(QLocale(QLocale::Spanish));
+    cuencalia::TraduccionRestante restante;
+    QApplication::installTranslator(&restante);
     QTranslator espanol;
     if (espanol.load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(&espanol);

@@ -185,7 +185,8 @@ Ventana::Ventana(Escritorio& escritorio, Formulario& forma) : escritorio_(escrit
     const QSize pantalla = screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
     // A window with grids gets a minimum initial size that leaves room for them.
     const QSize deModulo = Tiene<FlexGrid>(forma) ? QSize(940, 720) : QSize(0, 0);
-    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : QSize(1000, 600);
+    const QSize deFondo(std::max(1000, menuBar()->sizeHint().width()), 600);
+    const QSize propio = lienzo->fondo.isEmpty() ? sizeHint().expandedTo(deModulo) : deFondo;
     Enrollar(pantalla);
     resize(propio.boundedTo(pantalla));
 }
