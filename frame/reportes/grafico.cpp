@@ -108,7 +108,15 @@ std::string GraficoModulo::TextoDe(const Label* rotulo) {
     return rotulo != nullptr && rotulo->Visible ? rotulo->Caption() : std::string();
 }
 
+void GraficoModulo::NombrarEjes(std::string x, std::string y) {
+    nombreX_ = std::move(x);
+    nombreY_ = std::move(y);
+}
+
 std::string GraficoModulo::RotuloY() const {
+    if (rotuloY_ == nullptr) {
+        return nombreY_;
+    }
     const std::string unidad = TextoDe(unidadY_);
     return unidad.empty() ? TextoDe(rotuloY_) : TextoDe(rotuloY_) + " " + unidad;
 }

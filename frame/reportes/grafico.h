@@ -83,7 +83,9 @@ class GraficoModulo : public Control {
     /// `unidadY` is what stands behind the name of y.
     void RotularEjes(Label& x, Label& y, Label* unidadY = nullptr);
     /// The texts for the axes of a copy: empty without a label, or with one that is hidden.
-    std::string RotuloX() const { return TextoDe(rotuloX_); }
+    /// Names the axes of a chart whose window has no labels for them: a copy of it has the names.
+    void NombrarEjes(std::string x, std::string y);
+    std::string RotuloX() const { return rotuloX_ == nullptr ? nombreX_ : TextoDe(rotuloX_); }
     std::string RotuloY() const;
     void MostrarRotulos(bool visibles);
 
@@ -104,6 +106,7 @@ class GraficoModulo : public Control {
     Label* rotuloX_ = nullptr;
     Label* rotuloY_ = nullptr;
     Label* unidadY_ = nullptr;
+    std::string nombreX_, nombreY_;
     int punto_ = 1, conjunto_ = 1;
     Lugar siguienteY_, siguienteX_;
     const GraficoModulo* par_ = nullptr;

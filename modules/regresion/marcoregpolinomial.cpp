@@ -21,6 +21,7 @@ MarcoRegPolinomial::MarcoRegPolinomial(Aplicacion& app, std::string nombre, Desc
     txtvxx1.Change.Conectar([this] { txtvyy.Text = ""; });
     bCalY.Click.Conectar([this] { bCalY_Click(); });
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
+    Graph1.NombrarEjes("X", "Y");
     Label6.Nombra(txtvxx1);
     Label7.Nombra(txtvyy);
 }

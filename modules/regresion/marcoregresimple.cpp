@@ -24,6 +24,7 @@ MarcoRegreSimple::MarcoRegreSimple(Aplicacion& app, std::string nombre, const st
     LeerEn({&x, &y});
     DeclararTablas({&grdecua});
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
+    Graph1.NombrarEjes("X", "Y");
 }
 
 void MarcoRegreSimple::LimpiarOtros() {

@@ -100,6 +100,8 @@ ModuloAR1::ModuloAR1(Aplicacion& app, std::string nombre, const std::string& tit
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     bCrearExcel.Click.Conectar([this] { bCrearExcel_Click(); });
     Graph1.CompartirEscala(Graph2);
+    Graph1.NombrarEjes("Año", "X");
+    Graph2.NombrarEjes("Año", "X");
     SSTab1.NombreAccesible = "Series y gráficos";
 }
 

@@ -223,6 +223,8 @@ TEST_F(Grafico, ItIsCopiedAndSavedAsShownDarkOnWhite) {
         QFile svg(elegir(4, nombre));
         return svg.open(QIODevice::ReadOnly) ? svg.readAll().count("Texto:") : -1;
     };
+    Modelo().NombrarEjes("Texto: x", "Texto: y");
+    EXPECT_EQ(rotulos("con nombres.svg"), 2);
     Hacer([this] { Modelo().RotularEjes(F().lbl1, F().lbl1); });
     EXPECT_EQ(rotulos("con.svg"), 2) << "the names of the axes, which stand beside it on the screen";
     Hacer([this] { F().lbl1.Visible = false; });
