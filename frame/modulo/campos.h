@@ -15,8 +15,8 @@ namespace cuencalia {
 struct DescripcionCampo {
     const char* nombre;
     const char* rotulo;
-    const char* unidad;                     ///< Beside the box; empty for a number without unit.
-    const char* enReporte;                  ///< What stands before the number in the report; empty: it is not reported.
+    const char* unidad = "";                ///< Beside the box; empty for a number without unit.
+    const char* enReporte = "";             ///< What stands before the number in the report; empty: it is not reported.
     const char* unidadEnReporte = nullptr;  ///< Null: as on the window.
 };
 

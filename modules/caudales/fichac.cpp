@@ -35,15 +35,15 @@ FichaC::Lista::Lista(Formulario& forma, const ListaSuelo& descripcion)
 
 FichaC::FichaC(MarcoModulo& modulo, const TablasDeC& tablas, FichaQ& destino)
     : fraDatosC(modulo, "fraDatosC", "Ingreso datos:"),
-      grupo(modulo, "txtgrupo", "Grupo N°:"),
-      area(modulo, "txtac", "Area (a):", "has"),
-      pendiente(modulo, "txts", "Pendiente", "%"),
+      grupo(modulo, {"txtgrupo", "Grupo N°:"}),
+      area(modulo, {"txtac", "Area (a):", "has"}),
+      pendiente(modulo, {"txts", "Pendiente", "%"}),
       bAgregar(modulo, "bAgregar", "Agregar", "Agregar el grupo a la tabla"),
       grdC(modulo, "grdC", "Grupos de la cuenca", TablaDeGrupos(tablas.encabezados)),
       fraResultadosC(modulo, "fraResultadosC", "Resultados:"),
       bCponderado(modulo, "bCponderado", "C ponderado", "Calcular el C ponderado y pasarlo al cálculo de Q"),
-      ponderado(modulo, "txtCponderado", "C ponderado:"),
-      total(modulo, "txtatotal", "Area total:", "has"),
+      ponderado(modulo, {"txtCponderado", "C ponderado:"}),
+      total(modulo, {"txtatotal", "Area total:", "has"}),
       modulo_(modulo),
       tablas_(tablas),
       destino_(destino) {

@@ -16,9 +16,9 @@ Aviso Falta(const char* que) {
 FichaQ::FichaQ(MarcoModulo& modulo, const FormulaCaudal& formula)
     : lblFormula(modulo, "lblFormula", formula.texto, Papel::Encabezado),
       fraDatosQ(modulo, "fraDatosQ", "Datos para calcular Q:"),
-      C(modulo, "txtcq", formula.rotuloC),
+      C(modulo, {"txtcq", formula.rotuloC}),
       A(modulo, "txtaq", formula.rotuloA, "has"),
-      I(modulo, "txtiq", "Intensidad máxima (I):", "mm/hr"),
+      I(modulo, {"txtiq", "Intensidad máxima (I):", "mm/hr"}),
       lblMensajeI(modulo, "lblMensajeI", "para una duración igual al tiempo de concentración y un período de retorno T",
                   Papel::Nota),
       lblPasos(modulo, "lblPasos",
@@ -26,12 +26,12 @@ FichaQ::FichaQ(MarcoModulo& modulo, const FormulaCaudal& formula)
                "aquí.",
                Papel::Nota),
       fraResultadoQ(modulo, "fraResultadoQ", "Resultado:"),
-      Qmax(modulo, "txtqmax", "Q máximo:", "m3/s"),
+      Qmax(modulo, {"txtqmax", "Q máximo:", "m3/s"}),
       formula_(formula) {
     if (formula.conPendiente) {
-        datos_.push_back(&S.emplace(modulo, "txtsp", "Pendiente cauce (S):", "o/oo"));
+        datos_.push_back(&S.emplace(modulo, DescripcionCampo{"txtsp", "Pendiente cauce (S):", "o/oo"}));
     }
-    std::vector<TextBox*> cajas;
+    std::vector<Control*> cajas;
     for (Campo* dato : datos_) {
         SoloNumero(dato->caja);
         cajas.push_back(&dato->caja);
