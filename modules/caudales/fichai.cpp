@@ -17,7 +17,7 @@ Aviso Falta(const char* que) { return {std::string("Ingresar un valor adecuado p
 FichaI::FichaI(ModuloCalculo& modulo, FichaQ& destino)
     : fraDatosI(modulo, "fraDatosI", "Datos:"),
       L(modulo, {"txtLi", "Distancia al punto más alejado (L):", "m"}),
-      H(modulo, "txtHi", "Desnivel (H):", "m"),
+      H(modulo, {"txtHi", "Desnivel (H):", "m"}),
       T(modulo, {"txtTi", "Período de retorno (T):", "años"}),
       fraDuracion(modulo, "fraDuracion", "La duración es conocida ?"),
       optDuracionAdiSi(modulo, "optDuracionAdiSi", "Sí"),
@@ -27,7 +27,7 @@ FichaI::FichaI(ModuloCalculo& modulo, FichaQ& destino)
       bcalcularI(modulo, "bcalcularI", "Calcular I", "Calcular la intensidad y pasarla al cálculo de Q"),
       fraResultadosI(modulo, "fraResultadosI", "Resultados:"),
       tc(modulo, {"txttci", "Tiempo de concentración ó duración (tc):", "min"}),
-      Imax(modulo, "txtImaxi", "Intensidad máxima (I):", "mm/hr"),
+      Imax(modulo, {"txtImaxi", "Intensidad máxima (I):", "mm/hr"}),
       modulo_(modulo),
       destino_(destino) {
     txtDuracionAdi.Visible = false;

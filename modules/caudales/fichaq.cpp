@@ -17,7 +17,7 @@ FichaQ::FichaQ(MarcoModulo& modulo, const FormulaCaudal& formula)
     : lblFormula(modulo, "lblFormula", formula.texto, Papel::Encabezado),
       fraDatosQ(modulo, "fraDatosQ", "Datos para calcular Q:"),
       C(modulo, {"txtcq", formula.rotuloC}),
-      A(modulo, "txtaq", formula.rotuloA, "has"),
+      A(modulo, {"txtaq", formula.rotuloA, "has"}),
       I(modulo, {"txtiq", "Intensidad máxima (I):", "mm/hr"}),
       lblMensajeI(modulo, "lblMensajeI", "para una duración igual al tiempo de concentración y un período de retorno T",
                   Papel::Nota),

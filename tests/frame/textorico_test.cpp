@@ -169,7 +169,7 @@ TEST(EditorTextoRico, NoAbreLoQueTardaria) {
     EditorTextoRico editor;
     editor.SelText("lo de antes");
     for (const auto& caso : casos) {
-        const auto& contenido = caso.first;
+        const std::string &contenido = caso.first, &causa = caso.second;
         const std::string ruta = pruebas::Guardar(carpeta / "x.rtf", contenido);
         try {
             editor.LoadFile(ruta);
