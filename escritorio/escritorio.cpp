@@ -176,6 +176,7 @@ void Escritorio::DescargarForma(Formulario& forma) {
     ventana->Soltar();
     // In a window that the user closes, close() does nothing more: hidden here, its grids are laid out for the last
     // time while the form is still there.
+    ventana->Marco()->setEnabled(false);  // no key reaches it any more
     ventana->Marco()->hide();
     ventana->Marco()->close();
     ventana->Marco()->deleteLater();
