@@ -10,7 +10,7 @@ struct Tormenta {
     Serie Pacum;  ///< Rain to the end of the interval, mm.
     Serie I;      ///< Mean intensity of the interval, mm/hr.
     Single Imax;  ///< The greatest of them; 0 when none is above 0.
-    Single Dmax;  ///< Length of its interval, minutes; of equal intensities that of the first.
+    Single Dmax;  ///< Length of its interval, minutes; of intensities equal as Singles that of the first.
 };
 
 /// The storm of n intervals of Tpar(i) minutes and Ppar(i) mm each: I = 60·Ppar/Tpar. Error 9 for more than 1500
