@@ -5,6 +5,13 @@
 
 namespace cuencalia {
 
+namespace {
+
+/// The gamma function is worked out at 10 more, and by L-moments at half more still.
+constexpr Double kFormaMaxima = 161.12;
+
+}  // namespace
+
 AjustePearson3::AjustePearson3(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion,
                                const DistribucionPearson3& distribucion, const char* enVeredicto)
     : MarcoAjuste(app, std::move(nombre), std::move(descripcion)),
@@ -49,6 +56,11 @@ void AjustePearson3::Ajustar() {
     llenar(malLin, lin.gamma, Ylin, Glin);
     ordinarios = ord;
     lineales = lin;
+    linealesConSigno_ = lin;
+    if (l.L3 < 0) {
+        linealesConSigno_.beta = -lin.beta;
+        linealesConSigno_.x0 = l.L1 + lin.beta * lin.gamma;
+    }
     paramMalOrd = malOrd;
     paramMalLin = malLin;
 }
@@ -69,6 +81,34 @@ bool AjustePearson3::PuedeEvaluar() {
         return false;
     }
     return true;
+}
+
+DistribucionExacta AjustePearson3::Exacta() const {
+    return distribucion_.Exacta(Ordinario() ? ordinarios : linealesConSigno_);
+}
+
+std::string AjustePearson3::CausaDeDiferencia() const {
+    return !Ordinario() && linealesConSigno_.beta < 0
+               ? "asimetría negativa: los momentos lineales ajustan la distribución invertida"
+               : "";
+}
+
+std::string AjustePearson3::Consejo(const ErrorEjecucion& error) const {
+    if (error.Numero() == kDesbordamiento && n >= 4) {
+        try {
+            Serie v;
+            for (int i = 1; i <= n; ++i) {
+                v(i) = distribucion_.Variable(xo(i));
+            }
+            const MomentosLineales l = CalcularMomentosLineales(v, n);
+            const Double Cs = ParametrosMuestrales(v, n).Cs;
+            if (4 / (Cs * Cs) > kFormaMaxima || FormaPearson3(Abs(l.L3 / l.L2)) > kFormaMaxima) {
+                return "La serie es casi simétrica: su forma pasa de 161, lo más que admite la función gamma";
+            }
+        } catch (const ErrorEjecucion&) {  // Values of which not even that can be said.
+        }
+    }
+    return MarcoAjuste::Consejo(error);
 }
 
 Double AjustePearson3::Cuantil(Double p) { return distribucion_.Cuantil(Elegidos(), p, n); }

@@ -27,6 +27,9 @@ class AjustePearson3 : public MarcoAjuste {
     void Ajustar() override;
     void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel) override;
     bool PuedeEvaluar() override;
+    DistribucionExacta Exacta() const override;
+    std::string CausaDeDiferencia() const override;
+    std::string Consejo(const ErrorEjecucion& error) const override;
     Double Cuantil(Double p) override;
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
 
@@ -39,6 +42,8 @@ class AjustePearson3 : public MarcoAjuste {
 
     const DistribucionPearson3& distribucion_;
     const char* enVeredicto_;
+    /// With beta and x0 as the sign of tau asks for, which `lineales` leaves out.
+    Pearson3 linealesConSigno_;
 };
 
 }  // namespace cuencalia

@@ -18,6 +18,10 @@ class AjustePosicionEscala : public MarcoAjuste {
 
     bool AdmiteSerie() override;
     void Ajustar() override;
+    std::optional<Double> Delta5() const override {
+        return DeltaConParametrosAjustados(distribucion_.exacta, !Ordinario(), n);
+    }
+    DistribucionExacta Exacta() const override { return distribucion_.Exacta(Elegidos()); }
     Double Cuantil(Double p) override { return distribucion_.Cuantil(Elegidos(), p); }
     std::optional<Double> Probabilidad(Double Q, Evaluacion) override {
         return distribucion_.Probabilidad(Elegidos(), Q);

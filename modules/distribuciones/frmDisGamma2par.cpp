@@ -27,6 +27,7 @@ void frmDisGamma2par::Ajustar() {
     ProbabilidadesGamma(lin.gamma, Ylin, Glin, n);
     ordinarios = ord;
     lineales = lin;
+    linealesExactos_ = Gamma2PorMomentosLineales(l.L1, l.L2, kPi);
 }
 
 bool frmDisGamma2par::AdmiteParametros() {
@@ -43,6 +44,12 @@ bool frmDisGamma2par::AdmiteParametros() {
         return false;
     }
     return true;
+}
+
+std::string frmDisGamma2par::CausaDeDiferencia() const {
+    return !Ordinario() && lineales.gamma != linealesExactos_.gamma
+               ? "L2/L1 menor que 0.5: la forma por momentos lineales es cerca de la mitad de la debida"
+               : "";
 }
 
 }  // namespace cuencalia

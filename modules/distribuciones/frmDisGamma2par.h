@@ -19,11 +19,15 @@ class frmDisGamma2par : public MarcoAjuste {
   protected:
     void Ajustar() override;
     bool AdmiteParametros() override;
+    DistribucionExacta Exacta() const override { return Ordinario() ? ordinarios.Exacta() : linealesExactos_.Exacta(); }
+    std::string CausaDeDiferencia() const override;
     Double Cuantil(Double p) override { return Elegidos().Cuantil(p, n); }
     std::optional<Double> Probabilidad(Double Q, Evaluacion) override { return Elegidos().Probabilidad(Q); }
 
   private:
     const Gamma2& Elegidos() const { return Ordinario() ? ordinarios : lineales; }
+
+    Gamma2 linealesExactos_;  ///< The shape of `lineales` by the published formula.
 };
 
 }  // namespace cuencalia

@@ -19,6 +19,7 @@ class frmDisLogNormal3 : public MarcoAjuste {
   protected:
     bool AdmiteDatos() override;
     void Ajustar() override;
+    DistribucionExacta Exacta() const override { return distribucion.Exacta(); }
     Double Cuantil(Double p) override { return distribucion.Cuantil(p); }
     std::optional<Double> Probabilidad(Double Q, Evaluacion evaluacion) override;
     std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const override { return {Yord, Gord}; }

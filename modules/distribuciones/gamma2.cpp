@@ -24,7 +24,7 @@ Gamma2 Gamma2PorVerosimilitud(Double m, Double ml) {
     return {gamma, m / gamma};
 }
 
-Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2) {
+Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2, Double factor) {
     if (L1 <= L2 || L2 <= 0) {
         return {0, 0};
     }
@@ -34,7 +34,7 @@ Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2) {
         const Double z = 1 - t;
         gamma = z * (0.7213 + z * -0.5947) / (1 + z * (-2.1817 + z * 1.2113));
     } else {
-        const Double z = 6 * t * t;
+        const Double z = factor * t * t;
         gamma = (1 + -0.308 * z) / (z * (1 + z * (-0.05812 + z * 0.01765)));
     }
     return {gamma, L1 / gamma};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/numeros.h"
+#include "modules/distribuciones/exacta.h"
 
 namespace cuencalia {
 
@@ -15,6 +15,9 @@ struct Gamma2 {
     Double Probabilidad(Double x) const;
     /// The x of a non-exceedance probability, 0 < p < 1, by CuantilGamma; n is its number of rounds.
     Double Cuantil(Double p, int& n) const;
+    DistribucionExacta Exacta() const {
+        return {.reducida = DistribucionExacta::Reducida::Gamma, .posicion = 0, .escala = beta, .forma = gamma};
+    }
 };
 
 /// Mean of the natural logarithms of x(1) to x(n); error 5 for a value that is not above 0.
@@ -28,10 +31,10 @@ Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n);
 Gamma2 Gamma2PorVerosimilitud(Double m, Double ml);
 
 /// Parameters by the first two L-moments; both 0 when no gamma distribution has these (L2 <= 0 or L2 >= L1).
-/// There is a formula for t = L2/L1 below 0.5 and another one from 0.5 on. The first one uses 6·t² where the source has
-/// pi·t²: it gives shapes of 0.52 (t = 0.1) to 0.38 (t = 0.5) times those of the source, whose own error is less than
-/// 1e-5. The error of the other formula is less than 7e-5.
+/// There is a formula for t = L2/L1 below 0.5 and another one from 0.5 on. The first one uses factor·t²: the source has
+/// pi there, and its error is less than 1e-5. With 6, by which the window of this distribution fits, the shapes are
+/// 0.52 (t = 0.1) to 0.38 (t = 0.5) times those of the source. The error of the other formula is less than 7e-5.
 /// Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1), 105-124, table 2.
-Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2);
+Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2, Double factor = 6);
 
 }  // namespace cuencalia

@@ -19,6 +19,7 @@ constinit const DistribucionPosicionEscala kGumbel{
     .porMomentos = [](Double media, Double desviacion) { return ConEscala(media, Sqr(6) * desviacion / kPi); },
     .porMomentosLineales = [](Double L1, Double L2) { return ConEscala(L1, L2 / Log(2)); },
     .acumulada = FuncionGumbel,
-    .cuantil = InversaGumbel};
+    .cuantil = InversaGumbel,
+    .exacta = DistribucionExacta::Reducida::Gumbel};
 
 }  // namespace cuencalia

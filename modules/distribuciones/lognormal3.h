@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/numeros.h"
+#include "modules/distribuciones/exacta.h"
 
 namespace cuencalia {
 
@@ -15,6 +15,13 @@ struct LogNormal3 {
     Double Probabilidad(Double x) const;
     /// The x of a non-exceedance probability, 0 < p < 1.
     Double Cuantil(Double p) const;
+    DistribucionExacta Exacta() const {
+        return {.reducida = DistribucionExacta::Reducida::Normal,
+                .deLogaritmos = true,
+                .posicion = uy,
+                .escala = sy,
+                .umbral = x0};
+    }
 };
 
 /// Fits x(1) to x(n), in ascending order, by the quantile method: x0 makes the logarithms of least value, median and

@@ -8,10 +8,22 @@ namespace cuencalia {
 namespace {
 
 constexpr int kFilasTabla = 500;
+constexpr int kRondasGamma = 1200;  // Gammainversa counts one more when it ends without having settled
 constexpr const char* kPatronParametro = "#####0.0###";
 constexpr const char* kPatronProbabilidad = "#####0.0##0";
 constexpr const char* kAjusteEnReposo = "Ajuste:";
 constexpr const char* kTituloAviso = "Mensaje de Error";
+constexpr const char* kPatronCaudal = "#####0.#0";
+
+constexpr Double kToleranciaAviso = 0.01;
+constexpr Double kPeriodoDeLaTolerancia = 20000;  // 1/T below the tolerance of Gammainversa from here on
+constexpr int kVecesLaSerie = 4;  // a return period so many times the series is told to be far beyond it
+
+/// With the typographic minus sign, as a hyphen is easily overlooked.
+std::string Porcentaje(Double fraccion) {
+    const std::string cifras = Format(Abs(fraccion) * 100, "0.00");
+    return (fraccion < 0 && cifras != "0.00" ? "−" : "") + cifras + " %";
+}
 
 }  // namespace
 
@@ -33,7 +45,10 @@ TipoDeAjuste::TipoDeAjuste(Formulario& forma, const DescripcionAjuste& descripci
 
 MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste descripcion)
     : ModuloCalculo(app, std::move(nombre),
-                    {.titulo = descripcion.titulo, .datos = {.encabezados = {"N°", "X"}}, .archivo = &kArchivoX}),
+                    {.titulo = descripcion.titulo,
+                     .datos = {.encabezados = {"N°", "X"}},
+                     .archivo = &kArchivoX,
+                     .filasMax = kFilasTabla - 1}),
       fraParametros(*this, "fraParametros", descripcion.marcoParametros),
       grddis(*this, "grddis", "Prueba de Smirnov-Kolmogorov",
              {.filas = kFilasTabla,
@@ -78,6 +93,8 @@ void MarcoAjuste::DeclararParametros(Campos ordinarios, Campos lineales) {
 void MarcoAjuste::LimpiarOtros() {
     calculado = false;
     lblmensaje.Caption = "";
+    lblDelta5.Caption = "";
+    advertencia_.clear();
     lblAjuste.Caption = kAjusteEnReposo;
     Graph1.LimpiarGrafico();
 }
@@ -115,6 +132,9 @@ void MarcoAjuste::Calcular() {
         MostrarParametros();
     }
     EscribirVeredicto(deltaTeorico, DeltaTabular(Nivel(), n), Nivel().texto);
+    MostrarDelta5();
+    datosAjustados_ = n;
+    advertencia_.clear();
     calculado = true;
 }
 
@@ -173,7 +193,16 @@ void MarcoAjuste::bQ_Click() {
         return;
     }
     const Double T = Val(txtxt.Text());
-    txtxq.Text = Format(Cuantil(1 - 1 / T), "#####0.#0");
+    if (T <= 1) {
+        // Some of the approximations answer all the same, others end here with an error.
+        Decir(txtxt, "El período de retorno debe ser mayor que 1 año");
+    }
+    const Double Q = Cuantil(1 - 1 / T);
+    txtxq.Text = Format(Q, kPatronCaudal);
+    if (T > 1) {
+        Comprobar(
+            txtxt, txtxq, Q, [&] { return Exacta().Cuantil(1 - 1 / T); }, kPatronCaudal, T);
+    }
 }
 
 void MarcoAjuste::bT_Click() {
@@ -181,8 +210,66 @@ void MarcoAjuste::bT_Click() {
         return;
     }
     if (const auto G = Probabilidad(Val(txtxq.Text()), Evaluacion::PeriodoRetorno)) {
-        txtxt.Text = Format(1 / (1 - *G), ajuste_.patronT);
+        const Double T = 1 / (1 - *G);
+        txtxt.Text = Format(T, ajuste_.patronT);
+        Comprobar(
+            txtxq, txtxt, T, [&] { return 1 / Exacta().Excedencia(Val(txtxq.Text())); }, ajuste_.patronT, T);
     }
+}
+
+void MarcoAjuste::Decir(const TextBox& entrada, const std::string& texto) {
+    const std::string lectura = AvisoDeLectura(entrada.Text);
+    StatusBar1.PonerPanel(kPanelAvisos, lectura.empty() ? texto : lectura + " · " + texto);
+}
+
+std::string MarcoAjuste::Causa(Double T) const {
+    if (const std::string causa = CausaDeDiferencia(); !causa.empty()) {
+        return causa;
+    }
+    if (n > kRondasGamma && n > datosAjustados_) {
+        return "la búsqueda terminó sin asentarse";
+    }
+    return T > kPeriodoDeLaTolerancia ? "T mayor que 20000 está fuera del alcance de la aproximación"
+                                      : "error de la aproximación";
+}
+
+void MarcoAjuste::Comprobar(const TextBox& entrada, const TextBox& caja, Double valor,
+                            const std::function<Double()>& exacto, const char* patron, Double T) {
+    Double diferencia;
+    std::string valorExacto;
+    try {
+        const Double correcto = exacto();
+        valorExacto = Format(correcto, patron);
+        // Equal figures may have a great relative difference where they are all 0.
+        diferencia = valorExacto == caja.Text() || correcto == 0 ? Double(0) : (valor - correcto) / Abs(correcto);
+    } catch (const ErrorEjecucion&) {
+        Decir(entrada, "El valor exacto no existe para estos parámetros");
+        return;
+    }
+    const bool sinAsentar = n > kRondasGamma && n > datosAjustados_;
+    const bool advierte = Abs(diferencia) > kToleranciaAviso || sinAsentar;
+    std::string texto = (advierte ? "Atención: valor exacto " : "Comprobado: valor exacto ") + valorExacto +
+                        ", diferencia " + Porcentaje(diferencia);
+    if (advierte) {
+        texto += " (" + Causa(T) + ")";
+    }
+    if (&caja != &txtxp) {
+        advertencia_ = advierte ? texto : "";
+        advertidaT_ = txtxt.Text;
+        advertidaQ_ = txtxq.Text;
+    }
+    if (T > kVecesLaSerie * datosAjustados_) {
+        texto += "; T es más de " + std::to_string(kVecesLaSerie) + " veces la longitud de la serie";
+    }
+    Decir(entrada, texto);
+}
+
+void MarcoAjuste::MostrarDelta5() {
+    const auto delta = Delta5();
+    lblDelta5.Caption = delta ? "Los parámetros salen de la misma serie: de una distribución verdadera, el 5 % de las "
+                                "series pasa de un delta de " +
+                                    Format(*delta, "0.000")
+                              : "";
 }
 
 void MarcoAjuste::bPmayor_Click() { EvaluarProbabilidad(Evaluacion::Excedencia, ajuste_.avisoPmayor); }
@@ -196,6 +283,13 @@ void MarcoAjuste::EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitu
     if (const auto G = Probabilidad(Val(txtxq.Text()), evaluacion)) {
         const Double P = evaluacion == Evaluacion::Excedencia ? 1 - *G : *G;
         txtxp.Text = Format(P * 100, ajuste_.patronP);
+        Comprobar(
+            txtxq, txtxp, P * 100,
+            [&] {
+                const Double Q = Val(txtxq.Text());
+                return 100 * (evaluacion == Evaluacion::Excedencia ? Exacta().Excedencia(Q) : Exacta().NoExcedencia(Q));
+            },
+            ajuste_.patronP, 0);
     }
 }
 
@@ -281,6 +375,9 @@ void MarcoAjuste::GenerarReporte(Reporte& reporte) {
     reporte.LineaDeGuiones(kReglaDiseno);
     reporte.ReporteLinea("El caudal de diseño para un periodo de retorno de " + txtxt.Text() + " años, es " +
                          txtxq.Text());
+    if (!advertencia_.empty() && txtxt.Text() == advertidaT_ && txtxq.Text() == advertidaQ_) {
+        reporte.ReporteLinea(advertencia_);
+    }
 }
 
 Disposicion MarcoAjuste::ZonaParametros() {
@@ -314,7 +411,7 @@ Disposicion MarcoAjuste::Contenido() {
     }
     arriba.push_back(Grupo(fraNivel, {Pares(2, {opt020, opt010, opt005, opt001})}));
     arriba.push_back(ZonaParametros().Estira(1));
-    Disposicion prueba = Columna({Disposicion(grddis).Estira(1), lblAjuste, lblmensaje});
+    Disposicion prueba = Columna({Disposicion(grddis).Estira(1), lblAjuste, lblmensaje, lblDelta5});
     Disposicion evaluacion = Columna({ZonaDiseno(), Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1),
                                       Fila({Espacio(), lblEjeX}), Espacio(0)});
     return Columna({Fila(std::move(arriba)), Fila({std::move(prueba), std::move(evaluacion).Estira(1)}).Estira(1)});

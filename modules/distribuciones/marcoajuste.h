@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "frame/modulo/modulocalculo.h"
 #include "frame/reportes/grafico.h"
+#include "modules/distribuciones/exacta.h"
 #include "modules/distribuciones/smirnovkolmogorov.h"
 
 namespace cuencalia {
@@ -78,6 +80,8 @@ class MarcoAjuste : public ModuloCalculo {
     Tabla grddis;
     Label lblAjuste{*this, "lblAjuste", "Ajuste:", Papel::Encabezado};
     Label lblmensaje{*this, "lblmensaje", {}, Papel::Resultado};
+    Label lblDelta5{*this,
+                    "lblDelta5"};  ///< What the verdict is worth, for the parameters come from the series itself.
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
     Label lblEjeY{*this, "lblEjeY", "Probabilidad de no excedencia"}, lblEjeX{*this, "lblEjeX", "X"};
     GraficoModulo Graph1{*this, "Graph1", "Probabilidades empíricas y teóricas"};
@@ -114,6 +118,9 @@ class MarcoAjuste : public ModuloCalculo {
 
     /// Returns whether the values in x can be fitted at all; when not, tells the user why.
     virtual bool AdmiteDatos() { return true; }
+    /// The difference that 5 % of the series of a true distribution exceed, when the parameters come from the same
+    /// series; nothing where it depends on more than n.
+    virtual std::optional<Double> Delta5() const { return std::nullopt; }
     /// As AdmiteDatos, for conditions on the sorted series in xo.
     virtual bool AdmiteSerie() { return true; }
     /// Calculates parameters, reduced variables and theoretical probabilities of xo(1) to xo(n); an error ends the
@@ -123,6 +130,10 @@ class MarcoAjuste : public ModuloCalculo {
     virtual bool AdmiteParametros() { return true; }
     /// Returns whether the chosen parameters can be evaluated; when not, tells the user why.
     virtual bool PuedeEvaluar() { return true; }
+    /// The distribution that the chosen method fits to the series, as its source defines it.
+    virtual DistribucionExacta Exacta() const = 0;
+    /// Why the chosen parameters are not those of Exacta; empty when they are.
+    virtual std::string CausaDeDiferencia() const { return {}; }
     /// The discharge with that non-exceedance probability, by the chosen parameters.
     virtual Double Cuantil(Double p) = 0;
     /// Non-exceedance probability of a discharge by the chosen parameters; nothing when it does not exist, after
@@ -142,6 +153,13 @@ class MarcoAjuste : public ModuloCalculo {
     const NivelSignificacion& Nivel() const;
     /// Returns whether there is a fit and a value at which to evaluate it; when not, tells the user what is missing.
     bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
+    /// Says in the status bar how far the value that `caja` now shows is from the exact one; a warning is kept for the
+    /// report. `T` is the return period in question.
+    void Comprobar(const TextBox& entrada, const TextBox& caja, Double valor, const std::function<Double()>& exacto,
+                   const char* patron, Double T);
+    void Decir(const TextBox& entrada, const std::string& texto);
+    std::string Causa(Double T) const;
+    void MostrarDelta5();
     void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
     void ReportarTabla(Reporte& reporte);
     void ReportarParametros(Reporte& reporte) const;
@@ -150,6 +168,9 @@ class MarcoAjuste : public ModuloCalculo {
 
     DescripcionAjuste ajuste_;
     Campos ordinarios_, lineales_;
+    int datosAjustados_ = 0;  ///< The n of the last fit.
+    /// A warning about the design discharge, and the contents of the boxes to which it belongs.
+    std::string advertencia_, advertidaT_, advertidaQ_;
 };
 
 }  // namespace cuencalia

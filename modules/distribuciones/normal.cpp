@@ -28,6 +28,7 @@ constinit const DistribucionPosicionEscala kNormal{.deLogaritmos = false,
                                                            return PosicionEscala{L1, Sqr(kPi) * L2};
                                                        },
                                                    .acumulada = FuncionNormal,
-                                                   .cuantil = InversaNormal};
+                                                   .cuantil = InversaNormal,
+                                                   .exacta = DistribucionExacta::Reducida::Normal};
 
 }  // namespace cuencalia

@@ -4,10 +4,7 @@
 
 namespace cuencalia {
 
-namespace {
-
-/// The shape as a function of |tau|, by one formula for small and one for great skewness.
-Double Forma(Double tauAbs) {
+Double FormaPearson3(Double tauAbs) {
     if (tauAbs >= Double(1) / 3) {
         const Double z = 1 - tauAbs;
         return z * (0.36067 + z * (-0.59567 + z * 0.25361)) / (1 + z * (-2.78861 + z * (2.56096 + z * -0.77045)));
@@ -15,9 +12,6 @@ Double Forma(Double tauAbs) {
     const Double z = 3 * kPi * tauAbs * tauAbs;
     return (1 + 0.2906 * z) / (z * (1 + z * (0.1882 + z * 0.0442)));
 }
-
-}  // namespace
-
 Pearson3 Pearson3PorMomentos(Double m, Double s, Double Cs) { return {4 / (Cs * Cs), Cs * s / 2, m - 2 * s / Cs}; }
 
 std::optional<Pearson3> Pearson3PorMomentosLineales(Double l1, Double l2, Double tau) {
@@ -26,7 +20,7 @@ std::optional<Pearson3> Pearson3PorMomentosLineales(Double l1, Double l2, Double
         return std::nullopt;
     }
     Pearson3 d;
-    d.gamma = Forma(tauAbs);
+    d.gamma = FormaPearson3(tauAbs);
     Double media = d.gamma + 0.5;
     Double g, g_media;
     gammacompleta(d.gamma, g);

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "frame/base/numeros.h"
+#include "modules/distribuciones/exacta.h"
 
 namespace cuencalia {
 
@@ -16,6 +16,10 @@ struct Pearson3 {
 /// beta negative: the values then lie below x0, and the gamma function no longer gives the probability.
 /// Source: Kite, G. W. (1977), Frequency and Risk Analyses in Hydrology, Water Resources Publications, Fort Collins.
 Pearson3 Pearson3PorMomentos(Double m, Double s, Double Cs);
+
+/// The shape of the distribution that has this |tau| = |L3/L2|, 0 < |tau| < 1. Relative error below 5e-5.
+/// Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1), 105-124, table 2.
+Double FormaPearson3(Double tauAbs);
 
 /// Parameters by the first three L-moments; nothing when no distribution has these L-moments (l2 <= 0 or |tau| >= 1,
 /// with tau = l3/l2). The sign of tau is not used: a negative skewness gives the same parameters as the positive one.
@@ -32,6 +36,14 @@ struct DistribucionPearson3 {
     Double Variable(Double x) const { return deLogaritmos ? Log(x) : x; }
     /// y = (v - x0) / beta. Errors: 11 or 6 for beta = 0.
     Double Reducida(const Pearson3& d, Double x) const { return (Variable(x) - d.x0) / d.beta; }
+    /// Also for a negative beta, whose distribution has its end above.
+    DistribucionExacta Exacta(const Pearson3& d) const {
+        return {.reducida = DistribucionExacta::Reducida::Gamma,
+                .deLogaritmos = deLogaritmos,
+                .posicion = d.x0,
+                .escala = d.beta,
+                .forma = d.gamma};
+    }
     /// The x of a non-exceedance probability, 0 < p < 1, by CuantilGamma; n is its number of rounds.
     Double Cuantil(const Pearson3& d, Double p, int& n) const;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/numeros.h"
+#include "modules/distribuciones/exacta.h"
 
 namespace cuencalia {
 
@@ -21,7 +21,14 @@ struct DistribucionPosicionEscala {
     Double (*acumulada)(Double y);
     /// The y of a non-exceedance probability, 0 < p < 1.
     Double (*cuantil)(Double p);
+    DistribucionExacta::Reducida exacta;  ///< The distribution that these two functions stand for.
 
+    DistribucionExacta Exacta(PosicionEscala parametros) const {
+        return {.reducida = exacta,
+                .deLogaritmos = deLogaritmos,
+                .posicion = parametros.posicion,
+                .escala = parametros.escala};
+    }
     /// y = (v - posicion) / escala. Errors: 11 or 6 for a scale of 0; in distributions of logarithms, 5 for x <= 0.
     Double Reducida(PosicionEscala parametros, Double x) const {
         const Double v = deLogaritmos ? Log(x) : x;

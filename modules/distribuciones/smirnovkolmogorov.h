@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/numeros.h"
+#include "modules/distribuciones/exacta.h"
 
 namespace cuencalia {
 
@@ -29,5 +29,11 @@ Double MayorDelta(const ArregloBase<Double>& delta, int n);
 /// thirds of this result (docs/numerics.md).
 /// Source: Massey, F. J. (1951), The Kolmogorov-Smirnov test for goodness of fit, J. Am. Stat. Assoc. 46(253), 68-78.
 inline Double DeltaTabular(const NivelSignificacion& nivel, int n) { return nivel.c / Sqr(n); }
+
+/// The greatest difference that 5 % of the series of n values exceed that come from the normal or the Gumbel
+/// distribution (or whose logarithms do) when mean and deviation, or the L-moments, of the series itself are its
+/// parameters: simulated at 13 lengths from 4 to 499 with 200 000 series each, good to 0.3 %, and between them by
+/// interpolation. Beyond, the value of the nearest length with the root of n.
+Double DeltaConParametrosAjustados(DistribucionExacta::Reducida reducida, bool lineales, int n);
 
 }  // namespace cuencalia

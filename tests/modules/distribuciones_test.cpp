@@ -5,6 +5,7 @@
 #include <boost/math/special_functions/gamma.hpp>
 #include <functional>
 
+#include "modules/distribuciones/exacta.h"
 #include "modules/distribuciones/gamma.h"
 #include "modules/distribuciones/gamma2.h"
 #include "modules/distribuciones/gamma3.h"
@@ -127,6 +128,40 @@ TEST(GammaInversa, CuentaDeRondas) {
     EXPECT_LE(rondas(54, 0.5), 1200);
     EXPECT_EQ(rondas(60, 0.5), 1201);
     EXPECT_GT(std::fabs(std::get<0>(Invertir(60, 0.5)) - 0.5), 5e-5);
+}
+
+// By mpmath 1.3 with 30 digits. The first is Pearson III with mean 100, deviation 30 and skew -0.9: shape 4/0.81, scale
+// -13.5, end 100 + 60/0.9.
+TEST(Exacta, CuantilesYColas) {
+    using Reducida = DistribucionExacta::Reducida;
+    const DistribucionExacta invertida{
+        .reducida = Reducida::Gamma, .posicion = 100 + 60 / 0.9, .escala = -13.5, .forma = 4 / 0.81};
+    const DistribucionExacta grande{.reducida = Reducida::Gamma, .posicion = 0, .escala = 1, .forma = 10000};
+    const DistribucionExacta chica{.reducida = Reducida::Gamma, .posicion = 0, .escala = 1, .forma = 0.3};
+    const DistribucionExacta normal{.reducida = Reducida::Normal, .posicion = 3, .escala = 2};
+    struct Caso {
+        const DistribucionExacta& d;
+        double p, x;
+    };
+    for (const Caso& c : {Caso{invertida, 0.01, 11.279617488659889}, Caso{invertida, 0.5, 104.44196421572225},
+                          Caso{invertida, 0.99, 149.80025898860369}, Caso{grande, 0.001, 9693.8243858237259},
+                          Caso{grande, 0.999, 10311.875224539538}, Caso{chica, 0.1, 3.2372462182343277e-4},
+                          Caso{chica, 0.999, 4.6189360427913343}, Caso{normal, 0.99, 3 + 2 * 2.3263478740408411}}) {
+        EXPECT_NEAR(c.d.Cuantil(c.p).valor() / c.x, 1, 2e-14) << c.x;
+        EXPECT_NEAR(c.d.NoExcedencia(c.x).valor(), c.p, 2e-13) << c.x;
+        EXPECT_NEAR(c.d.Excedencia(c.x).valor() / (1 - c.p), 1, 1e-10) << c.x;
+    }
+    EXPECT_NEAR(grande.Excedencia(10400).valor() / 3.8880170573988205e-5, 1, 1e-11);
+    // ln(x - 10) is Gumbel with position 1 and scale 2: exp(-exp(0.5)) at x = 11, and 1 - exp(-e^-20) far out.
+    const DistribucionExacta logaritmos{
+        .reducida = Reducida::Gumbel, .deLogaritmos = true, .posicion = 1, .escala = 2, .umbral = 10};
+    EXPECT_NEAR(logaritmos.NoExcedencia(11).valor(), std::exp(-std::exp(0.5)), 1e-16);
+    EXPECT_NEAR(logaritmos.Excedencia(10 + std::exp(41)).valor() / std::exp(-20), 1, 2e-9);
+    EXPECT_NEAR(logaritmos.Cuantil(std::exp(-std::exp(0.5))).valor(), 11, 1e-13);
+    // Beyond an end, and where there is none.
+    EXPECT_EQ(logaritmos.NoExcedencia(10), 0);
+    EXPECT_EQ(invertida.NoExcedencia(167), 1);
+    EXPECT_EQ(NumeroDeError([&] { return normal.Cuantil(1); }), kArgumentoNoValido);
 }
 
 TEST(Normal, FuncionYColas) {
