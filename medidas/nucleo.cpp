@@ -18,6 +18,10 @@
 #include "frame/controles/flexgrid.h"
 #include "guion/plataformaguion.h"
 #include "hojas/libros.h"
+#include "modules/comparacion/momentosmuestra.h"
+#include "modules/comparacion/posiciones.h"
+#include "modules/comparacion/pruebasserie.h"
+#include "modules/comparacion/remuestreo.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {
@@ -385,6 +389,66 @@ void EscribirLibro(benchmark::State& estado) {
     }
 }
 
+/// Values of a Gumbel distribution, in order.
+std::vector<double> SerieGumbel(std::uint32_t semilla, std::size_t valores) {
+    std::mt19937 azar(semilla);
+    std::extreme_value_distribution<double> gumbel(100, 30);
+    std::vector<double> x(valores);
+    std::generate(x.begin(), x.end(), [&] { return gumbel(azar); });
+    std::sort(x.begin(), x.end());
+    return x;
+}
+
+/// What the comparison shows without resampling: all candidates, their measures, the design table, the series' tests.
+void Comparar(benchmark::State& estado) {
+    const std::vector<double> x = SerieGumbel(1, 60);
+    const std::vector<double> p = kPosicionCunnane.Todas(60);
+    for (auto _ : estado) {
+        benchmark::DoNotOptimize(ProbarSerie(x));
+        for (const Ajuste& a : AjustarCandidatos(x)) {
+            if (!a.distribucion) {
+                continue;
+            }
+            std::vector<double> v = x;
+            std::transform(v.begin(), v.end(), v.begin(), [&a](double xi) { return a.distribucion->Variable(xi); });
+            benchmark::DoNotOptimize(MedirBondad(*a.distribucion, v, x, p));
+            benchmark::DoNotOptimize(CriterioAkaike(*a.distribucion, v));
+            for (const double T : kPeriodosDeDiseno) {
+                benchmark::DoNotOptimize(a.distribucion->Caudal(T));
+            }
+        }
+    }
+}
+
+void Remuestrear60(benchmark::State& estado) {
+    const std::vector<double> x = SerieGumbel(1, 60);
+    const std::vector<Ajuste> ajustes = AjustarCandidatos(x);
+    for (auto _ : estado) {
+        if (!Remuestrear(ajustes, x, kPeriodosDeDiseno, {.muestras = 1000, .hilos = 2})) {
+            estado.SkipWithError("the resampling was cancelled");
+        }
+    }
+}
+
+void MomentosL10000(benchmark::State& estado) {
+    std::vector<std::vector<double>> series;
+    for (std::uint32_t s = 0; s < 10000; ++s) {
+        series.push_back(SerieGumbel(s, 50));
+    }
+    for (auto _ : estado) {
+        for (const std::vector<double>& x : series) {
+            benchmark::DoNotOptimize(CalcularMomentosL(x));
+        }
+    }
+}
+
+BENCHMARK(Comparar)->Name("Comparar_60")->Unit(benchmark::kMillisecond);
+BENCHMARK(Remuestrear60)
+    ->Name("Remuestreo_1000x60")
+    ->UseRealTime()
+    ->MeasureProcessCPUTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(MomentosL10000)->Name("MomentosL_10000x50")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Cargar, Accesar_1500, "bAccesar", &Archivos::Serie)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(Cargar, Excel_1500, "bCargarExcel", &Archivos::Libro)->Unit(benchmark::kMillisecond);
 BENCHMARK(Reportar)->Name("Reporte_1500")->Unit(benchmark::kMillisecond);

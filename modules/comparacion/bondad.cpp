@@ -26,7 +26,8 @@ Bondad MedirBondad(const Distribucion& d, std::span<const double> v, std::span<c
         const auto orden = static_cast<double>(i + 1);
         const double F = d.Cola(v[i], false);
         b.delta = std::fmax(b.delta, std::fabs(kPosicionWeibull(static_cast<int>(i + 1), static_cast<int>(n)) - F));
-        // A value has both tails in the sum: the lower one as the i-th from below, the upper one as the i-th from above.
+        // A value has both tails in the sum: the lower one as the i-th from below, the upper one as the i-th from
+        // above.
         suma += (2 * orden - 1) * std::log(F) + (2 * N + 1 - 2 * orden) * std::log(d.Cola(v[i], true));
         const double q = d.Cuantil(p[i]);
         const double diferencia = x[i] - d.Valor(q);

@@ -22,8 +22,8 @@ struct Bondad {
     double error;
 };
 
-/// v are the values of the variable in ascending order, p their plotting positions; x the values themselves, which are v
-/// for a family without logarithms.
+/// v are the values of the variable in ascending order, p their plotting positions; x the values themselves, which are
+/// v for a family without logarithms.
 Bondad MedirBondad(const Distribucion& d, std::span<const double> v, std::span<const double> x,
                    std::span<const double> p);
 

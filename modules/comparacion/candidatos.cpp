@@ -194,8 +194,8 @@ double FormaValorExtremo(double tau3) {
         const double numerador = -std::expm1(-k * ln3);
         const double denominador = -std::expm1(-k * std::numbers::ln2);
         const double f = numerador / denominador - razon;
-        const double derivada = (ln3 * (1 - numerador) - numerador / denominador * std::numbers::ln2 *
-                                                             (1 - denominador)) / denominador;
+        const double derivada =
+            (ln3 * (1 - numerador) - numerador / denominador * std::numbers::ln2 * (1 - denominador)) / denominador;
         const double paso = f / derivada;
         k -= paso;
         if (std::fabs(paso) < 1e-13 * (1 + std::fabs(k))) {

@@ -56,9 +56,7 @@ Distribucion::Distribucion(Familia familia, double posicion, double escala, doub
     }
 }
 
-double Distribucion::Variable(double x) const {
-    return !DeLogaritmos(familia_) ? x : x > 0 ? std::log(x) : kNada;
-}
+double Distribucion::Variable(double x) const { return !DeLogaritmos(familia_) ? x : x > 0 ? std::log(x) : kNada; }
 
 double Distribucion::Valor(double v) const { return DeLogaritmos(familia_) ? std::exp(v) : v; }
 

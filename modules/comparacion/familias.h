@@ -45,8 +45,9 @@ struct ParametroMostrado {
 ///   Gumbel, LogGumbel            mode, scale
 ///   Gamma2, Gamma3, LogPearson3  mean, deviation, skew: of any sign, and 0 for the normal distribution
 ///   LogNormal3, ValorExtremo, Logistica, Pareto, Exponencial
-///                                xi, alpha, k of Hosking and Wallis (1997, appendix): a negative k is a long upper tail,
-///                                with a positive one (LogNormal3, ValorExtremo, Logistica, Pareto) there is an upper end
+///                                xi, alpha, k of Hosking and Wallis (1997, appendix): a negative k is a long upper
+///                                tail, with a positive one (LogNormal3, ValorExtremo, Logistica, Pareto) there is an
+///                                upper end
 ///   Weibull                      lower end, scale, exponent
 /// Plain numbers: of what does not exist the result is a NaN or an infinity.
 class Distribucion {

@@ -25,13 +25,8 @@ using Coeficientes = std::array<std::array<double, kGrado>, kOrdenes>;
 /// C_0 = 1/mu - 1/eta, C_k = C'_(k-1)/eta + (-1)^k·g_k/mu. mu(eta) solves mu - ln(1 + mu) = eta²/2, so mu·mu' =
 /// eta·(1 + mu); the g_k are those of Stirling's series. Source: Temme (1979).
 Coeficientes CoeficientesUniformes() {
-    constexpr std::array<double, kOrdenes> g{1,
-                                             1.0 / 12,
-                                             1.0 / 288,
-                                             -139.0 / 51840,
-                                             -571.0 / 2488320,
-                                             163879.0 / 209018880,
-                                             5246819.0 / 75246796800};
+    constexpr std::array<double, kOrdenes> g{
+        1, 1.0 / 12, 1.0 / 288, -139.0 / 51840, -571.0 / 2488320, 163879.0 / 209018880, 5246819.0 / 75246796800};
     std::array<double, kGrado + 2> m{0, 1};
     for (int k = 2; k < kGrado + 2; ++k) {
         double suma = m[k - 1];

@@ -23,8 +23,8 @@ MomentosMuestra CalcularMomentosMuestra(std::span<const double> v) {
 }
 
 MomentosL CalcularMomentosL(std::span<const double> ordenada) {
-    // Probability-weighted moments of the differences from the middle value, which keeps their digits: b_r is the mean of
-    // x(i) times the share of the r-tuples of the other values that lie all below it.
+    // Probability-weighted moments of the differences from the middle value, which keeps their digits: b_r is the mean
+    // of x(i) times the share of the r-tuples of the other values that lie all below it.
     const double n = static_cast<double>(ordenada.size());
     const double centro = ordenada[ordenada.size() / 2];
     double b0 = 0;

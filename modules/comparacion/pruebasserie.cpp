@@ -154,11 +154,11 @@ Atipicos GrubbsBeck(std::span<const double> x) {
     const double t = resto > 0 ? std::sqrt(n * (n - 2) * lejos * lejos / resto) : HUGE_VAL;
     a.prueba.estadistico = lejos;
     a.prueba.p = std::min(1.0, n * ColaStudent(t, static_cast<int>(x.size()) - 2));
-    a.prueba.sentencia = "p = " + Format(a.prueba.p, "0.000") + ": " +
-                         (a.bajos + a.altos == 0
-                              ? "ningún valor atípico"
-                              : std::to_string(a.bajos) + " bajos y " + std::to_string(a.altos) + " altos") +
-                         " (límites " + Format(a.inferior, "0.0#") + " y " + Format(a.superior, "0.0#") + ", 10 %)";
+    a.prueba.sentencia =
+        "p = " + Format(a.prueba.p, "0.000") + ": " +
+        (a.bajos + a.altos == 0 ? "ningún valor atípico"
+                                : std::to_string(a.bajos) + " bajos y " + std::to_string(a.altos) + " altos") +
+        " (límites " + Format(a.inferior, "0.0#") + " y " + Format(a.superior, "0.0#") + ", 10 %)";
     return a;
 }
 

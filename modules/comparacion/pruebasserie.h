@@ -39,9 +39,9 @@ PruebaSerie Pettitt(std::span<const double> x, int& cambio);
 
 /// Outliers of the logarithms, normal at a level of 10 %: those beyond mean ± K·s, K = -0.9043 + 3.345·sqrt(log n) -
 /// 0.4046·log n with log of base 10, which gives the table of Bulletin 17 to 0.002 for 10 <= n <= 149. p is that of the
-/// farthest value: n times the tail of Student's t that belongs to it (Grubbs 1969), at most 1. All values must be above
-/// 0.
-/// Sources: U.S. Water Resources Council (1981), Guidelines for determining flood flow frequency, Bulletin 17B, appendix
+/// farthest value: n times the tail of Student's t that belongs to it (Grubbs 1969), at most 1. All values must be
+/// above 0. Sources: U.S. Water Resources Council (1981), Guidelines for determining flood flow frequency, Bulletin
+/// 17B, appendix
 /// 4. Stedinger, J. R. et al. (1993), in Handbook of Hydrology, McGraw-Hill, chapter 18. Grubbs, F. E. (1969),
 /// Technometrics 11(1), 1-21.
 struct Atipicos {

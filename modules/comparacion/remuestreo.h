@@ -38,9 +38,9 @@ struct Remuestreo {
 /// Parametric resampling: from each fit samples of the length of the series are drawn, fitted by the same method and
 /// measured. A limit is the quantile of the sampled discharges (percentile method); it counts the sampling error alone,
 /// not the choice of the family, and of short series it is somewhat narrow (docs/numerics.md has its coverage). The
-/// result depends on series, seed and number of samples, not on the number of threads; fits draw the same probabilities.
-/// Nothing when `progreso` ended it. Fits without a distribution have an empty result.
-/// Source: Efron, B. and Tibshirani, R. J. (1993), An Introduction to the Bootstrap, Chapman and Hall, 6.5 and 13.3.
+/// result depends on series, seed and number of samples, not on the number of threads; fits draw the same
+/// probabilities. Nothing when `progreso` ended it. Fits without a distribution have an empty result. Source: Efron, B.
+/// and Tibshirani, R. J. (1993), An Introduction to the Bootstrap, Chapman and Hall, 6.5 and 13.3.
 std::optional<std::vector<Remuestreo>> Remuestrear(const std::vector<Ajuste>& ajustes, std::span<const double> ordenada,
                                                    std::span<const double> periodos,
                                                    const OpcionesRemuestreo& opciones);
