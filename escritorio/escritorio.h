@@ -7,6 +7,7 @@
 
 #include "escritorio/dialogoarchivo.h"
 #include "escritorio/librosensegundoplano.h"
+#include "escritorio/segundoplano.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/plataforma.h"
 
@@ -45,6 +46,7 @@ class Escritorio : public Plataforma {
     void ImprimirDocumento(Formulario& documento, bool soloSeleccion, const std::string& titulo) override;
     AccesoHojas& Hojas() override { return libros_; }
     bool MostrarLibro(const Hoja& hoja) override;
+    void EnSegundoPlano(TrabajoLargo trabajo) override { segundoPlano_.Empezar(*app_, std::move(trabajo)); }
     void Terminar() override;
     void MenuPrincipalCerrado() override { app_->Terminar(); }
     void DespuesDeDespachar() override { Pintar(); }
@@ -72,6 +74,7 @@ class Escritorio : public Plataforma {
     bool pintando_ = false;
     int cajas_ = 0;  ///< Message boxes and dialogs that wait for the user, workbooks being written.
     LibrosEnSegundoPlano libros_{cajas_};
+    SegundoPlano segundoPlano_;
 };
 
 }  // namespace cuencalia

@@ -254,7 +254,7 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     const QColor agua = (*tinta.series)[cual];
     const QColor color = grafico.Cauce ? tinta.texto : agua;
     const bool area = grafico.GraphType == kGraficoAreas;
-    const bool sueltos = !area && grafico.GraphStyle == kSimbolosSueltos;
+    const bool sueltos = !area && (grafico.GraphStyle == kSimbolosSueltos || grafico.Conjuntos()[conjunto].sueltos);
     if (area) {
         Rellenar(puntos,
                  QBrush(ConAlfa(color, kAlfaRelleno), grafico.PatternData != 0 ? Qt::BDiagPattern : Qt::SolidPattern));

@@ -8,6 +8,7 @@
 #include "modules/caudales/frmQmaxNash.h"
 #include "modules/caudales/frmQmaxRacDyckPeschke.h"
 #include "modules/caudales/frmQmaxRacional.h"
+#include "modules/comparacion/frmComparacion.h"
 #include "modules/curvas/frmCurvaDuracion.h"
 #include "modules/curvas/frmVariacionEsta.h"
 #include "modules/distribuciones/frmDisGamma2par.h"
@@ -81,6 +82,7 @@ TablaFormas FormasDelPrograma() {
         {"frmDisLogNormal3", Hacer<frmDisLogNormal3>},
         {"frmDisLogPearson3", Hacer<frmDisLogPearson3>},
         {"frmDisNormal", Hacer<frmDisNormal>},
+        {"frmComparacion", Hacer<frmComparacion>},
         {"frmAnalisisTor", Hacer<frmAnalisisTor>},
         {"frmIntensidadMax", Hacer<frmIntensidadMax>},
         {"frmDyckPeschkeImax", Hacer<frmDyckPeschkeImax>},

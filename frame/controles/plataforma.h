@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -30,6 +31,14 @@ struct Aviso {
 
 /// What a file dialog is for.
 enum class ModoArchivo { Abrir, Guardar };
+
+/// A long calculation on data of its own, which touches no control.
+struct TrabajoLargo {
+    /// Calls its argument now and then with the part that is done, 0 to 1, and ends early when that returns false.
+    std::function<void(const std::function<bool(double)>& avanzar)> trabajo;
+    std::function<void(double parte)> alAvanzar;  ///< As an event of the program, from time to time.
+    std::function<void()> alTerminar;             ///< As an event, once.
+};
 
 /// What the program needs from the system on which it runs. The desktop implements it with windows and dialogs; tests
 /// and scripts have an implementation without a screen.
@@ -84,6 +93,12 @@ class Plataforma {
     virtual AccesoHojas& Hojas() = 0;
     /// Shows a new workbook with these cells in the user's spreadsheet program; false when the user has none.
     virtual bool MostrarLibro(const Hoja& hoja) = 0;
+
+    /// Does the work while the windows go on, where there are windows; here before it returns.
+    virtual void EnSegundoPlano(TrabajoLargo trabajo) {
+        trabajo.trabajo([](double) { return true; });
+        trabajo.alTerminar();
+    }
 
     /// Seconds since midnight, local time, with fractions.
     virtual Double Reloj() const { return Timer(); }

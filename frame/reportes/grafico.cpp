@@ -64,6 +64,11 @@ void GraficoModulo::PonerLegendText(const std::string& texto) {
     Notificar();
 }
 
+void GraficoModulo::PonerSueltos(bool sueltos) {
+    conjuntos_[S(conjunto_ - 1)].sueltos = sueltos;
+    Notificar();
+}
+
 void GraficoModulo::Escribir(std::vector<std::optional<Double>> Conjunto::*serie, Lugar& siguiente, Double valor) {
     const Lugar lugar = AutoInc == 1 ? siguiente : Lugar{conjunto_, punto_};
     if (lugar.conjunto > NumSets() || lugar.punto > puntos_) {
@@ -159,6 +164,7 @@ void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcio
     for (int c = 1; c <= dados; ++c) {
         grafico.PonerThisSet(c);
         grafico.PonerLegendText(series[S(c - 1)].leyenda);
+        grafico.PonerSueltos(series[S(c - 1)].sueltos);
     }
     for (int c = 1; c <= dados; ++c) {
         const SerieGrafico& serie = series[S(c - 1)];

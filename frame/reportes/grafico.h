@@ -23,6 +23,7 @@ class GraficoModulo : public Control {
         std::string leyenda;
         std::vector<std::optional<Double>> x, y;  ///< An element is empty until it is written.
         bool operator==(const Conjunto&) const = default;
+        bool sueltos = false;  ///< Symbols without a line, whatever GraphStyle says.
     };
 
     GraficoModulo(Formulario& forma, std::string nombre, std::string nombreAccesible = "Gráfico");
@@ -56,6 +57,8 @@ class GraficoModulo : public Control {
 
     /// Legend of the current set.
     void PonerLegendText(const std::string& texto);
+    /// Whether the points of the current set are not joined.
+    void PonerSueltos(bool sueltos);
     /// Writes y and x of the current point of the current set. With AutoInc, y and x advance separately, so that all y
     /// values may be written first, set after set, and then all x values.
     void PonerGraphData(Double y);
@@ -130,6 +133,7 @@ struct DescripcionGrafico {
 struct SerieGrafico {
     std::string leyenda{};
     std::vector<Double> x{}, y{};
+    bool sueltos = false;  ///< Points without a line among sets with lines.
 };
 
 /// Draws the sets and shows the chart. Error 5 for more sets or points than NumSets and NumPoints allow.

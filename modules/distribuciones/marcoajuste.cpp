@@ -1,6 +1,7 @@
 #include "modules/distribuciones/marcoajuste.h"
 
 #include "frame/base/textos.h"
+#include "modules/comparacion/recibeserie.h"
 #include "modules/estadistica/orden.h"
 
 namespace cuencalia {
@@ -74,6 +75,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
     lblP.Nombra(txtxp);
     Graph1.RotularEjes(lblEjeX, lblEjeY);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
+    bComparar.Click.Conectar([this] { bComparar_Click(); });
     bQ.Click.Conectar([this] { bQ_Click(); });
     bT.Click.Conectar([this] { bT_Click(); });
     bPmayor.Click.Conectar([this] { bPmayor_Click(); });
@@ -314,6 +316,18 @@ void MarcoAjuste::bGraficar_Click() {
     GraficoDibujar(Graph1, {}, series);
 }
 
+void MarcoAjuste::bComparar_Click() {
+    std::vector<double> serie;
+    for (int i = 1; i <= datos.Filas(); ++i) {
+        serie.push_back(Val(datos.grdt.TextMatrix(i, 1)).valor());
+    }
+    if (serie.empty()) {
+        App().MsgBox("Antes de comparar, ingresar datos", kIconoInformacion, kTituloAviso);
+        return;
+    }
+    dynamic_cast<RecibeSerie&>(App().ModuloAbrir("frmComparacion")).RecibirSerie(Caption(), std::move(serie));
+}
+
 void MarcoAjuste::ReportarTabla(Reporte& reporte) {
     constexpr int kAnchoCelda = 18;
     std::vector<std::string> encabezados = ajuste_.encabezadosReporte;
@@ -411,7 +425,8 @@ Disposicion MarcoAjuste::Contenido() {
     }
     arriba.push_back(Grupo(fraNivel, {Pares(2, {opt020, opt010, opt005, opt001})}));
     arriba.push_back(ZonaParametros().Estira(1));
-    Disposicion prueba = Columna({Disposicion(grddis).Estira(1), lblAjuste, lblmensaje, lblDelta5});
+    Disposicion prueba =
+        Columna({Disposicion(grddis).Estira(1), lblAjuste, lblmensaje, lblDelta5, Fila({bComparar, Espacio()})});
     Disposicion evaluacion = Columna({ZonaDiseno(), Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1),
                                       Fila({Espacio(), lblEjeX}), Espacio(0)});
     return Columna({Fila(std::move(arriba)), Fila({std::move(prueba), std::move(evaluacion).Estira(1)}).Estira(1)});

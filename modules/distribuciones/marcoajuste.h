@@ -80,9 +80,10 @@ class MarcoAjuste : public ModuloCalculo {
     Tabla grddis;
     Label lblAjuste{*this, "lblAjuste", "Ajuste:", Papel::Encabezado};
     Label lblmensaje{*this, "lblmensaje", {}, Papel::Resultado};
-    Label lblDelta5{*this,
-                    "lblDelta5"};  ///< What the verdict is worth, for the parameters come from the series itself.
+    /// What the verdict is worth, as the parameters come from the series itself.
+    Label lblDelta5{*this, "lblDelta5", {}, Papel::Nota};
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
+    CommandButton bComparar{*this, "bComparar", "C&omparar", "Comparar los ajustes de todas las distribuciones"};
     Label lblEjeY{*this, "lblEjeY", "Probabilidad de no excedencia"}, lblEjeX{*this, "lblEjeX", "X"};
     GraficoModulo Graph1{*this, "Graph1", "Probabilidades empíricas y teóricas"};
 
@@ -96,6 +97,8 @@ class MarcoAjuste : public ModuloCalculo {
     Serie Delta;
 
     void bGraficar_Click();
+    /// Opens the comparison of fits with the series as the grid has it.
+    void bComparar_Click();
     void bQ_Click();
     void bT_Click();
     void bPmayor_Click();

@@ -1,8 +1,8 @@
 #include "modules/regresion/moduloar1.h"
 
-#include "frame/base/hojas.h"
 #include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
+#include "frame/modulo/entregarlibro.h"
 
 namespace cuencalia {
 
@@ -209,17 +209,7 @@ void ModuloAR1::bCrearExcel_Click() {
     for (int i = 1; i <= Ngen; ++i) {
         hoja.Poner(i, 1, grdGenerada.TextMatrix(i, 1));
     }
-    Plataforma& sistema = App().Sistema();
-    if (sistema.MostrarLibro(hoja)) {
-        return;
-    }
-    std::string nombre;
-    sistema.ElegirArchivo(ModoArchivo::Guardar, "Guardar la hoja de cálculo", "Libro de Excel|*.xlsx", nombre);
-    if (!nombre.empty()) {
-        sistema.Hojas().EscribirLibro(nombre, hoja);
-        App().MsgBox("No hay un programa de hojas de cálculo.\nLa serie generada se guardó en\n" + nombre,
-                     kIconoInformacion, "Crear Excel");
-    }
+    EntregarLibro(App(), hoja, "La serie generada se guardó en");
 }
 
 void ModuloAR1::GenerarReporte(Reporte& reporte) {

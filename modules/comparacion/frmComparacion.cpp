@@ -1,0 +1,540 @@
+#include "modules/comparacion/frmComparacion.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cmath>
+#include <numeric>
+
+#include "frame/base/textos.h"
+#include "frame/modulo/cajas.h"
+#include "frame/modulo/entregarlibro.h"
+#include "modules/comparacion/diagramal.h"
+#include "modules/comparacion/momentosmuestra.h"
+#include "modules/comparacion/pruebasserie.h"
+
+namespace cuencalia {
+
+namespace {
+
+constexpr int kMuestras = 1000;
+constexpr int kColumnaAkaike = 11;
+constexpr int kReglaReporte = 130;
+constexpr std::size_t kIndiceDe100 = 8;  // of kPeriodosDeDiseno
+constexpr std::size_t kPuntosDeCurva = 60;
+
+const std::vector<std::string> kOrdenes{"Distribución",           "Delta",        "Anderson-Darling", "Correlación",
+                                        "Error cuadrático medio", "Akaike (AIC)", "Q de T = 100"};
+constexpr const char* kCautela =
+    "Ningún ajuste es el mejor por un solo número: con pocas decenas de datos las medidas apenas separan las familias, "
+    "y lo que decide Q en los grandes períodos es la cola, que los datos no alcanzan. Compare también los límites, el "
+    "papel de probabilidad y lo que se sabe de la cuenca.";
+
+std::string Numero(double valor, const char* patron) {
+    return std::isnan(valor) ? "" : std::isinf(valor) ? (valor < 0 ? "-∞" : "∞") : Format(valor, patron);
+}
+
+std::string NombreDe(const Ajuste& a) {
+    return std::string(NombreFamilia(a.candidato.familia)) + ", " + NombreMetodo(a.candidato.metodo);
+}
+
+std::string TextoParametros(const Distribucion& d) {
+    std::string texto;
+    for (const ParametroMostrado& p : d.Parametros()) {
+        texto += (texto.empty() ? "" : "; ") + std::string(p.nombre) + " = " + Numero(p.valor, "0.0###");
+    }
+    return texto;
+}
+
+std::vector<ColumnaTabla> ColumnasDeDiseno() {
+    std::vector<ColumnaTabla> columnas{{"Ajuste", 3900}};
+    for (const double T : kPeriodosDeDiseno) {
+        columnas.push_back({"T = " + CStr(T), 1000});
+    }
+    return columnas;
+}
+
+std::vector<std::string> NombresDePosiciones() {
+    std::vector<std::string> nombres;
+    for (const PosicionGrafica& p : kPosiciones) {
+        nombres.emplace_back(p.nombre);
+    }
+    return nombres;
+}
+
+}  // namespace
+
+struct frmComparacion::Encargo {
+    std::vector<Ajuste> ajustes;
+    std::vector<double> ordenada;
+    OpcionesRemuestreo opciones;
+    std::atomic<bool> cancelado = false;
+    std::optional<std::vector<Remuestreo>> resultado;
+};
+
+frmComparacion::frmComparacion(Aplicacion& app)
+    : MarcoModulo(app, "frmComparacion", "Comparación de ajustes"),
+      cmbOrden(*this, "cmbOrden", kOrdenes),
+      grdCandidatos(*this, "grdCandidatos", "Candidatos",
+                    {.filas = 2,
+                     .columnas = {{"Distribución", 2600},
+                                  {"Método", 2000},
+                                  {"Parámetros", 3400},
+                                  {"Delta", 900},
+                                  {"p", 700},
+                                  {"A-D", 900},
+                                  {"p", 700},
+                                  {"Correl.", 900},
+                                  {"p", 700},
+                                  {"Error", 1000},
+                                  {"p", 700},
+                                  {"AIC", 1000},
+                                  {"Observación", 5000}}}),
+      grdDiseno(*this, "grdDiseno", "Caudales de diseño",
+                {.filas = 2, .columnas = ColumnasDeDiseno(), .columnasFijas = 1}),
+      cmbPosicion(*this, "cmbPosicion", NombresDePosiciones()),
+      cmbCurva(*this, "cmbCurva"),
+      cmbCurva2(*this, "cmbCurva2") {
+    for (ComboBox* lista : {&cmbOrden, &cmbNivel, &cmbPapel, &cmbPosicion, &cmbCurva, &cmbCurva2}) {
+        lista->Editable = false;
+    }
+    cmbOrden.Text = kOrdenes.front();
+    cmbNivel.Text = "90";
+    cmbPapel.Text = "Gumbel";
+    cmbPosicion.Text = kPosicionCunnane.nombre;
+    txtSemilla.Text = "1";
+    SoloNumero(txtSemilla, Cifras::Enteras);
+    lblOrden.Nombra(cmbOrden);
+    lblNivel.Nombra(cmbNivel);
+    lblSemilla.Nombra(txtSemilla);
+    lblPapel.Nombra(cmbPapel);
+    lblPosicion.Nombra(cmbPosicion);
+    lblCurva.Nombra(cmbCurva);
+    lblCurva2.Nombra(cmbCurva2);
+    SSTab1.NombreAccesible = "Partes de la comparación";
+    Graph1.RotularEjes(lblEjeX, lblEjeY);
+    Graph2.RotularEjes(lblTau3, lblTau4);
+    DeclararTablas({&grdSerie, &grdPruebas, &grdCandidatos, &grdDiseno});
+    DeclararBotones({}, {{&bCrearExcel, "crear_excel"}});
+    bCancelar.Enabled = false;
+    cmbOrden.Change.Conectar([this] { Ordenar(); });
+    cmbPosicion.Change.Conectar([this] {
+        if (calculado) {
+            Calcular();
+        }
+    });
+    for (ComboBox* lista : {&cmbPapel, &cmbCurva, &cmbCurva2}) {
+        lista->Change.Conectar([this] { DibujarPapel(); });
+    }
+    bRemuestrear.Click.Conectar([this] { bRemuestrear_Click(); });
+    bCancelar.Click.Conectar([this] { bCancelar_Click(); });
+    bCrearExcel.Click.Conectar([this] { bCrearExcel_Click(); });
+    bCopiar.Click.Conectar([this] { bCopiar_Click(); });
+}
+
+frmComparacion::~frmComparacion() { bCancelar_Click(); }
+
+const PosicionGrafica& frmComparacion::Posicion() const { return kPosiciones[std::max(cmbPosicion.ListIndex(), 0)]; }
+
+void frmComparacion::RecibirSerie(const std::string& origen, std::vector<double> serie) {
+    LimpiarResultados();
+    origen_ = origen;
+    serie_ = std::move(serie);
+    Calcular();
+}
+
+void frmComparacion::LimpiarOtros() {
+    bCancelar_Click();
+    calculado = false;
+    serie_.clear();
+    ordenada_.clear();
+    comparados_.clear();
+    orden_.clear();
+    remuestreo_.clear();
+    lblSerie.Caption = "Serie:";
+    lblCautela.Caption = "";
+    lblAvance.Caption = "";
+    cmbCurva.List = std::vector<std::string>{};
+    cmbCurva2.List = std::vector<std::string>{};
+    cmbCurva.Text = "";
+    cmbCurva2.Text = "";
+    Graph1.LimpiarGrafico();
+    Graph2.LimpiarGrafico();
+}
+
+void frmComparacion::Calcular() {
+    if (serie_.empty()) {
+        App().MsgBox("No hay serie: abrir la comparación desde la ventana de un ajuste con datos", kIconoInformacion,
+                     "Comparación de ajustes");
+        return;
+    }
+    bCancelar_Click();
+    remuestreo_.clear();
+    lblAvance.Caption = "";
+    ordenada_ = serie_;
+    std::sort(ordenada_.begin(), ordenada_.end());
+    comparados_ = Comparar(ordenada_, Posicion());
+    MostrarSerie();
+    std::vector<std::string> nombres{""};
+    for (const Comparado& c : comparados_) {
+        if (c.ajuste.distribucion) {
+            nombres.push_back(NombreDe(c.ajuste));
+        }
+    }
+    calculado = true;
+    Ordenar();
+    const auto elegir = [&nombres](ComboBox& lista, std::size_t omision) {
+        const std::string antes = lista.Text;
+        lista.List = nombres;
+        const bool queda = !antes.empty() && std::find(nombres.begin(), nombres.end(), antes) != nombres.end();
+        lista.Text = queda ? antes : nombres[std::min(omision, nombres.size() - 1)];
+    };
+    elegir(cmbCurva, 1);
+    elegir(cmbCurva2, 0);
+    DibujarMomentos();
+    lblCautela.Caption = kCautela;
+}
+
+void frmComparacion::MostrarSerie() {
+    lblSerie.Caption = "Serie de " + std::to_string(serie_.size()) + " datos de la ventana «" + origen_ + "»";
+    grdSerie.Iniciar(static_cast<int>(serie_.size()) + 1);
+    for (std::size_t i = 0; i < serie_.size(); ++i) {
+        grdSerie.PonerFila(static_cast<int>(i) + 1,
+                           {Str(static_cast<int>(i) + 1), Numero(serie_[i], "0.0###"), Numero(ordenada_[i], "0.0###")});
+    }
+    int fila = 0;
+    for (const PruebaSerie& p : ProbarSerie(serie_)) {
+        grdPruebas.PonerFila(++fila, {p.nombre, Numero(p.estadistico, "0.0000"), Numero(p.p, "0.0000"), p.sentencia});
+    }
+}
+
+void frmComparacion::Ordenar() {
+    if (!calculado) {
+        return;
+    }
+    orden_.resize(comparados_.size());
+    std::iota(orden_.begin(), orden_.end(), 0);
+    const int columna = cmbOrden.ListIndex();
+    const auto clave = [this, columna](std::size_t i) {
+        const Comparado& c = comparados_[i];
+        if (!c.bondad) {
+            return HUGE_VAL;
+        }
+        switch (columna) {
+            case 1:
+                return c.bondad->delta;
+            case 2:
+                return c.bondad->andersonDarling;
+            case 3:
+                return -c.bondad->correlacion;
+            case 4:
+                return c.bondad->error;
+            case 5:
+                return c.akaike.value_or(HUGE_VAL);
+            case 6:
+                return c.ajuste.distribucion->Caudal(kPeriodosDeDiseno[kIndiceDe100]);
+            default:
+                return 0.0;
+        }
+    };
+    std::stable_sort(orden_.begin(), orden_.end(),
+                     [&clave](std::size_t a, std::size_t b) { return clave(a) < clave(b); });
+    MostrarCandidatos();
+    MostrarDiseno();
+}
+
+void frmComparacion::MostrarCandidatos() {
+    grdCandidatos.Iniciar(static_cast<int>(comparados_.size()) + 1);
+    int fila = 0;
+    for (const std::size_t i : orden_) {
+        const Comparado& c = comparados_[i];
+        const Candidato& candidato = c.ajuste.candidato;
+        std::vector<std::string> textos{NombreFamilia(candidato.familia), NombreMetodo(candidato.metodo)};
+        if (!c.bondad) {
+            textos.resize(kColumnaAkaike + 1);
+            textos.push_back(c.ajuste.motivo);
+        } else {
+            const bool remuestreado = !remuestreo_.empty() && remuestreo_[i].validas > 0;
+            const Remuestreo r = remuestreado ? remuestreo_[i] : Remuestreo{};
+            const auto p = [remuestreado](double valor) { return remuestreado ? Numero(valor, "0.000") : ""; };
+            textos.insert(textos.end(),
+                          {TextoParametros(*c.ajuste.distribucion), Numero(c.bondad->delta, "0.0000"), p(r.pDelta),
+                           Numero(c.bondad->andersonDarling, "0.000"), p(r.pAndersonDarling),
+                           Numero(c.bondad->correlacion, "0.0000"), p(r.pCorrelacion), Numero(c.bondad->error, "0.0##"),
+                           p(r.pError), c.akaike ? Numero(*c.akaike, "0.00") : ""});
+            std::string observacion;
+            if (std::isinf(c.bondad->andersonDarling)) {
+                observacion = "Hay datos más allá del extremo de la distribución";
+            }
+            if (remuestreado && r.validas < kMuestras) {
+                observacion += (observacion.empty() ? "" : "; ") + std::to_string(kMuestras - r.validas) +
+                               " muestras sin ajuste posible";
+            }
+            textos.push_back(observacion);
+        }
+        grdCandidatos.PonerFila(++fila, textos);
+    }
+}
+
+void frmComparacion::MostrarDiseno() {
+    const auto ajustados = std::count_if(comparados_.begin(), comparados_.end(),
+                                         [](const Comparado& c) { return c.ajuste.distribucion.has_value(); });
+    const int filasDeUno = remuestreo_.empty() ? 1 : 3;
+    grdDiseno.Iniciar(static_cast<int>(ajustados) * filasDeUno + 1);
+    int fila = 0;
+    for (const std::size_t i : orden_) {
+        const auto& d = comparados_[i].ajuste.distribucion;
+        if (!d) {
+            continue;
+        }
+        std::vector<std::string> caudales{NombreDe(comparados_[i].ajuste)};
+        std::vector<std::string> inferiores{"   límite inferior " + nivelMostrado_};
+        std::vector<std::string> superiores{"   límite superior " + nivelMostrado_};
+        for (std::size_t t = 0; t < std::size(kPeriodosDeDiseno); ++t) {
+            caudales.push_back(Numero(d->Caudal(kPeriodosDeDiseno[t]), "0.00"));
+            if (!remuestreo_.empty()) {
+                inferiores.push_back(Numero(remuestreo_[i].limites[t].inferior, "0.00"));
+                superiores.push_back(Numero(remuestreo_[i].limites[t].superior, "0.00"));
+            }
+        }
+        grdDiseno.PonerFila(++fila, caudales);
+        if (!remuestreo_.empty()) {
+            grdDiseno.PonerFila(++fila, inferiores);
+            grdDiseno.PonerFila(++fila, superiores);
+        }
+    }
+}
+
+void frmComparacion::bRemuestrear_Click() {
+    if (!ExigirCalculo({"Efectuar cálculos antes de remuestrear", kIconoError, "Mensaje de Error"})) {
+        return;
+    }
+    bCancelar_Click();
+    auto encargo = std::make_shared<Encargo>();
+    for (const Comparado& c : comparados_) {
+        encargo->ajustes.push_back(c.ajuste);
+    }
+    encargo->ordenada = ordenada_;
+    encargo->opciones.muestras = kMuestras;
+    encargo->opciones.semilla = static_cast<std::uint64_t>(std::clamp(Val(txtSemilla.Text()).valor(), 0.0, 1e15));
+    encargo->opciones.nivel = Val(cmbNivel.Text()).valor() / 100;
+    encargo->opciones.posicion = Posicion().a;
+    encargo_ = encargo;
+    bCancelar.Enabled = true;
+    bRemuestrear.Enabled = false;
+    lblAvance.Caption = "Remuestreando…";
+    // When the window is gone or has another task, this one is cancelled, and nothing of it comes back.
+    App().Sistema().EnSegundoPlano(
+        {.trabajo =
+             [encargo](const std::function<bool(double)>& avanzar) {
+                 encargo->opciones.progreso = [&](double parte) { return !encargo->cancelado && avanzar(parte); };
+                 encargo->resultado =
+                     Remuestrear(encargo->ajustes, encargo->ordenada, kPeriodosDeDiseno, encargo->opciones);
+             },
+         .alAvanzar =
+             [this, encargo](double parte) {
+                 if (!encargo->cancelado) {
+                     lblAvance.Caption = "Remuestreando: " + Format(100 * parte, "0") + " %";
+                 }
+             },
+         .alTerminar =
+             [this, encargo] {
+                 if (!encargo->cancelado) {
+                     Entregar(*encargo);
+                 }
+             }});
+}
+
+void frmComparacion::Entregar(const Encargo& encargo) {
+    bCancelar.Enabled = false;
+    bRemuestrear.Enabled = true;
+    if (!encargo.resultado) {
+        lblAvance.Caption = "Remuestreo sin terminar";
+        return;
+    }
+    remuestreo_ = *encargo.resultado;
+    for (Remuestreo& r : remuestreo_) {
+        r.limites.resize(std::size(kPeriodosDeDiseno), {std::nan(""), std::nan("")});
+    }
+    nivelMostrado_ = Format(100 * encargo.opciones.nivel, "0") + " %";
+    lblAvance.Caption = "Límites del " + nivelMostrado_ + " y significaciones por " + std::to_string(kMuestras) +
+                        " muestras, semilla " + std::to_string(encargo.opciones.semilla);
+    Ordenar();
+    DibujarPapel();
+}
+
+void frmComparacion::bCancelar_Click() {
+    if (encargo_ == nullptr) {
+        return;
+    }
+    encargo_->cancelado = true;
+    encargo_.reset();
+    if (!bRemuestrear.Enabled) {
+        lblAvance.Caption = "Remuestreo cancelado";
+    }
+    bCancelar.Enabled = false;
+    bRemuestrear.Enabled = true;
+}
+
+std::optional<std::size_t> frmComparacion::Elegido(const ComboBox& lista) const {
+    for (std::size_t i = 0; i < comparados_.size(); ++i) {
+        if (comparados_[i].ajuste.distribucion && NombreDe(comparados_[i].ajuste) == lista.Text()) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+void frmComparacion::DibujarPapel() {
+    if (!calculado) {
+        return;
+    }
+    const bool gumbel = cmbPapel.ListIndex() == 0;
+    const bool logaritmos = cmbPapel.ListIndex() == 2;
+    const auto reducida = [gumbel](double p) { return gumbel ? -std::log(-std::log(p)) : CuantilNormal(p); };
+    const auto agregar = [&](SerieGrafico& s, double p, double Q) {
+        if (std::isfinite(Q) && (!logaritmos || Q > 0)) {
+            s.x.emplace_back(reducida(p));
+            s.y.emplace_back(logaritmos ? std::log10(Q) : Q);
+        }
+    };
+    std::vector<SerieGrafico> series{{.leyenda = "Datos", .sueltos = true}};
+    const int n = static_cast<int>(ordenada_.size());
+    for (int i = 1; i <= n; ++i) {
+        agregar(series[0], Posicion()(i, n), ordenada_[static_cast<std::size_t>(i - 1)]);
+    }
+    for (const ComboBox* lista : {&cmbCurva, &cmbCurva2}) {
+        const auto i = Elegido(*lista);
+        if (!i) {
+            continue;
+        }
+        const auto& d = *comparados_[*i].ajuste.distribucion;
+        SerieGrafico curva{.leyenda = NombreDe(comparados_[*i].ajuste)};
+        // Evenly spaced on the paper, from T = 1.01 to 1000.
+        const double desde = reducida(0.01);
+        const double hasta = reducida(0.999);
+        for (std::size_t k = 0; k <= kPuntosDeCurva; ++k) {
+            const double y = desde + (hasta - desde) * static_cast<double>(k) / kPuntosDeCurva;
+            const double p = gumbel ? std::exp(-std::exp(-y)) : ProbabilidadNormal(y);
+            agregar(curva, p, d.Valor(d.Cuantil(p)));
+        }
+        series.push_back(std::move(curva));
+        if (lista == &cmbCurva && !remuestreo_.empty()) {
+            SerieGrafico banda[2]{{.leyenda = "Límite inferior " + nivelMostrado_},
+                                  {.leyenda = "Límite superior " + nivelMostrado_}};
+            for (std::size_t t = 0; t + 1 < std::size(kPeriodosDeDiseno); ++t) {
+                const double p = 1 - 1 / kPeriodosDeDiseno[t];
+                agregar(banda[0], p, remuestreo_[*i].limites[t].inferior);
+                agregar(banda[1], p, remuestreo_[*i].limites[t].superior);
+            }
+            for (SerieGrafico& limite : banda) {
+                if (!limite.y.empty()) {
+                    series.push_back(std::move(limite));
+                }
+            }
+        }
+    }
+    lblEjeX.Caption = gumbel ? "Variable reducida de Gumbel, -ln(-ln P)" : "Variable normal estándar z";
+    lblEjeY.Caption = logaritmos ? "Logaritmo decimal de Q (m3/s)" : "Q (m3/s)";
+    std::size_t puntos = 1;
+    for (const SerieGrafico& s : series) {
+        puntos = std::max(puntos, s.y.size());
+    }
+    GraficoDibujar(Graph1, {.puntos = static_cast<int>(puntos)}, series);
+}
+
+void frmComparacion::DibujarMomentos() {
+    const MomentosL l = ordenada_.size() >= 4 ? CalcularMomentosL(ordenada_) : MomentosL{0, 0, NAN, NAN};
+    std::vector<SerieGrafico> series;
+    if (std::isfinite(l.tau3) && std::isfinite(l.tau4)) {
+        series.push_back({.leyenda = "Serie", .x = {l.tau3}, .y = {l.tau4}, .sueltos = true});
+    }
+    for (const Familia familia : {Familia::ValorExtremo, Familia::Logistica, Familia::Pareto, Familia::LogNormal3,
+                                  Familia::Gamma3, Familia::Weibull}) {
+        SerieGrafico curva{.leyenda = NombreFamilia(familia)};
+        for (int k = -8; k <= 14; ++k) {
+            curva.x.emplace_back(0.05 * k);
+            curva.y.emplace_back(Tau4(familia, 0.05 * k));
+        }
+        series.push_back(std::move(curva));
+    }
+    for (const Familia familia : {Familia::Normal, Familia::Gumbel, Familia::Exponencial}) {
+        const PuntoL p = PuntoDeFamilia(familia);
+        series.push_back({.leyenda = NombreFamilia(familia), .x = {p.tau3}, .y = {p.tau4}, .sueltos = true});
+    }
+    GraficoDibujar(Graph2, {.puntos = 23}, series);
+}
+
+void frmComparacion::bCrearExcel_Click() {
+    if (!ExigirCalculo({"Efectuar cálculos antes de crear la hoja", kIconoError, "Mensaje de Error"})) {
+        return;
+    }
+    // Numbers go out as numbers, for the spreadsheet to calculate with.
+    const auto celda = [](const std::string& texto) -> ValorCelda {
+        const bool numero = !texto.empty() && texto.find_first_not_of("0123456789.- ") == std::string::npos;
+        return numero ? ValorCelda(Val(texto)) : ValorCelda(texto);
+    };
+    Hoja hoja;
+    int fila = 0;
+    for (const FlexGrid* tabla : {static_cast<FlexGrid*>(&grdSerie), static_cast<FlexGrid*>(&grdPruebas),
+                                  static_cast<FlexGrid*>(&grdCandidatos), static_cast<FlexGrid*>(&grdDiseno)}) {
+        for (int f = 0; f < tabla->Rows(); ++f) {
+            ++fila;
+            for (int c = 0; c < tabla->Cols(); ++c) {
+                if (const std::string& texto = tabla->TextMatrix(f, c); !texto.empty()) {
+                    hoja.Poner(fila, c + 1, celda(texto));
+                }
+            }
+        }
+        ++fila;
+    }
+    EntregarLibro(App(), hoja, "Las tablas se guardaron en");
+}
+
+void frmComparacion::bCopiar_Click() {
+    std::string texto;
+    for (const FlexGrid* tabla : {static_cast<FlexGrid*>(&grdSerie), static_cast<FlexGrid*>(&grdPruebas),
+                                  static_cast<FlexGrid*>(&grdCandidatos), static_cast<FlexGrid*>(&grdDiseno)}) {
+        texto += tabla->TextoCompleto(true) + "\n";
+    }
+    App().Sistema().PonerEnPortapapeles(texto);
+    StatusBar1.PonerPanel(kPanelAvisos, "Las tablas están en el portapapeles");
+}
+
+void frmComparacion::GenerarReporte(Reporte& reporte) {
+    reporte.ReporteLinea(lblSerie.Caption());
+    reporte.ReporteBlanco();
+    const auto tabla = [&reporte](const char* titulo, FlexGrid& grid) {
+        std::vector<std::string> encabezados;
+        for (int c = 0; c < grid.Cols(); ++c) {
+            encabezados.push_back(grid.TextMatrix(0, c));
+        }
+        reporte.EscribirTabla({.titulo = titulo,
+                               .regla = kReglaReporte,
+                               .encabezado = UnirEncabezados(encabezados, "\t"),
+                               .celda = CeldaSeguidaDe("\t")},
+                              grid, grid.Rows() - 1);
+    };
+    tabla("Pruebas de la serie:", grdPruebas);
+    tabla("Candidatos:", grdCandidatos);
+    reporte.ReporteLinea(lblCautela.Caption());
+    reporte.ReporteBlanco();
+    tabla("Caudales de diseño (m3/s):", grdDiseno);
+    reporte.ReporteLinea(lblAvance.Caption());
+}
+
+Disposicion frmComparacion::Cuerpo() {
+    Disposicion remuestreo =
+        Grupo(fraRemuestreo,
+              {Fila({lblNivel, cmbNivel, lblSemilla, txtSemilla, bRemuestrear, bCancelar, Espacio()}), lblAvance});
+    return Fichas(
+        SSTab1, {Columna({lblSerie, Fila({grdSerie, Disposicion(grdPruebas).Estira(1)}).Estira(1)}),
+                 Columna({Fila({lblOrden, cmbOrden, Espacio(), bCopiar, bCrearExcel}),
+                          Disposicion(grdCandidatos).Estira(1), lblCautela}),
+                 Columna({std::move(remuestreo), Disposicion(grdDiseno).Estira(1)}),
+                 Columna({Fila({lblPapel, cmbPapel, lblPosicion, cmbPosicion, lblCurva, cmbCurva, lblCurva2, cmbCurva2,
+                                Espacio()}),
+                          Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})}),
+                 Columna({Fila({lblTau4, Espacio()}), Disposicion(Graph2).Estira(1), Fila({Espacio(), lblTau3})})});
+}
+
+}  // namespace cuencalia

@@ -1,0 +1,114 @@
+#include "modules/comparacion/frmComparacion.h"
+
+#include "modules/distribuciones/frmDisGumbel.h"
+#include "tests/datos_publicados.h"
+#include "tests/forma_en_uso.h"
+
+namespace cuencalia::pruebas {
+namespace {
+
+class VentanaComparacion : public FormaEnUso<frmComparacion> {
+  protected:
+    VentanaComparacion() : FormaEnUso("frmComparacion") {}
+    void Recibir(const std::vector<double>& serie) {
+        app.Despachar([&] { F().RecibirSerie("Origen", serie); });
+    }
+    void Elegir(ComboBox& lista, const std::string& texto) {
+        app.Despachar([&] { lista.Text = texto; });
+    }
+    /// The row of a grid that begins with these texts; 0 when there is none.
+    static int Fila(const FlexGrid& grid, const std::string& primero, const std::string& segundo = {}) {
+        for (int f = 1; f < grid.Rows(); ++f) {
+            if (grid.TextMatrix(f, 0) == primero && (segundo.empty() || grid.TextMatrix(f, 1) == segundo)) {
+                return f;
+            }
+        }
+        return 0;
+    }
+};
+
+// Gumbel by moments of 1 to 4: alfa = 1.290994·√6/π = 1.006584, mu = 1.918984, Q100 = mu + 4.600149·alfa = 6.5494.
+TEST_F(VentanaComparacion, SeAbreConLaSerieDeUnAjuste) {
+    app.Despachar([this] { app.ModuloAbrir("frmDisGumbel"); });
+    auto& gumbel = dynamic_cast<frmDisGumbel&>(*app.Cargada("frmDisGumbel"));
+    EsperarMensaje(gumbel.bComparar, "Antes de comparar, ingresar datos", kIconoInformacion, "Mensaje de Error");
+    app.Despachar([&] {
+        gumbel.datos.grdt.PonerRows(6);
+        for (int i = 1; i <= 4; ++i) {
+            gumbel.datos.grdt.PonerTextMatrix(i, 1, Str(i == 1 ? 4 : i - 1));
+        }
+    });
+    app.Pulsar(gumbel.bComparar);
+    EsperarSilencio();
+    EXPECT_EQ(F().lblSerie.Caption(),
+              "Serie de 4 datos de la ventana «Ajuste de una serie de datos a la distribución Gumbel»");
+    EXPECT_EQ(F().grdSerie.TextMatrix(1, 1) + " " + F().grdSerie.TextMatrix(1, 2), "4.0 1.0");
+    const int diseno = Fila(F().grdDiseno, "Gumbel, Momentos ordinarios");
+    EXPECT_EQ(F().grdDiseno.TextMatrix(diseno, 9), "6.55");
+    const int candidato = Fila(F().grdCandidatos, "Gumbel", "Momentos ordinarios");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 2), "µ = 1.919; alfa = 1.0066");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 4), "") << "no significance before the resampling";
+    // A symmetric series: Pearson III has no greatest likelihood, is no fit, and has no design discharges.
+    const int imposible = Fila(F().grdCandidatos, "Gamma de 3 parámetros", "Máxima verosimilitud");
+    EXPECT_NE(F().grdCandidatos.TextMatrix(imposible, 12).find("no tiene máximo"), std::string::npos);
+    EXPECT_EQ(Fila(F().grdDiseno, "Gamma de 3 parámetros, Máxima verosimilitud"), 0);
+}
+
+TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
+    EsperarMensaje(F().bRemuestrear, "Efectuar cálculos antes de remuestrear", kIconoError, "Mensaje de Error");
+    Recibir(LeerColumna("rao_hamed_tippecanoe.csv"));
+    EXPECT_EQ(F().grdCandidatos.Rows(), 30);
+    Elegir(F().cmbOrden, "Anderson-Darling");
+    for (int f = 2; f < 27; ++f) {
+        EXPECT_LE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 5)), std::stod(F().grdCandidatos.TextMatrix(f, 5)));
+    }
+    // The exponential and the Pareto have data beyond their ends, and come last.
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 5), "∞");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 12), "Hay datos más allá del extremo de la distribución");
+    EXPECT_EQ(F().Graph1.NumSets(), 2);
+    app.Pulsar(F().bRemuestrear);
+    EsperarSilencio();
+    EXPECT_EQ(F().lblAvance.Caption(), "Límites del 90 % y significaciones por 1000 muestras, semilla 1");
+    const int normal = Fila(F().grdDiseno, "Normal, Momentos ordinarios");
+    EXPECT_EQ(F().grdDiseno.TextMatrix(normal + 1, 0), "   límite inferior 90 %");
+    for (int c = 1; c <= 13; ++c) {
+        const auto Q = [&](int fila) { return std::stod(F().grdDiseno.TextMatrix(fila, c)); };
+        EXPECT_LT(Q(normal + 1), Q(normal));
+        EXPECT_LT(Q(normal), Q(normal + 2));
+    }
+    EXPECT_EQ(F().Graph1.NumSets(), 4) << "data, curve and two limits";
+    Elegir(F().cmbCurva2, "Gumbel, Momentos lineales");
+    EXPECT_EQ(F().Graph1.NumSets(), 5);
+    const std::vector<double> x = LeerColumna("rao_hamed_tippecanoe.csv");
+    const double mayor = *std::max_element(x.begin(), x.end());
+    // On log-normal paper the greatest of 48 has z of p = 47.6/48.2, 2.2430, and its decimal logarithm.
+    Elegir(F().cmbPapel, "Log-normal");
+    const GraficoModulo::Conjunto& datos = F().Graph1.Conjuntos()[0];
+    EXPECT_TRUE(datos.sueltos);
+    EXPECT_NEAR(datos.x.at(47)->valor(), 2.243009, 1e-6);
+    EXPECT_NEAR(datos.y.at(47)->valor(), std::log10(mayor), 1e-9);
+    // Another plotting position measures anew and takes the resampling away.
+    Elegir(F().cmbPosicion, "Weibull");
+    EXPECT_EQ(F().grdDiseno.TextMatrix(2, 0).find("límite"), std::string::npos);
+    EXPECT_EQ(F().lblAvance.Caption(), "");
+}
+
+TEST_F(VentanaComparacion, SalenLasTablas) {
+    EsperarMensaje(F().bCalcular, "No hay serie: abrir la comparación desde la ventana de un ajuste con datos",
+                   kIconoInformacion, "Comparación de ajustes");
+    Recibir({0, 2, 3, 5, 9});
+    app.Pulsar(F().bCrearExcel);
+    // The series below its headings, as numbers; the tests after an empty row, in row 8 their headings.
+    EXPECT_EQ(sistema.libro.Cells(2, 2), ValorCelda(Double(0)));
+    EXPECT_EQ(sistema.libro.Cells(8, 1), ValorCelda(std::string("Prueba")));
+    app.Pulsar(F().bCopiar);
+    EXPECT_NE(sistema.TextoDelPortapapeles().find("Hay valores que no son mayores que 0"), std::string::npos);
+    app.Pulsar(F().bReporte);
+    app.Pulsar(F().bLimpiar);
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(1, 0), "");
+    EXPECT_FALSE(F().Graph2.EsVisible());
+    EsperarSilencio();
+}
+
+}  // namespace
+}  // namespace cuencalia::pruebas
