@@ -1,5 +1,6 @@
 #include "modules/comparacion/frmComparacion.h"
 
+#include "frame/base/textos.h"
 #include "modules/distribuciones/frmDisGumbel.h"
 #include "tests/datos_publicados.h"
 #include "tests/forma_en_uso.h"
@@ -15,6 +16,9 @@ class VentanaComparacion : public FormaEnUso<frmComparacion> {
     }
     void Elegir(ComboBox& lista, const std::string& texto) {
         app.Despachar([&] { lista.Text = texto; });
+    }
+    void Ficha(int pagina) {
+        app.Despachar([&] { F().SSTab1.Tab = pagina; });
     }
     /// The row of a grid that begins with these texts; 0 when there is none.
     static int Fila(const FlexGrid& grid, const std::string& primero, const std::string& segundo = {}) {
@@ -55,6 +59,7 @@ TEST_F(VentanaComparacion, SeAbreConLaSerieDeUnAjuste) {
 }
 
 TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
+    Ficha(2);
     EsperarMensaje(F().bRemuestrear, "Efectuar cálculos antes de remuestrear", kIconoError, "Mensaje de Error");
     Recibir(LeerColumna("rao_hamed_tippecanoe.csv"));
     EXPECT_EQ(F().grdCandidatos.Rows(), 30);
@@ -97,6 +102,7 @@ TEST_F(VentanaComparacion, SalenLasTablas) {
     EsperarMensaje(F().bCalcular, "No hay serie: abrir la comparación desde la ventana de un ajuste con datos",
                    kIconoInformacion, "Comparación de ajustes");
     Recibir({0, 2, 3, 5, 9});
+    Ficha(1);
     app.Pulsar(F().bCrearExcel);
     // The series below its headings, as numbers; the tests after an empty row, in row 8 their headings.
     EXPECT_EQ(sistema.libro.Cells(2, 2), ValorCelda(Double(0)));
