@@ -284,7 +284,10 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     if (!area) {
         // A symbol on a line is filled with the paper colour, so that it stands out; a lone symbol is not filled, so
         // that it does not hide a symbol of another set at the same place.
-        const QBrush dentro = sueltos ? QBrush(Qt::NoBrush) : QBrush(tinta.papel);
+        // Lone symbols among lines are full, for a line may have the same symbol.
+        const QBrush dentro = grafico.Conjuntos()[conjunto].sueltos ? QBrush(color)
+                              : sueltos                             ? QBrush(Qt::NoBrush)
+                                                                    : QBrush(tinta.papel);
         trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), dentro, kLadoSimbolo});
         trazo->setScatterSkip(sueltos || n <= kSimbolosTodos ? 0 : n / kSimbolosPorLinea);
     }

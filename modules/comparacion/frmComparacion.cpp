@@ -88,7 +88,8 @@ frmComparacion::frmComparacion(Aplicacion& app)
                                   {"Error", 1000},
                                   {"p", 700},
                                   {"AIC", 1000},
-                                  {"Observación", 5000}}}),
+                                  {"Observación", 5000}},
+                     .columnasFijas = 1}),
       grdDiseno(*this, "grdDiseno", "Caudales de diseño",
                 {.filas = 2, .columnas = ColumnasDeDiseno(), .columnasFijas = 1}),
       cmbPosicion(*this, "cmbPosicion", NombresDePosiciones()),
@@ -527,14 +528,16 @@ Disposicion frmComparacion::Cuerpo() {
         Grupo(fraRemuestreo,
               {Fila({lblNivel, cmbNivel, lblSemilla, txtSemilla, bRemuestrear, bCancelar, Espacio()}), lblAvance});
     return Fichas(
-        SSTab1, {Columna({lblSerie, Fila({grdSerie, Disposicion(grdPruebas).Estira(1)}).Estira(1)}),
-                 Columna({Fila({lblOrden, cmbOrden, Espacio(), bCopiar, bCrearExcel}),
-                          Disposicion(grdCandidatos).Estira(1), lblCautela}),
-                 Columna({std::move(remuestreo), Disposicion(grdDiseno).Estira(1)}),
-                 Columna({Fila({lblPapel, cmbPapel, lblPosicion, cmbPosicion, lblCurva, cmbCurva, lblCurva2, cmbCurva2,
-                                Espacio()}),
-                          Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})}),
-                 Columna({Fila({lblTau4, Espacio()}), Disposicion(Graph2).Estira(1), Fila({Espacio(), lblTau3})})});
+        SSTab1,
+        {Columna({lblSerie,
+                  Fila({Columna({Disposicion(grdSerie).Estira(1)}), Disposicion(grdPruebas).Estira(1)}).Estira(1)}),
+         Columna({Fila({lblOrden, cmbOrden, Espacio(), bCopiar, bCrearExcel}), Disposicion(grdCandidatos).Estira(1),
+                  lblCautela}),
+         Columna({std::move(remuestreo), Disposicion(grdDiseno).Estira(1)}),
+         Columna(
+             {Fila({lblPapel, cmbPapel, lblPosicion, cmbPosicion, lblCurva, cmbCurva, lblCurva2, cmbCurva2, Espacio()}),
+              Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})}),
+         Columna({Fila({lblTau4, Espacio()}), Disposicion(Graph2).Estira(1), Fila({Espacio(), lblTau3})})});
 }
 
 }  // namespace cuencalia

@@ -157,7 +157,7 @@ Atipicos GrubbsBeck(std::span<const double> x) {
     a.prueba.sentencia =
         "p = " + Format(a.prueba.p, "0.000") + ": " +
         (a.bajos + a.altos == 0 ? "ningún valor atípico"
-                                : std::to_string(a.bajos) + " bajos y " + std::to_string(a.altos) + " altos") +
+                                : "valores bajos, " + std::to_string(a.bajos) + "; altos, " + std::to_string(a.altos)) +
         " (límites " + Format(a.inferior, "0.0#") + " y " + Format(a.superior, "0.0#") + ", 10 %)";
     return a;
 }
