@@ -16,9 +16,10 @@ Double TiempoKirpich(Single L, Single H) {
     return 0.0195 * Elevar(l * l * l / H, 0.385);
 }
 
-Ponderacion PonderarC(const std::vector<GrupoSuelo>& grupos) {
+Ponderacion PonderarC(const ArregloBase<GrupoSuelo>& grupos, int n) {
     Double CA = 0, A = 0;
-    for (const GrupoSuelo& grupo : grupos) {
+    for (int i = 1; i <= n; ++i) {
+        const GrupoSuelo& grupo = grupos(i);
         CA += Decimal(grupo.C) * Decimal(grupo.area);
         A += Decimal(grupo.area);
     }

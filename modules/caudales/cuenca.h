@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "frame/base/numeros.h"
 
 namespace cuencalia {
@@ -23,7 +21,7 @@ struct Ponderacion {
     Double area;  ///< Sum, hectares.
 };
 
-/// Error 6 when the areas add up to 0, as those of no group do.
-Ponderacion PonderarC(const std::vector<GrupoSuelo>& grupos);
+/// Of groups 1 to n. Error 6 when the areas add up to 0, as those of no group do; 9 when there are not so many.
+Ponderacion PonderarC(const ArregloBase<GrupoSuelo>& grupos, int n);
 
 }  // namespace cuencalia

@@ -46,7 +46,8 @@ FichaC::FichaC(MarcoModulo& modulo, const TablasDeC& tablas, FichaQ& destino)
       total(modulo, {"txtatotal", "Area total:", "has"}),
       modulo_(modulo),
       tablas_(tablas),
-      destino_(destino) {
+      destino_(destino),
+      grupos_(1, tablas.gruposMaximos) {
     for (const ListaSuelo& lista : tablas.listas) {
         listas.push_back(std::make_unique<Lista>(modulo, lista));
     }
@@ -61,7 +62,7 @@ FichaC::FichaC(MarcoModulo& modulo, const TablasDeC& tablas, FichaQ& destino)
 }
 
 void FichaC::ReiniciarC() {
-    grupos_.clear();
+    ngrupos_ = 0;
     grupo.caja.Text = "1";
     grdC.Iniciar();
     for (Campo* campo : {&area, &pendiente, &ponderado, &total}) {
@@ -79,25 +80,22 @@ void FichaC::bAgregar_Click() {
         (tablas_.faltaPendiente && !Exigir(pendiente.caja, *tablas_.faltaPendiente))) {
         return;
     }
+    GrupoSuelo& nuevo = grupos_(++ngrupos_);
+    nuevo.area = CSng(Val(area.caja.Text()));
     std::vector<std::string> textos;
     for (const auto& lista : listas) {
         textos.push_back(lista->combo.Text);
     }
     const GrupoClasificado clase = tablas_.clasificar(textos, Val(pendiente.caja.Text()));
-    const GrupoSuelo nuevo{CSng(Val(area.caja.Text())), CSng(clase.C)};
-    if (static_cast<int>(grupos_.size()) == tablas_.gruposMaximos) {
-        throw ErrorEjecucion(kSubindiceFuera);
-    }
-    grupos_.push_back(nuevo);
-    const int numero = static_cast<int>(grupos_.size());
-    if (numero >= kFilasTabla) {
+    nuevo.C = CSng(clase.C);
+    if (ngrupos_ >= kFilasTabla) {
         Avisar("La tabla admite 49 grupos: los demás cuentan en el C ponderado, pero no se ven");
     } else {
         Avisar(clase.C == 0 ? "Los textos elegidos no están en las tablas: C = 0" : "");
     }
-    grdC.PonerFila(numero,
-                   {CStr(numero), CStr(nuevo.area), clase.cobertura, clase.textura, clase.pendiente, CStr(nuevo.C)});
-    grupo.caja.Text = CStr(numero + 1);
+    grdC.PonerFila(ngrupos_,
+                   {CStr(ngrupos_), CStr(nuevo.area), clase.cobertura, clase.textura, clase.pendiente, CStr(nuevo.C)});
+    grupo.caja.Text = CStr(ngrupos_ + 1);
     area.caja.Text = "";
     pendiente.caja.Text = "";
     for (std::size_t i = 0; i < listas.size(); ++i) {
@@ -109,8 +107,10 @@ void FichaC::bAgregar_Click() {
 }
 
 void FichaC::bCponderado_Click() {
-    Avisar(grupos_.empty() ? "No hay grupos: agregar por lo menos uno" : "");
-    const Ponderacion p = PonderarC(grupos_);
+    Avisar(ngrupos_ == 0                 ? "No hay grupos: agregar por lo menos uno"
+           : ngrupos_ > grupos_.UBound() ? "Hay más de " + CStr(grupos_.UBound()) + " grupos: limpiar y agregar menos"
+                                         : "");
+    const Ponderacion p = PonderarC(grupos_, ngrupos_);
     ponderado.caja.Text = Format(p.C, "0.0#");
     destino_.C.caja.Text = ponderado.caja.Text();
     total.caja.Text = CStr(p.area);
@@ -125,7 +125,7 @@ void FichaC::Reportar(Reporte& reporte) {
     }
     reporte.EscribirTabla(
         {.titulo = tablas_.tituloReporte, .regla = 140, .encabezado = encabezado, .celda = CeldaDeGrupo}, grdC,
-        static_cast<int>(grupos_.size()));
+        ngrupos_);
     reporte.ReporteLinea(Space(25) + "C ponderado:" + ponderado.caja.Text());
     reporte.ReporteLinea(Space(27) + "Area total:" + total.caja.Text() + " has");
     reporte.ReporteBlanco();

@@ -47,7 +47,8 @@ class FichaC {
     MarcoModulo& modulo_;
     TablasDeC tablas_;
     FichaQ& destino_;
-    std::vector<GrupoSuelo> grupos_;
+    ArregloBase<GrupoSuelo> grupos_;
+    int ngrupos_ = 0;  ///< Groups begun: one whose area or place in the arrays failed counts too.
 };
 
 }  // namespace cuencalia

@@ -66,7 +66,10 @@ TEST(Cuenca, TiempoYPonderacion) {
     EXPECT_NEAR(TiempoKirpich(1000, 100).valor(), 9.6612786, 1e-6);
     EXPECT_EQ(NumeroDeError([] { return TiempoKirpich(1000, 0); }), 11);
     // Each pair has a half as its third digit, and areas that no Single holds.
-    const Ponderacion p = PonderarC({{10.1F, 0.35F}, {10.1F, 0.5F}});
+    ArregloBase<GrupoSuelo> grupos(1, 2);
+    grupos(1) = {10.1F, 0.35F};
+    grupos(2) = {10.1F, 0.5F};
+    const Ponderacion p = PonderarC(grupos, 2);
     EXPECT_NEAR(p.C.valor(), 0.425, 1e-15);
     EXPECT_NEAR(p.area.valor(), 20.2, 1e-14);
 }
@@ -101,10 +104,15 @@ TEST_F(GruposTest, LosQueNoCabenEnLaTablaCuentan) {
               "La tabla admite 49 grupos: los demás cuentan en el C ponderado, pero no se ven");
     EXPECT_EQ(F().fichaC.area.caja.Text(), "0.1");
     EXPECT_EQ(Ponderar(), "0.1 5");
-    for (int i = 51; i <= 151; ++i) {
+    for (int i = 51; i <= 150; ++i) {
         Agregar("0.1");
     }
     EXPECT_EQ(Ponderar(), "0.1 15");
+    // A group without room counts all the same, so there is no mean any more.
+    Agregar("0.1");
+    sistema.errores.clear();
+    EXPECT_EQ(Ponderar(), "0.1 15");
+    EXPECT_EQ(NumerosDe(sistema.errores), std::vector{9});
     sistema.errores.clear();
     // The report has no rows to read beyond the 49th.
     EsperarMensaje(F().bReporte, "No se puede editar el reporte: " + F().Caption(), 64, "Mensaje de error");
