@@ -59,10 +59,11 @@ void ModuloMensual::CargarMatrices() {
         Advertir("No se leyeron los datos: quedan los de la lectura anterior");
         return;
     }
-    ModuloCalculo::CargarMatrices();
+    // First: a row too many ends the reading behind the twelfth month, which stays read with its name.
     for (int m = 1; m <= 12; ++m) {
         nombreMes(m) = datos.grdt.TextMatrix(m, 0);
     }
+    ModuloCalculo::CargarMatrices();
 }
 
 std::string ModuloMensual::Consejo(const ErrorEjecucion& error) const {
