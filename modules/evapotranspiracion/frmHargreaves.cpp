@@ -1,5 +1,6 @@
 #include "modules/evapotranspiracion/frmHargreaves.h"
 
+#include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
 #include "modules/evapotranspiracion/radiacion.h"
 
@@ -81,7 +82,7 @@ bool frmHargreaves::LeerKc() {
         Kc = KcDeCultivo(elegida.etapa, posicion);
     } else {
         App().MsgBox({"Ingresar dato de Kc del cultivo", kIconoInformacion, "Error"});
-        Avisar("Sin cultivo elegido, ETc se calculó con Kc = " + TextoKc());
+        Avisar("Sin cultivo elegido, ETc se calculó con Kc = " + CStr(Kc));
     }
     return true;
 }
@@ -118,8 +119,6 @@ void frmHargreaves::LimpiarOtros() {
     InicializarDatosKc();
 }
 
-std::string frmHargreaves::TextoKc() const { return Format(Kc, "0.0#####"); }
-
 void frmHargreaves::GenerarReporte(Reporte& reporte) {
     reporte.ReporteLinea("Datos: ");
     reporte.ReporteLinea(RenglonLatitud());
@@ -127,7 +126,7 @@ void frmHargreaves::GenerarReporte(Reporte& reporte) {
     for (const std::size_t i : {0U, 1U}) {
         reporte.ReporteLinea(temperaturas.Renglon(i));
     }
-    reporte.ReporteLinea(" Coeficiente del cultivo: Kc = " + TextoKc());
+    reporte.ReporteLinea(" Coeficiente del cultivo: Kc = " + CStr(Kc));
     reporte.ReporteLinea(" Resultados:");
     for (const std::size_t i : {0U, 1U, 2U}) {
         reporte.ReporteLinea(resultados.Renglon(i));

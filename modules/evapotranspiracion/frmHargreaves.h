@@ -61,7 +61,6 @@ class frmHargreaves : public MarcoRadiacion {
     const Etapa& EtapaElegida() const;
     /// Takes Kc from the list or from its box; false, after the user was told, when the box is empty.
     bool LeerKc();
-    std::string TextoKc() const;
 
     const Etapa etapas_[3]{{EtapaCultivo::Inicial, OptInicio, cobKcIni},
                            {EtapaCultivo::Mediados, OptMediano, cobKcMed},
