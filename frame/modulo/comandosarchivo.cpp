@@ -167,6 +167,8 @@ void ComandosArchivo::bCargarExcel_Click() {
             }
         }
         Terminar(filas);
+        // Unlike a file, a sheet is read at once: a module that will refuse so few rows goes on with them.
+        modulo_.ModuloCalculo::CargarMatrices();
         if (const int textos = modulo_.datos.grdt.Marcadas(); textos > 0) {
             Avisar(std::to_string(textos) +
                    (textos == 1 ? " celda marcada no es un número y cuenta"

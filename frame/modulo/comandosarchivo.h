@@ -31,7 +31,7 @@ class ComandosArchivo {
     void bCrear_Click();
     /// Reads a series file into the grid.
     void bAccesar_Click();
-    /// Reads the first sheet of a workbook, from A1 to the first empty cell of column A, into the grid.
+    /// Reads the first sheet of a workbook, from A1 to the first empty cell of column A, into the grid and the arrays.
     void bCargarExcel_Click();
 
   private:

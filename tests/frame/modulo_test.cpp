@@ -468,6 +468,7 @@ TEST_F(ArchivosModuloTest, ColaCabezaYEtiquetas) {
     EXPECT_TRUE(F().StatusBar1.Panel(2).starts_with("1 celda marcada no es un número")) << F().StatusBar1.Panel(2);
     EXPECT_EQ(sistema.filtroDialogo, "Archivos de Excel 97-2003|*.xls|Archivos de Excel 07-2010|*.xlsx");
     EXPECT_EQ(F().txtMargen.Text(), "7.0");
+    EXPECT_EQ(F().t(1), Single(1.3F)) << "read, as the grid shows it, before any calculation";
     EXPECT_TRUE(TrasPulsar(a.bCargarExcel, Libro(trece)).ends_with("Dic,1.3|[->],| @13,1"));
     std::vector<ValorCelda> catorce = trece;
     catorce.emplace_back(Double(1));
