@@ -25,6 +25,7 @@ class frmBalanceHidro : public ModuloMensual {
     void Calcular() override;
     void LimpiarOtros() override;
     std::vector<SerieGrafico> Curvas() const override;
+    std::string RotuloDeMes(int mes) const override { return std::to_string(mes); }
     Disposicion Contenido() override;
 
   private:

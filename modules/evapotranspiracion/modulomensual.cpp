@@ -83,13 +83,15 @@ void ModuloMensual::LimpiarOtros() {
     Graph1.LimpiarGrafico();
 }
 
+std::string ModuloMensual::RotuloDeMes(int mes) const { return MesCorto(mes); }
+
 void ModuloMensual::bGraficar_Click() {
     if (!ExigirCalculo()) {
         return;
     }
     std::vector<std::string> meses;
     for (int m = 1; m <= 12; ++m) {
-        meses.push_back(MesCorto(m));
+        meses.push_back(RotuloDeMes(m));
     }
     GraficoDibujar(Graph1, {.fondo = fondo_, .conTrama = true, .nombres = std::move(meses)}, Curvas());
 }

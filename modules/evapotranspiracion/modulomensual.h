@@ -49,6 +49,8 @@ class ModuloMensual : public ModuloCalculo {
     void ElegirLatitud();
     /// The sets of the chart, twelve values each.
     virtual std::vector<SerieGrafico> Curvas() const = 0;
+    /// What stands at the chart's axis for a month from 1 to 12.
+    virtual std::string RotuloDeMes(int mes) const;
 
     /// Layout of the latitude, and of the chart with the names of its axes.
     Disposicion Latitud();
