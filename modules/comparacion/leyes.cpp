@@ -73,6 +73,9 @@ double CuantilNormal(double p) {
 }
 
 double LogGamma(double x) {
+    if (!(x > 0)) {
+        return std::nan("");
+    }
     double producto = 1;
     for (; x < 10; ++x) {
         producto *= x;
@@ -83,6 +86,9 @@ double LogGamma(double x) {
 }
 
 double Digamma(double x) {
+    if (!(x > 0)) {
+        return std::nan("");
+    }
     double suma = 0;
     for (; x < 12; ++x) {
         suma += 1 / x;
@@ -93,6 +99,9 @@ double Digamma(double x) {
 }
 
 double Trigamma(double x) {
+    if (!(x > 0)) {
+        return std::nan("");
+    }
     double suma = 0;
     for (; x < 12; ++x) {
         suma += 1 / (x * x);

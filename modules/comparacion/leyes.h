@@ -14,9 +14,9 @@ double ProbabilidadNormal(double z);
 /// 1e-14.
 double CuantilNormal(double p);
 
-/// Logarithm of the gamma function, its derivative and the second one, for x > 0, by their asymptotic series behind a
-/// recurrence. Errors below 3e-14, relative to the greater of the value and 1 (near a zero) for the first two.
-/// Source: Abramowitz and Stegun (1964), 6.1.40, 6.3.18, 6.4.12.
+/// Logarithm of the gamma function, its derivative and the second one, for x > 0 (NaN elsewhere), by their asymptotic
+/// series behind a recurrence. Errors below 3e-14, relative to the greater of the value and 1 (near a zero) for the
+/// first two. Source: Abramowitz and Stegun (1964), 6.1.40, 6.3.18, 6.4.12.
 double LogGamma(double x);
 double Digamma(double x);
 double Trigamma(double x);

@@ -17,10 +17,15 @@ namespace {
 constexpr double kNivel = 0.05;
 constexpr double kNada = std::numeric_limits<double>::quiet_NaN();
 
+constexpr const char* kFueraDeAlcance = "No se puede efectuar: los valores son demasiado grandes o pequeños";
+
 double DosLados(double z) { return 2 * ProbabilidadNormal(-std::fabs(z)); }
 
 /// "p = 0.032: <what that means>".
 std::string Sentencia(double p, const std::string& siSeRechaza, const std::string& siNo) {
+    if (!std::isfinite(p)) {
+        return kFueraDeAlcance;
+    }
     return "p = " + Format(p, "0.000") + ": " + (p < kNivel ? siSeRechaza : siNo);
 }
 
@@ -143,6 +148,10 @@ Atipicos GrubbsBeck(std::span<const double> x) {
     const double K = -0.9043 + 3.345 * std::sqrt(logN) - 0.4046 * logN;
     a.inferior = std::pow(10, m.media - K * m.desviacion);
     a.superior = std::pow(10, m.media + K * m.desviacion);
+    if (!(std::isfinite(a.inferior) && std::isfinite(a.superior))) {
+        a.prueba.sentencia = kFueraDeAlcance;
+        return a;
+    }
     double lejos = 0;
     for (const double yi : y) {
         const double w = (yi - m.media) / m.desviacion;

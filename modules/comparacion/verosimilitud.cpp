@@ -12,6 +12,9 @@ namespace {
 
 /// The shape whose ln(a) - psi(a) is s > 0.
 double FormaGamma(double s) {
+    if (!(s > 0)) {  // the spread is lost among the rounding
+        return std::nan("");
+    }
     // The first approximation has an error of 1.5 %; Newton's iteration in 1/a converges from there on both sides.
     double a = (3 - s + std::sqrt((s - 3) * (s - 3) + 24 * s)) / (12 * s);
     for (int vez = 0; vez < 20; ++vez) {

@@ -251,6 +251,12 @@ TEST(Candidatos, DicenPorQueNo) {
     EXPECT_EQ(motivos({}, todos), 29);
     // Log-normal of 2, log-Pearson and log-Gumbel, three times each.
     EXPECT_EQ(motivos({0, 1, 2, 3.5, 7}, logaritmos), 9);
+    // At the end of the digits or of the range of numbers nothing fails, and no search goes on for ever.
+    for (const Valores& x : {Valores{1e15, 1e15 + 0.125, 1e15 + 0.25, 1e15 + 1}, Valores{1e300, 2e300, 3e300, 7e300},
+                             Valores{1e-300, 2e-300, 4e-300, 9e-300}}) {
+        EXPECT_GE(motivos(x, todos), 0);
+        EXPECT_EQ(ProbarSerie(x).size(), 5U);
+    }
     // Symmetric: no greatest likelihood inside for the two of three parameters, and a normal distribution by moments.
     const Valores simetrica{-3, -2, -1, 0, 1, 2, 3};
     const auto maxima = [](const Candidato& c) {
