@@ -128,7 +128,19 @@ class Mono : public QObject {
         const auto tecla = static_cast<Qt::Key>(Uno(kTeclas));
         const Qt::KeyboardModifier con = Uno(kCon);
         Contar(foco, QStringLiteral("tecla %1 %2").arg(con).arg(tecla));
-        QTest::keyClick(foco, tecla, con);
+        const QPointer<QWidget> vivo(foco);
+        QTest::keyPress(foco, tecla, con);
+        if (vivo) {
+            QTest::keyRelease(foco, tecla, con);
+        }
+    }
+
+    static void Clic(QWidget* lugar, Qt::MouseButton boton, QPoint punto) {
+        const QPointer<QWidget> vivo(lugar);
+        QTest::mousePress(lugar, boton, {}, punto);
+        if (vivo) {
+            QTest::mouseRelease(lugar, boton, {}, punto);
+        }
     }
 
     void Pulsar(QWidget& ventana) {
@@ -148,10 +160,18 @@ class Mono : public QObject {
         const int acto = Menor(12);
         Contar(lugar, QStringLiteral("ratón %1 en %2, %3").arg(acto).arg(punto.x()).arg(punto.y()));
         switch (acto) {
-            case 0:
-                return QTest::mouseDClick(lugar, Qt::LeftButton, {}, punto);
+            case 0: {
+                const QPointer<QWidget> vivo(lugar);
+                Clic(lugar, Qt::LeftButton, punto);
+                if (vivo) {
+                    QMouseEvent doble(QEvent::MouseButtonDblClick, punto, lugar->mapToGlobal(punto), Qt::LeftButton,
+                                      Qt::LeftButton, {});
+                    QApplication::sendEvent(lugar, &doble);
+                }
+                return;
+            }
             case 1:
-                return QTest::mouseClick(lugar, Qt::RightButton, {}, punto);
+                return Clic(lugar, Qt::RightButton, punto);
             case 2: {
                 QWheelEvent rueda(punto, lugar->mapToGlobal(punto), {}, {0, Menor(2) == 0 ? 120 : -120}, {}, {},
                                   Qt::NoScrollPhase, false);
@@ -159,8 +179,8 @@ class Mono : public QObject {
                 return;
             }
             case 3:
-                QTest::mousePress(lugar, Qt::LeftButton, {}, punto);
-                return QTest::mouseMove(lugar, {Menor(lugar->width()), Menor(lugar->height())});
+                // A press without its release, as when the pointer leaves the window.
+                return QTest::mousePress(lugar, Qt::LeftButton, {}, punto);
             case 4:
                 if (Menor(4) == 0) {
                     ventana.isWindow() && Menor(3) == 0 ? void(ventana.close())
@@ -168,7 +188,7 @@ class Mono : public QObject {
                 }
                 return;
             default:
-                return QTest::mouseClick(lugar, Qt::LeftButton, {}, punto);
+                return Clic(lugar, Qt::LeftButton, punto);
         }
     }
 
