@@ -86,6 +86,10 @@ void EditorTextoRico::SelRightIndent(int twips) {
     CambiarParrafos([twips](FormatoParrafo& formato) { formato.sangriaDerecha = twips; });
 }
 
+void EditorTextoRico::SelTabs(const std::vector<int>& twips) {
+    CambiarParrafos([&twips](FormatoParrafo& formato) { formato.tabuladores = twips; });
+}
+
 void EditorTextoRico::SelAlignment(int alineacion) {
     if (alineacion < 0 || alineacion > static_cast<int>(Alineacion::kJustificada)) {
         throw ErrorEjecucion(kArgumentoNoValido);

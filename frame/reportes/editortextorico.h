@@ -41,6 +41,8 @@ class EditorTextoRico {
     /// Right indent in twips, for the same paragraphs as SelIndent.
     int SelRightIndent() const { return ParrafoActual().formato.sangriaDerecha; }
     void SelRightIndent(int twips);
+    /// Tab stops of the same paragraphs, in twips from the margin; none: those of every half inch.
+    void SelTabs(const std::vector<int>& twips);
     /// Alignment of the same paragraphs as SelIndent: 0 left, 1 right, 2 centred, 3 justified. Error 5 for another
     /// value.
     int SelAlignment() const { return static_cast<int>(ParrafoActual().formato.alineacion); }

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kIzquierda = 0;
 constexpr int kCentro = 2;
+constexpr int kAnchoCaracter = 118;  // twips; 120 on paper, 117 on a screen whose font has whole pixels
 
 }  // namespace
 
@@ -47,6 +48,15 @@ void Reporte::Titulo(std::string_view titulo) {
     ReporteBlanco();
 }
 
+void Reporte::PonerParadas(const std::vector<int>& caracteres) {
+    std::vector<int> twips;
+    twips.reserve(caracteres.size());
+    for (const int caracter : caracteres) {
+        twips.push_back(kMargenReporte + caracter * kAnchoCaracter);
+    }
+    documento_.SelTabs(twips);
+}
+
 void Reporte::EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta) {
     Titulo(tabla.titulo);
     LineaDeGuiones(tabla.regla);
@@ -54,6 +64,9 @@ void Reporte::EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta) {
     LineaDeGuiones(tabla.regla);
     const int fin = tabla.columnas > 0 ? tabla.primeraColumna + tabla.columnas : grid.Cols();
     std::string linea;
+    if (!tabla.paradas.empty()) {
+        PonerParadas(tabla.paradas);
+    }
     for (int fila = tabla.primeraFila; fila <= hasta; ++fila) {
         linea.clear();
         for (int c = tabla.primeraColumna; c < fin; ++c) {
@@ -63,6 +76,9 @@ void Reporte::EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta) {
             linea += tabla.celda(grid.TextMatrix(fila, c), fila, c);
         }
         ReporteTexto(linea += '\n');
+    }
+    if (!tabla.paradas.empty()) {
+        PonerParadas({});
     }
     LineaDeGuiones(tabla.reglaFinal > 0 ? tabla.reglaFinal : tabla.regla);
     ReporteBlanco();
@@ -83,6 +99,18 @@ std::string UnirEncabezados(const std::vector<std::string>& encabezados, std::st
         linea.append(encabezado).append(tras);
     }
     return linea;
+}
+
+std::vector<int> ParadasBajo(const std::vector<std::string>& encabezados) {
+    std::vector<int> paradas;
+    int lugar = 0;
+    for (const std::string& encabezado : encabezados) {
+        if (lugar > 0) {
+            paradas.push_back(lugar + static_cast<int>(encabezado.find_first_not_of(' ')));
+        }
+        lugar += Len(encabezado);
+    }
+    return paradas;
 }
 
 Reporte::Celda CeldaSeguidaDe(std::string tras) {

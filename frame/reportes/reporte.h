@@ -29,6 +29,8 @@ class Reporte {
         int columnas = 0;        ///< Number of columns written; 0: all up to the last one.
         int reglaFinal = 0;      ///< Dashes of the rule below the rows; 0: as many as in `regla`.
         bool conCursor = false;  ///< Whether each cell written becomes the grid's current cell.
+        /// Tab stops of the rows, in characters; none: those of the document, which cells may outgrow.
+        std::vector<int> paradas = {};
     };
 
     explicit Reporte(EditorTextoRico& documento) : documento_(documento) {}
@@ -53,6 +55,8 @@ class Reporte {
     void EscribirTabla(const Tabla& tabla, FlexGrid& grid, int hasta);
 
   private:
+    void PonerParadas(const std::vector<int>& caracteres);
+
     EditorTextoRico& documento_;
 };
 
@@ -61,6 +65,8 @@ Reporte::Tabla TablaDeSerie(std::string titulo, const std::vector<std::string>& 
 
 /// The headings joined, each followed by `tras`.
 std::string UnirEncabezados(const std::vector<std::string>& encabezados, std::string_view tras);
+/// Where the words of each heading but the first begin, in characters, when the headings stand one behind the other.
+std::vector<int> ParadasBajo(const std::vector<std::string>& encabezados);
 /// Writes each cell followed by `tras`.
 Reporte::Celda CeldaSeguidaDe(std::string tras);
 /// Writes each cell centred by blanks in `ancho` characters, preceded by `extra` more blanks.

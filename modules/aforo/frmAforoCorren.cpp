@@ -144,7 +144,8 @@ void frmAforoCorren::GenerarReporte(Reporte& reporte) {
     reporte.EscribirTabla({.titulo = "Resultados para los tramos de la sección transversal:",
                            .regla = 95,
                            .encabezado = " Tramo\t Área (m2)\t Velocidad (m/s)\t Caudal (m3/s) \t",
-                           .celda = [](const std::string& texto, int, int) { return "  " + texto + "\t\t"; }},
+                           .celda = [](const std::string& texto, int, int) { return "  " + texto + "\t\t"; },
+                           .paradas = {11, 12, 23, 24, 35, 36}},
                           grdavq, n);
     reporte.ReporteLinea("Caudal total de la sección: Q = " + txtQ.Text() + " m3/s");
     reporte.ReporteBlanco();

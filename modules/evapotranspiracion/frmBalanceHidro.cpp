@@ -95,15 +95,16 @@ void frmBalanceHidro::GenerarReporte(Reporte& reporte) {
                           datos.grdt, datos.Filas());
     reporte.Titulo("Resultado del cálculo del balance hídrico, método de Thornthwaite:");
     reporte.ReporteLinea(" Exponente (a) = " + txta.Text());
-    std::string meses = Space(13);
+    std::vector<std::string> meses{Space(13)};
     for (int m = 1; m <= 12; ++m) {
-        meses += Space(7) + MesCorto(m);
+        meses.push_back(Space(7) + MesCorto(m));
     }
     reporte.EscribirTabla({.titulo = " Indice de calor anual (I) = " + grddis.TextMatrix(2, kColumnaAno),
                            .regla = kReglaBalance,
-                           .encabezado = meses,
+                           .encabezado = UnirEncabezados(meses, ""),
                            .celda = CeldaSeguidaDe("\t"),
-                           .columnas = kColumnaAno},
+                           .columnas = kColumnaAno,
+                           .paradas = ParadasBajo(meses)},
                           grddis, kFilas);
 }
 

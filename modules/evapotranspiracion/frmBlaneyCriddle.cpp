@@ -166,13 +166,18 @@ void frmBlaneyCriddle::GenerarReporte(Reporte& reporte) {
     reporte.ReporteLinea(" Velocidad del viento: " + (estimado ? cobViento.Text() : txtcv.Text()) + " Km/hr");
     reporte.ReporteLinea(" Kc: " + CStr(Kc));
     reporte.ReporteBlanco();
+    const std::vector<std::string> encabezados{"Mes  ",
+                                               "  Temperatura   ",
+                                               "           P(%)   ",
+                                               "       ETo diaria (mm)   ",
+                                               "   ETr diaria (mm)   ",
+                                               "   ETr mensual (mm)   "};
     reporte.EscribirTabla(
         {.titulo = "Resultado del cálculo de la evapotranspiración potencial, método de Blaney-Criddle:",
          .regla = kReglaResultados,
-         .encabezado = UnirEncabezados({"Mes  ", "  Temperatura   ", "           P(%)   ", "       ETo diaria (mm)   ",
-                                        "   ETr diaria (mm)   ", "   ETr mensual (mm)   "},
-                                       ""),
-         .celda = CeldaSeguidaDe("\t")},
+         .encabezado = UnirEncabezados(encabezados, ""),
+         .celda = CeldaSeguidaDe("\t"),
+         .paradas = ParadasBajo(encabezados)},
         grddis, 12);
 }
 

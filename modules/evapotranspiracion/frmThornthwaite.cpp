@@ -47,14 +47,15 @@ void frmThornthwaite::GenerarReporte(Reporte& reporte) {
     reporte.EscribirTabla(TablaDeTemperaturas(), datos.grdt, datos.Filas());
     reporte.Titulo("Resultado del cálculo de la evapotranspiración potencial, método de Thornthwaite:");
     reporte.ReporteLinea(" Indice térmico anual (I) = " + txti.Text());
-    reporte.EscribirTabla(
-        {.titulo = " Exponente (a) = " + txta.Text(),
-         .regla = kReglaResultados,
-         .encabezado = UnirEncabezados({"Mes  ", "          Temperatura   ", "          Indice   ", "          ETo   ",
-                                        "          Factor f ", "          ETr mensual   ", "    ETr diaria (mm) "},
-                                       ""),
-         .celda = CeldaSeguidaDe("\t")},
-        grddis, 12);
+    const std::vector<std::string> encabezados{
+        "Mes  ",        "          Temperatura   ", "          Indice   ", "          ETo   ", "          Factor f ",
+        "          ETr mensual   ", "    ETr diaria (mm) "};
+    reporte.EscribirTabla({.titulo = " Exponente (a) = " + txta.Text(),
+                           .regla = kReglaResultados,
+                           .encabezado = UnirEncabezados(encabezados, ""),
+                           .celda = CeldaSeguidaDe("\t"),
+                           .paradas = ParadasBajo(encabezados)},
+                          grddis, 12);
 }
 
 Disposicion frmThornthwaite::Contenido() {

@@ -118,11 +118,17 @@ TEST_F(ReportesTest, CeldasYTablas) {
     const Reporte::Tabla tabla{
         .titulo = "T:", .regla = 2, .encabezado = UnirEncabezados({"a", "b"}, "\t"),
         .celda = CeldaCentrada(4, [](int fila, int) { return fila == 1 ? 1 : 0; }),
-        .primeraColumna = 1, .columnas = 1, .reglaFinal = 3};
+        .primeraColumna = 1, .columnas = 1, .reglaFinal = 3, .paradas = ParadasBajo({"a ", "  bc ", " d"})};
     // clang-format on
     Reporte(documento).EscribirTabla(tabla, grid, 2);
     EXPECT_EQ(documento.Text(), "T:\n\n--\na\tb\t\n--\n   1  \n 11 \n---\n\n") << "(4 - 1) / 2 is 1.5, so 2";
     EXPECT_EQ(grid.Col(), 1) << "the cursor stays";
+    EXPECT_EQ(tabla.paradas, (std::vector<int>{4, 8})) << "where bc and d begin";
+    const auto& parrafos = documento.Documento().parrafos;
+    for (std::size_t i = 0; i < parrafos.size(); ++i) {
+        const std::vector<int>& paradas = parrafos[i].formato.tabuladores;
+        EXPECT_EQ(paradas.size(), i == 5 || i == 6 ? 2U : 0U) << "the rows alone have tab stops, " << i;
+    }
 }
 
 TEST_F(ReportesTest, SeAcumulanDondeEstaElCursor) {
