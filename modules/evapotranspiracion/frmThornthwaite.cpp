@@ -47,9 +47,13 @@ void frmThornthwaite::GenerarReporte(Reporte& reporte) {
     reporte.EscribirTabla(TablaDeTemperaturas(), datos.grdt, datos.Filas());
     reporte.Titulo("Resultado del cálculo de la evapotranspiración potencial, método de Thornthwaite:");
     reporte.ReporteLinea(" Indice térmico anual (I) = " + txti.Text());
-    const std::vector<std::string> encabezados{
-        "Mes  ",        "          Temperatura   ", "          Indice   ", "          ETo   ", "          Factor f ",
-        "          ETr mensual   ", "    ETr diaria (mm) "};
+    const std::vector<std::string> encabezados{"Mes  ",
+                                               "          Temperatura   ",
+                                               "          Indice   ",
+                                               "          ETo   ",
+                                               "          Factor f ",
+                                               "          ETr mensual   ",
+                                               "    ETr diaria (mm) "};
     reporte.EscribirTabla({.titulo = " Exponente (a) = " + txta.Text(),
                            .regla = kReglaResultados,
                            .encabezado = UnirEncabezados(encabezados, ""),

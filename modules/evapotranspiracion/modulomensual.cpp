@@ -106,7 +106,8 @@ Reporte::Tabla TablaDeMeses(std::string titulo, const std::vector<std::string>& 
     return {.titulo = std::move(titulo),
             .regla = regla,
             .encabezado = UnirEncabezados(encabezados, "\t"),
-            .celda = CeldaSeguidaDe("\t")};
+            .celda = CeldaSeguidaDe("\t"),
+            .paradas = {13, 27}};
 }
 
 Reporte::Tabla TablaDeTemperaturas() {
