@@ -138,6 +138,9 @@ void MarcoAjuste::Calcular() {
     datosAjustados_ = n;
     advertencia_.clear();
     calculado = true;
+    if (StatusBar1.Panel(kPanelAvisos) == avisoPuntos_) {
+        StatusBar1.PonerPanel(kPanelAvisos, "");
+    }
 }
 
 void MarcoAjuste::MostrarParametros() {
@@ -302,6 +305,11 @@ void MarcoAjuste::bGraficar_Click() {
     if (n <= 1) {
         App().MsgBox(kGraficarSinPuntos);
         return;
+    }
+    if (n != datosAjustados_) {
+        avisoPuntos_ = "El gráfico tiene " + std::to_string(n) + " puntos y no los " + std::to_string(datosAjustados_) +
+                       " del ajuste: Calcular los devuelve";
+        StatusBar1.PonerPanel(kPanelAvisos, avisoPuntos_);
     }
     PX(0) = Gord(0) = Glin(0) = 0;
     const std::vector<const Probabilidades*> curvas{&PX, &Gord, &Glin};

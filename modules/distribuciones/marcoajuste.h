@@ -172,6 +172,7 @@ class MarcoAjuste : public ModuloCalculo {
     DescripcionAjuste ajuste_;
     Campos ordinarios_, lineales_;
     int datosAjustados_ = 0;  ///< The n of the last fit.
+    std::string avisoPuntos_;
     /// A warning about the design discharge, and the contents of the boxes to which it belongs.
     std::string advertencia_, advertidaT_, advertidaQ_;
 };
