@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
-constexpr int kAireColumna = 18, kAireMinimo = 14;
+constexpr int kAireColumna = 18, kAireMinimo = 10;
 constexpr int kMinimoDatos = 180, kMinimoResultados = 440;  // a wider table is scrolled on a small screen
 constexpr char kDato[] = "00000.000";                       // a column of data shows that much of a number
 constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
