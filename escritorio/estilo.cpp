@@ -17,13 +17,13 @@ namespace cuencalia::estilo {
 namespace {
 
 struct Colores {
-    QRgb ventana, base, alterna, texto, tenue, linea, encabezado, acento, sobreAcento, boton, botonLuz;
+    QRgb ventana, base, alterna, texto, tenue, linea, encabezado, acento, sobreAcento, boton, botonLuz, lineaEnFicha;
 };
 
 constexpr Colores kClaro{0xfff3f5f8, 0xffffffff, 0xfff7f9fb, 0xff1d2733, 0xff5b6876, 0xffc9d1da,
-                         0xffe6ebf1, 0xff2f6db5, 0xffffffff, 0xfffbfcfd, 0xffe3edf8};
+                         0xffe6ebf1, 0xff2f6db5, 0xffffffff, 0xfffbfcfd, 0xffe3edf8, 0xffc9d1da};
 constexpr Colores kOscuro{0xff20252b, 0xff191d22, 0xff1e2328, 0xffe4e9ee, 0xffa3afbb, 0xff3d4650,
-                          0xff2b323a, 0xff356fb5, 0xffffffff, 0xff2b323a, 0xff35424f};
+                          0xff2b323a, 0xff356fb5, 0xffffffff, 0xff2b323a, 0xff35424f, 0xff616c78};
 
 Colores colores = kClaro;
 
@@ -63,6 +63,7 @@ QToolButton:pressed, QPushButton:pressed { background: @encabezado; }
 QToolButton:focus, QPushButton:focus { border: 2px solid @acento; padding: 4px 5px; }
 QToolButton:disabled, QPushButton:disabled { color: @tenue; background: transparent; }
 QGroupBox { border: 1px solid @linea; border-radius: 6px; margin-top: 9px; padding: 6px 4px 2px 4px; }
+QTabWidget QGroupBox { border-color: @pagina; }
 QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; color: @tenue; }
 QLineEdit, QComboBox {
     background: @base; color: @texto; border: 1px solid @linea; border-radius: 4px; padding: 3px 6px;
@@ -119,10 +120,10 @@ QMenu::separator { height: 1px; background: @linea; margin: 4px 8px; }
 QToolTip { background: @base; color: @texto; border: 1px solid @linea; padding: 3px; }
 )");
     const std::pair<const char*, QRgb> nombres[] = {
-        {"@ventana", colores.ventana}, {"@base", colores.base},         {"@encabezado", colores.encabezado},
-        {"@texto", colores.texto},     {"@tenue", colores.tenue},       {"@linea", colores.linea},
-        {"@acento", colores.acento},   {"@sobre", colores.sobreAcento}, {"@boton", colores.boton},
-        {"@luz", colores.botonLuz}};
+        {"@ventana", colores.ventana}, {"@base", colores.base},          {"@encabezado", colores.encabezado},
+        {"@texto", colores.texto},     {"@tenue", colores.tenue},        {"@linea", colores.linea},
+        {"@acento", colores.acento},   {"@sobre", colores.sobreAcento},  {"@boton", colores.boton},
+        {"@luz", colores.botonLuz},    {"@pagina", colores.lineaEnFicha}};
     for (const auto& [nombre, color] : nombres) {
         hoja.replace(QLatin1String(nombre), Nombre(color));
     }
