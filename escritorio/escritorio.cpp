@@ -67,8 +67,11 @@ void Escritorio::Pintar() {
     }
     const QScopedValueRollback<bool> pintando(pintando_, true);
     while (!sucias_.empty()) {
-        Vista* vista = sucias_.front();
-        sucias_.erase(sucias_.begin());
+        // What is hidden goes first: a window with both what comes and what goes in it would grow, and stay so.
+        const auto oculta = std::find_if(sucias_.begin(), sucias_.end(), [](const Vista* v) { return v->Oculta(); });
+        const auto siguiente = oculta != sucias_.end() ? oculta : sucias_.begin();
+        Vista* vista = *siguiente;
+        sucias_.erase(siguiente);
         vista->Actualizar();
     }
     DarFoco();

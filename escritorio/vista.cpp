@@ -48,6 +48,8 @@ void Vista::Separar() {
 
 void Vista::ModeloCambio() { escritorio_.Ensuciar(this); }
 
+bool Vista::Oculta() const { return control_ != nullptr && !control_->Visible; }
+
 void Vista::Actualizar() {
     if (control_ == nullptr) {
         return;

@@ -29,6 +29,8 @@ class Vista : public QObject, public VistaControl {
     ~Vista() override;
 
     QWidget* Widget() const { return widget_; }
+    /// Whether the control is not to be seen.
+    bool Oculta() const;
     /// Separates the view from the control when the window is closing: the control may be destroyed before the widget.
     void Soltar();
 
