@@ -216,7 +216,8 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
     Entintar(tinta);
     conBorde_ = grafico.BorderStyle == 1;
     const bool dibujado = grafico.DrawMode == kDibujarGrafico;
-    xAxis->setLabel(dibujado ? Q(grafico.BottomTitle) : QString());
+    PonerRotulos(dibujado ? grafico.NombreX() : "", dibujado ? grafico.NombreY() : "",
+                 dibujado ? grafico.BottomTitle() : "");
     bool conTextos = false;
     if (dibujado) {
         for (std::size_t c = 0; c < grafico.Conjuntos().size(); ++c) {
@@ -242,10 +243,14 @@ void LienzoGrafico::Dibujar(const GraficoModulo& grafico, const Tinta& tinta) {
 }
 
 void LienzoGrafico::Rotular(const GraficoModulo& grafico) {
-    QStringList abajo{Q(grafico.RotuloX()), Q(grafico.BottomTitle)};
+    PonerRotulos(grafico.RotuloX(), grafico.RotuloY(), grafico.BottomTitle);
+}
+
+void LienzoGrafico::PonerRotulos(const std::string& x, const std::string& y, const std::string& titulo) {
+    QStringList abajo{Q(x), Q(titulo)};
     abajo.removeAll(QString());
     xAxis->setLabel(abajo.join(QLatin1Char('\n')));
-    yAxis->setLabel(Q(grafico.RotuloY()));
+    yAxis->setLabel(Q(y));
 }
 
 void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const GraficoModulo& grafico, std::size_t conjunto,

@@ -57,6 +57,7 @@ class LienzoGrafico : public QCustomPlot {
     };
 
     void Entintar(const Tinta& tinta);
+    void PonerRotulos(const std::string& x, const std::string& y, const std::string& titulo);
     void AgregarTrazo(const std::vector<QPointF>& puntos, const GraficoModulo& grafico, std::size_t conjunto,
                       const Tinta& tinta);
     void TrazarSuperficie(const std::vector<QPointF>& puntos, QColor color);

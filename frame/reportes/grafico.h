@@ -82,12 +82,13 @@ class GraficoModulo : public Control {
     bool AceptaFoco() const override { return true; }
 
     /// Sets the labels of the window that name the axes. They come and go with the chart; a copy of it, which stands
-    /// without the window, has their texts at its axes.
-    /// `unidadY` is what stands behind the name of y.
+    /// without the window, has their texts at its axes. `unidadY` is what stands behind the name of y.
     void RotularEjes(Label& x, Label& y, Label* unidadY = nullptr);
-    /// The texts for the axes of a copy: empty without a label, or with one that is hidden.
-    /// Names the axes of a chart whose window has no labels for them: a copy of it has the names.
+    /// Names the axes of a chart whose window has no labels for them: the chart itself shows the names.
     void NombrarEjes(std::string x, std::string y);
+    const std::string& NombreX() const { return nombreX_; }
+    const std::string& NombreY() const { return nombreY_; }
+    /// The texts for the axes of a copy: those of the labels, but for hidden ones, or else the names.
     std::string RotuloX() const { return rotuloX_ == nullptr ? nombreX_ : TextoDe(rotuloX_); }
     std::string RotuloY() const;
     void MostrarRotulos(bool visibles);

@@ -225,6 +225,8 @@ TEST_F(Grafico, ItIsCopiedAndSavedAsShownDarkOnWhite) {
     };
     Modelo().NombrarEjes("Texto: x", "Texto: y");
     EXPECT_EQ(rotulos("con nombres.svg"), 2);
+    Dibujar({{.y = {1, 2}}});
+    EXPECT_EQ(Lienzo().yAxis->label(), "Texto: y") << "there are no labels in the window";
     Hacer([this] { Modelo().RotularEjes(F().lbl1, F().lbl1); });
     EXPECT_EQ(rotulos("con.svg"), 2) << "the names of the axes, which stand beside it on the screen";
     Hacer([this] { F().lbl1.Visible = false; });
