@@ -19,7 +19,7 @@ constexpr double kMayorAcercamiento = 1e-6, kMayorAlejamiento = 1e3;  ///< Zoom 
 constexpr double kMayorValor = 1e200;   ///< Beyond it the axes cannot show a point: it is left out.
 constexpr double kAlcancePuntero = 24;  ///< Greatest distance in pixels from the pointer to a point that it marks.
 constexpr int kSimbolosTodos = 40;      ///< A line with up to this many points has a symbol at each of them.
-constexpr int kSimbolosPorLinea = 24;   ///< Symbols of a longer line; more would hide the dashes that tell lines apart.
+constexpr int kSimbolosPorLinea = 24;   ///< Symbols of each longer line; more would hide the dashes.
 constexpr double kGrosor = 1.8, kLadoSimbolo = 7;
 constexpr int kPuntosDensos = 300;  ///< Lines with more are thinner: legible, and drawn some fifty times as fast.
 constexpr int kMuestra = 36, kMuestraSimbolo = 14;  ///< Width of a line and of a lone symbol in the legend.
@@ -287,13 +287,16 @@ void LienzoGrafico::AgregarTrazo(const std::vector<QPointF>& puntos, const Grafi
     trazo->setPen(pluma);
     trazo->setLineStyle(sueltos ? QCPCurve::lsNone : QCPCurve::lsLine);
     if (!area) {
+        // Symbols at some points tell lines apart; on a lone line they would only seem to be points of their own.
+        const bool simbolos = sueltos || n <= kSimbolosTodos || grafico.Conjuntos().size() > 1;
         // A symbol on a line is filled with the paper colour, so that it stands out; a lone symbol is not filled, so
         // that it does not hide a symbol of another set at the same place.
         // Lone symbols among lines are full, for a line may have the same symbol.
         const QBrush dentro = grafico.Conjuntos()[conjunto].sueltos ? QBrush(color)
                               : sueltos                             ? QBrush(Qt::NoBrush)
                                                                     : QBrush(tinta.papel);
-        trazo->setScatterStyle({kSimbolos[cual], QPen(color, 1.5), dentro, kLadoSimbolo});
+        trazo->setScatterStyle(
+            {simbolos ? kSimbolos[cual] : QCPScatterStyle::ssNone, QPen(color, 1.5), dentro, kLadoSimbolo});
         trazo->setScatterSkip(sueltos || n <= kSimbolosTodos ? 0 : n / kSimbolosPorLinea);
     }
     trazos_.push_back(trazo);

@@ -97,6 +97,11 @@ TEST_F(Grafico, SixSetsAreToldApartAndTheirLegendHidesNothing) {
     EXPECT_EQ(colores.size(), 6U);
     Dibujar({{.y = {1}}, {.y = {2}}});
     EXPECT_TRUE(Lienzo().legend->visible());
+    const SerieGrafico larga{.y = std::vector<Double>(60, 1)};
+    for (const bool sola : {true, false}) {
+        Dibujar(sola ? std::vector{larga} : std::vector{larga, larga});
+        EXPECT_EQ(Curva(0).scatterStyle().isNone(), sola) << "symbols at some points tell a line from others";
+    }
     Dibujar({{"P", {}, {1}}});
     EXPECT_TRUE(Lienzo().legend->visible()) << "a lone set has one where it has a name";
 }
