@@ -31,6 +31,7 @@ Vista::~Vista() { Separar(); }
 
 void Vista::Soltar() {
     Separar();
+    AlSoltar();
     // A button that is pressed by its key is clicked a moment later, and a hidden table may still scroll.
     widget_->disconnect(this);
     for (const QObject* parte : widget_->findChildren<QObject*>()) {

@@ -44,6 +44,8 @@ class Vista : public QObject, public VistaControl {
     /// Handles a key for the control and returns true; returns false for keys that the widget is to handle.
     virtual bool Tecla(QKeyEvent& evento);
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+    /// What else ends with the control, which is still there.
+    virtual void AlSoltar() {}
     /// Tells the control that the pointer moved over it.
     void MoverRaton();
 

@@ -68,7 +68,7 @@ bool ModeloGrid::PonerAlDia() {
 QVariant ModeloGrid::data(const QModelIndex& indice, int rol) const {
     const int fila = indice.row() + filasFijas_;
     const int columna = indice.column() + columnasFijas_;
-    if (fila >= grid_.Rows() || columna >= grid_.Cols()) {
+    if (suelto_ || fila >= grid_.Rows() || columna >= grid_.Cols()) {
         return {};
     }
     switch (rol) {
@@ -88,6 +88,9 @@ QVariant ModeloGrid::data(const QModelIndex& indice, int rol) const {
 }
 
 QVariant ModeloGrid::headerData(int seccion, Qt::Orientation orientacion, int rol) const {
+    if (suelto_) {
+        return {};
+    }
     if (orientacion == Qt::Horizontal) {
         const int columna = seccion + columnasFijas_;
         if (rol != Qt::DisplayRole || columna >= grid_.Cols()) {
@@ -207,6 +210,14 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     connect(tabla_->verticalHeader(), &QHeaderView::sectionPressed, this, [this](int seccion) {
         escritorio_.App().Despachar([&] { grid_.Presionar(kBotonIzquierdo, seccion + grid_.FixedRows(), 0); });
     });
+}
+
+void VistaGrid::AlSoltar() {
+    modelo_->Soltar();
+    tabla_->alCambiarTamano = nullptr;
+    tabla_->alPresionar = nullptr;
+    tabla_->alArrastrar = nullptr;
+    tabla_->alPulsarDosVeces = nullptr;
 }
 
 QModelIndex VistaGrid::Indice(int fila, int columna) const {

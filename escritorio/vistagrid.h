@@ -24,8 +24,11 @@ class ModeloGrid : public QAbstractTableModel {
 
     /// Takes over the grid's number of rows and columns; returns whether anything but the number of rows changed.
     bool PonerAlDia();
+    /// From then on there is nothing to read: a table may be laid out once more after its form has gone.
+    void Soltar() { suelto_ = true; }
 
   private:
+    bool suelto_ = false;
     int filas_ = 0, columnas_ = 0, filasFijas_ = 0, columnasFijas_ = 0;
     const FlexGrid& grid_;
 };
@@ -71,6 +74,7 @@ class VistaGrid : public Vista {
 
   protected:
     void Mostrar() override;
+    void AlSoltar() override;
     bool Tecla(QKeyEvent& evento) override;
 
   private:
