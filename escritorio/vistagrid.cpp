@@ -179,14 +179,17 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     tabla_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     tabla_->verticalHeader()->setHighlightSections(false);
     tabla_->horizontalHeader()->setHighlightSections(false);
-    tabla_->horizontalHeader()->setSectionsClickable(false);
+    tabla_->horizontalHeader()->setSectionsClickable(grid.PulsarEncabezado.Atendido());
     tabla_->horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
 
     // The heading of the label column is shown in the corner, which the toolkit's table leaves blank.
     if (auto* boton = tabla_->findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        boton->setAttribute(Qt::WA_TransparentForMouseEvents);
+        boton->setAttribute(Qt::WA_TransparentForMouseEvents, !grid.PulsarEncabezado.Atendido());
+        boton->disconnect(tabla_);  // it stands for a heading, not for the whole table
+        connect(boton, &QAbstractButton::clicked, this, [this] { PulsarEncabezado(0); });
         esquina_ = new QLabel(boton);
         esquina_->setAlignment(Qt::AlignCenter);
+        esquina_->setAttribute(Qt::WA_TransparentForMouseEvents);
         auto* caja = new QVBoxLayout(boton);
         caja->setContentsMargins(0, 0, 0, 0);
         caja->addWidget(esquina_);
@@ -210,6 +213,14 @@ VistaGrid::VistaGrid(Escritorio& escritorio, FlexGrid& grid, QWidget* padre)
     connect(tabla_->verticalHeader(), &QHeaderView::sectionPressed, this, [this](int seccion) {
         escritorio_.App().Despachar([&] { grid_.Presionar(kBotonIzquierdo, seccion + grid_.FixedRows(), 0); });
     });
+    disconnect(tabla_->horizontalHeader(), SIGNAL(sectionPressed(int)), tabla_, nullptr);
+    disconnect(tabla_->horizontalHeader(), SIGNAL(sectionEntered(int)), tabla_, nullptr);
+    connect(tabla_->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int seccion) { PulsarEncabezado(seccion + grid_.FixedCols()); });
+}
+
+void VistaGrid::PulsarEncabezado(int columna) {
+    escritorio_.App().Despachar([&] { grid_.Presionar(kBotonIzquierdo, 0, columna); });
 }
 
 void VistaGrid::AlSoltar() {

@@ -85,6 +85,7 @@ class VistaGrid : public Vista {
     void MostrarSeleccion();
     void MostrarDesplazamiento();
     bool Presionar(QMouseEvent& evento);
+    void PulsarEncabezado(int columna);
     void Arrastrar(const QMouseEvent& evento);
     void PedirMenu(const QContextMenuEvent& evento);
     void MenuDeCopia(QPoint donde);

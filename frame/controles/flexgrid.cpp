@@ -335,6 +335,9 @@ void FlexGrid::Presionar(BotonRaton boton, int fila, int columna) {
         PonerCelda(fila, columna >= columnasFijas_ ? columna : columna_);
     }
     MouseDown(boton);
+    if (fila < filasFijas_ && boton == kBotonIzquierdo) {
+        PulsarEncabezado(columna);
+    }
 }
 
 }  // namespace cuencalia

@@ -27,6 +27,7 @@ class FlexGrid : public Control {
     Evento<> RowColChange;
     Evento<> Scroll;
     Evento<> DblClick;
+    Evento<int> PulsarEncabezado;  ///< A heading was pressed with the left button: its column.
 
     int Rows() const { return filas_; }
     int Cols() const { return columnas_; }

@@ -19,11 +19,41 @@ namespace {
 constexpr int kMuestras = 1000;
 constexpr int kColumnaAkaike = 11;
 constexpr int kReglaReporte = 130;
-constexpr std::size_t kIndiceDe100 = 8;  // of kPeriodosDeDiseno
 constexpr std::size_t kPuntosDeCurva = 60;
 
-const std::vector<std::string> kOrdenes{"Distribución",           "Delta",        "Anderson-Darling", "Correlación",
-                                        "Error cuadrático medio", "Akaike (AIC)", "Q de T = 100"};
+/// An order of the rows, from the least key on, of the column of the candidates that shows it.
+struct OrdenCandidatos {
+    const char* nombre;
+    int columna;
+    double (*clave)(const Comparado& c, const Remuestreo& r);
+};
+constexpr OrdenCandidatos kOrdenes[] = {
+    {"Distribución", 0, [](const Comparado&, const Remuestreo&) { return 0.0; }},
+    {"Método", 1, [](const Comparado& c, const Remuestreo&) { return double(c.ajuste.candidato.metodo); }},
+    {"Delta", 3, [](const Comparado& c, const Remuestreo&) { return c.bondad->delta; }},
+    {"p de delta", 4, [](const Comparado&, const Remuestreo& r) { return -r.pDelta; }},
+    {"Anderson-Darling", 5, [](const Comparado& c, const Remuestreo&) { return c.bondad->andersonDarling; }},
+    {"p de Anderson-Darling", 6, [](const Comparado&, const Remuestreo& r) { return -r.pAndersonDarling; }},
+    {"Correlación", 7, [](const Comparado& c, const Remuestreo&) { return -c.bondad->correlacion; }},
+    {"p de la correlación", 8, [](const Comparado&, const Remuestreo& r) { return -r.pCorrelacion; }},
+    {"Error cuadrático medio", 9, [](const Comparado& c, const Remuestreo&) { return c.bondad->error; }},
+    {"p del error", 10, [](const Comparado&, const Remuestreo& r) { return -r.pError; }},
+    {"Akaike (AIC)", kColumnaAkaike,
+     [](const Comparado& c, const Remuestreo&) { return c.akaike.value_or(HUGE_VAL); }}};
+
+std::string OrdenPorCaudal(double T) { return "Q de T = " + CStr(T); }
+
+/// The orders by the columns of the candidates, then by those of the design table.
+std::vector<std::string> NombresDeOrdenes() {
+    std::vector<std::string> nombres;
+    for (const OrdenCandidatos& o : kOrdenes) {
+        nombres.emplace_back(o.nombre);
+    }
+    for (const double T : kPeriodosDeDiseno) {
+        nombres.push_back(OrdenPorCaudal(T));
+    }
+    return nombres;
+}
 constexpr const char* kCautela =
     "Ningún ajuste es el mejor por un solo número: con pocas decenas de datos las medidas apenas separan las familias, "
     "y lo que decide Q en los grandes períodos es la cola, que los datos no alcanzan. Compare también los límites, el "
@@ -73,7 +103,7 @@ struct frmComparacion::Encargo {
 
 frmComparacion::frmComparacion(Aplicacion& app)
     : MarcoModulo(app, "frmComparacion", "Comparación de ajustes"),
-      cmbOrden(*this, "cmbOrden", kOrdenes),
+      cmbOrden(*this, "cmbOrden", NombresDeOrdenes()),
       grdCandidatos(*this, "grdCandidatos", "Candidatos",
                     {.filas = 2,
                      .columnas = {{"Distribución", 2600},
@@ -98,7 +128,7 @@ frmComparacion::frmComparacion(Aplicacion& app)
     for (ComboBox* lista : {&cmbOrden, &cmbNivel, &cmbPapel, &cmbPosicion, &cmbCurva, &cmbCurva2}) {
         lista->Editable = false;
     }
-    cmbOrden.Text = kOrdenes.front();
+    cmbOrden.Text = kOrdenes[0].nombre;
     cmbNivel.Text = "90";
     cmbPapel.Text = "Gumbel";
     cmbPosicion.Text = kPosicionCunnane.nombre;
@@ -118,6 +148,17 @@ frmComparacion::frmComparacion(Aplicacion& app)
     DeclararBotones({}, {{&bCrearExcel, "crear_excel"}});
     bCancelar.Enabled = false;
     cmbOrden.Change.Conectar([this] { Ordenar(); });
+    grdCandidatos.PulsarEncabezado.Conectar([this](int columna) {
+        for (const OrdenCandidatos& o : kOrdenes) {
+            if (o.columna == columna) {
+                cmbOrden.Text = o.nombre;
+            }
+        }
+    });
+    grdDiseno.PulsarEncabezado.Conectar([this](int columna) {
+        cmbOrden.Text = columna == 0 ? kOrdenes[0].nombre
+                                     : OrdenPorCaudal(kPeriodosDeDiseno[static_cast<std::size_t>(columna - 1)]);
+    });
     cmbPosicion.Change.Conectar([this] {
         if (calculado) {
             Calcular();
@@ -214,31 +255,21 @@ void frmComparacion::Ordenar() {
     }
     orden_.resize(comparados_.size());
     std::iota(orden_.begin(), orden_.end(), 0);
-    const int columna = cmbOrden.ListIndex();
-    const auto clave = [this, columna](std::size_t i) {
+    const auto elegido = static_cast<std::size_t>(std::max(cmbOrden.ListIndex(), 0));
+    std::vector<double> claves;
+    for (std::size_t i = 0; i < comparados_.size(); ++i) {
         const Comparado& c = comparados_[i];
-        if (!c.bondad) {
-            return HUGE_VAL;
+        double clave = HUGE_VAL;  // what has no figure comes last
+        if (c.bondad && elegido >= std::size(kOrdenes)) {
+            clave = c.ajuste.distribucion->Caudal(kPeriodosDeDiseno[elegido - std::size(kOrdenes)]);
+        } else if (c.bondad) {
+            const bool remuestreado = !remuestreo_.empty() && remuestreo_[i].validas > 0;
+            clave = kOrdenes[elegido].clave(c, remuestreado ? remuestreo_[i] : Remuestreo{});
         }
-        switch (columna) {
-            case 1:
-                return c.bondad->delta;
-            case 2:
-                return c.bondad->andersonDarling;
-            case 3:
-                return -c.bondad->correlacion;
-            case 4:
-                return c.bondad->error;
-            case 5:
-                return c.akaike.value_or(HUGE_VAL);
-            case 6:
-                return c.ajuste.distribucion->Caudal(kPeriodosDeDiseno[kIndiceDe100]);
-            default:
-                return 0.0;
-        }
-    };
+        claves.push_back(std::isnan(clave) ? HUGE_VAL : clave);
+    }
     std::stable_sort(orden_.begin(), orden_.end(),
-                     [&clave](std::size_t a, std::size_t b) { return clave(a) < clave(b); });
+                     [&claves](std::size_t a, std::size_t b) { return claves[a] < claves[b]; });
     MostrarCandidatos();
     MostrarDiseno();
 }

@@ -103,6 +103,11 @@ TEST_F(Grid, TheMouseGoesToTheCellBelowIt) {
         EXPECT_EQ(Elegido(), (std::vector{6, 2, 6, 2})) << "a label stands for its row";
         EXPECT_EQ(Marcadas(), 1);
     }
+    Sucesos();
+    Clic(*Tabla().horizontalHeader()->viewport(), QPoint(Celda(1, 2).center().x(), 5));
+    Clic(*Tabla().findChild<QAbstractButton*>());
+    EXPECT_EQ(Sucesos(), (Textos{"grd1 botón 1", "grd1 encabezado 2", "grd1 botón 1", "grd1 encabezado 0"}));
+    EXPECT_EQ(Elegido(), (std::vector{6, 2, 6, 2})) << "a heading is no cell";
     QTest::mousePress(&tabla, Qt::LeftButton, Qt::NoModifier, Celda(2, 1).center());
     QTest::mouseMove(&tabla, Celda(3, 3).center());
     QTest::mouseRelease(&tabla, Qt::LeftButton, Qt::NoModifier, Celda(3, 3).center());

@@ -58,6 +58,8 @@ FormaDePrueba::FormaDePrueba(Aplicacion& app) : Formulario(app, "frmPrueba", "Pr
         control->MouseMove.Conectar([this, control] { punteros.push_back(control->Nombre()); });
     }
     MouseMove.Conectar([this] { punteros.push_back(Nombre()); });
+    grd1.PulsarEncabezado.Conectar(
+        [this](int columna) { sucesos.push_back("grd1 encabezado " + std::to_string(columna)); });
     grd1.MouseDown.Conectar([this](int boton) {
         if (boton == kBotonDerecho) {
             App().Sistema().MenuEmergente(mnuFila);

@@ -67,6 +67,22 @@ TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
     for (int f = 2; f < 27; ++f) {
         EXPECT_LE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 5)), std::stod(F().grdCandidatos.TextMatrix(f, 5)));
     }
+    const std::string primero = F().grdCandidatos.TextMatrix(1, 0);
+    // A heading is an order too, one without figures is none; the design table follows, and has orders of its own.
+    const auto pulsar = [this](FlexGrid& grid, int columna) {
+        app.Despachar([&] { grid.Presionar(kBotonIzquierdo, 0, columna); });
+    };
+    pulsar(F().grdCandidatos, 7);
+    pulsar(F().grdCandidatos, 12);
+    EXPECT_EQ(F().cmbOrden.Text(), "Correlación");
+    EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(1, 7)), std::stod(F().grdCandidatos.TextMatrix(2, 7)));
+    Ficha(2);
+    pulsar(F().grdDiseno, 13);
+    for (int f = 2; f < F().grdDiseno.Rows(); ++f) {
+        EXPECT_LE(std::stod(F().grdDiseno.TextMatrix(f - 1, 13)), std::stod(F().grdDiseno.TextMatrix(f, 13)));
+    }
+    Elegir(F().cmbOrden, "Anderson-Darling");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(1, 0), primero);
     // The exponential and the Pareto have data beyond their ends, and come last.
     EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 5), "∞");
     EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 12), "Hay datos más allá del extremo de la distribución");
@@ -82,6 +98,10 @@ TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
         EXPECT_LT(Q(normal), Q(normal + 2));
     }
     EXPECT_EQ(F().Graph1.NumSets(), 4) << "data, curve and two limits";
+    pulsar(F().grdCandidatos, 6);
+    for (int f = 2; f < 27; ++f) {
+        EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 6)), std::stod(F().grdCandidatos.TextMatrix(f, 6)));
+    }
     Elegir(F().cmbCurva2, "Gumbel, Momentos lineales");
     EXPECT_EQ(F().Graph1.NumSets(), 5);
     const std::vector<double> x = LeerColumna("rao_hamed_tippecanoe.csv");
