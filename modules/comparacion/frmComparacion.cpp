@@ -17,7 +17,7 @@ namespace cuencalia {
 namespace {
 
 constexpr int kMuestras = 1000;
-constexpr int kColumnaAkaike = 11;
+constexpr int kColumnaAkaike = 10;
 constexpr int kReglaReporte = 130;
 constexpr std::size_t kPuntosDeCurva = 60;
 
@@ -30,14 +30,14 @@ struct OrdenCandidatos {
 constexpr OrdenCandidatos kOrdenes[] = {
     {"Distribución", 0, [](const Comparado&, const Remuestreo&) { return 0.0; }},
     {"Método", 1, [](const Comparado& c, const Remuestreo&) { return double(c.ajuste.candidato.metodo); }},
-    {"Delta", 3, [](const Comparado& c, const Remuestreo&) { return c.bondad->delta; }},
-    {"p de delta", 4, [](const Comparado&, const Remuestreo& r) { return -r.pDelta; }},
-    {"Anderson-Darling", 5, [](const Comparado& c, const Remuestreo&) { return c.bondad->andersonDarling; }},
-    {"p de Anderson-Darling", 6, [](const Comparado&, const Remuestreo& r) { return -r.pAndersonDarling; }},
-    {"Correlación", 7, [](const Comparado& c, const Remuestreo&) { return -c.bondad->correlacion; }},
-    {"p de la correlación", 8, [](const Comparado&, const Remuestreo& r) { return -r.pCorrelacion; }},
-    {"Error cuadrático medio", 9, [](const Comparado& c, const Remuestreo&) { return c.bondad->error; }},
-    {"p del error", 10, [](const Comparado&, const Remuestreo& r) { return -r.pError; }},
+    {"Delta", 2, [](const Comparado& c, const Remuestreo&) { return c.bondad->delta; }},
+    {"p de delta", 3, [](const Comparado&, const Remuestreo& r) { return -r.pDelta; }},
+    {"Anderson-Darling", 4, [](const Comparado& c, const Remuestreo&) { return c.bondad->andersonDarling; }},
+    {"p de Anderson-Darling", 5, [](const Comparado&, const Remuestreo& r) { return -r.pAndersonDarling; }},
+    {"Correlación", 6, [](const Comparado& c, const Remuestreo&) { return -c.bondad->correlacion; }},
+    {"p de la correlación", 7, [](const Comparado&, const Remuestreo& r) { return -r.pCorrelacion; }},
+    {"Error cuadrático medio", 8, [](const Comparado& c, const Remuestreo&) { return c.bondad->error; }},
+    {"p del error", 9, [](const Comparado&, const Remuestreo& r) { return -r.pError; }},
     {"Akaike (AIC)", kColumnaAkaike,
      [](const Comparado& c, const Remuestreo&) { return c.akaike.value_or(HUGE_VAL); }}};
 
@@ -108,7 +108,6 @@ frmComparacion::frmComparacion(Aplicacion& app)
                     {.filas = 2,
                      .columnas = {{"Distribución", 2600},
                                   {"Método", 2000},
-                                  {"Parámetros", 3400},
                                   {"Delta", 900},
                                   {"p", 700},
                                   {"A-D", 900},
@@ -118,7 +117,8 @@ frmComparacion::frmComparacion(Aplicacion& app)
                                   {"Error", 1000},
                                   {"p", 700},
                                   {"AIC", 1000},
-                                  {"Observación", 5000}},
+                                  {"Observación", 5000},
+                                  {"Parámetros", 3400}},
                      .columnasFijas = 1}),
       grdDiseno(*this, "grdDiseno", "Caudales de diseño",
                 {.filas = 2, .columnas = ColumnasDeDiseno(), .columnasFijas = 1}),
@@ -289,19 +289,19 @@ void frmComparacion::MostrarCandidatos() {
             const Remuestreo r = remuestreado ? remuestreo_[i] : Remuestreo{};
             const auto p = [remuestreado](double valor) { return remuestreado ? Numero(valor, "0.000") : ""; };
             textos.insert(textos.end(),
-                          {TextoParametros(*c.ajuste.distribucion), Numero(c.bondad->delta, "0.0000"), p(r.pDelta),
-                           Numero(c.bondad->andersonDarling, "0.000"), p(r.pAndersonDarling),
-                           Numero(c.bondad->correlacion, "0.0000"), p(r.pCorrelacion), Numero(c.bondad->error, "0.0##"),
-                           p(r.pError), c.akaike ? Numero(*c.akaike, "0.00") : ""});
+                          {Numero(c.bondad->delta, "0.0000"), p(r.pDelta), Numero(c.bondad->andersonDarling, "0.000"),
+                           p(r.pAndersonDarling), Numero(c.bondad->correlacion, "0.0000"), p(r.pCorrelacion),
+                           Numero(c.bondad->error, "0.0##"), p(r.pError), c.akaike ? Numero(*c.akaike, "0.00") : ""});
             std::string observacion;
             if (std::isinf(c.bondad->andersonDarling)) {
                 observacion = "Hay datos más allá del extremo de la distribución";
             }
             if (remuestreado && r.validas < kMuestras) {
-                observacion += (observacion.empty() ? "" : "; ") + std::to_string(kMuestras - r.validas) +
-                               " muestras sin ajuste posible";
+                observacion += (observacion.empty() ? "Muestras" : "; muestras") +
+                               (" sin ajuste posible: " + std::to_string(kMuestras - r.validas));
             }
             textos.push_back(observacion);
+            textos.push_back(TextoParametros(*c.ajuste.distribucion));
         }
         grdCandidatos.PonerFila(++fila, textos);
     }
@@ -565,9 +565,9 @@ Disposicion frmComparacion::Cuerpo() {
          Columna({Fila({lblOrden, cmbOrden, Espacio(), bCopiar, bCrearExcel}), Disposicion(grdCandidatos).Estira(1),
                   lblCautela}),
          Columna({std::move(remuestreo), Disposicion(grdDiseno).Estira(1)}),
-         Columna(
-             {Fila({lblPapel, cmbPapel, lblPosicion, cmbPosicion, lblCurva, cmbCurva, lblCurva2, cmbCurva2, Espacio()}),
-              Fila({lblEjeY, Espacio()}), Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})}),
+         Columna({Fila({lblPapel, cmbPapel, lblPosicion, cmbPosicion, Espacio()}),
+                  Fila({lblCurva, cmbCurva, lblCurva2, cmbCurva2, Espacio()}), Fila({lblEjeY, Espacio()}),
+                  Disposicion(Graph1).Estira(1), Fila({Espacio(), lblEjeX})}),
          Columna({Fila({lblTau4, Espacio()}), Disposicion(Graph2).Estira(1), Fila({Espacio(), lblTau3})})});
 }
 

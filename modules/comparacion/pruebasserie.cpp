@@ -21,12 +21,12 @@ constexpr const char* kFueraDeAlcance = "No se puede efectuar: los valores son d
 
 double DosLados(double z) { return 2 * ProbabilidadNormal(-std::fabs(z)); }
 
-/// "p = 0.032: <what that means>".
+/// What p means.
 std::string Sentencia(double p, const std::string& siSeRechaza, const std::string& siNo) {
     if (!std::isfinite(p)) {
         return kFueraDeAlcance;
     }
-    return "p = " + Format(p, "0.000") + ": " + (p < kNivel ? siSeRechaza : siNo);
+    return p < kNivel ? siSeRechaza : siNo;
 }
 
 int Signo(double d) { return d > 0 ? 1 : d < 0 ? -1 : 0; }
@@ -60,7 +60,7 @@ PruebaSerie WaldWolfowitz(std::span<const double> x) {
     const double u = (R - media) / std::sqrt(varianza);
     const double p = DosLados(u);
     return {"Independencia (Wald-Wolfowitz)", u, p,
-            Sentencia(p, "los valores sucesivos dependen unos de otros", "no hay indicios contra la independencia")};
+            Sentencia(p, "Los valores sucesivos dependen unos de otros", "No hay indicios contra la independencia")};
 }
 
 PruebaSerie AutocorrelacionUno(std::span<const double> x) {
@@ -75,7 +75,7 @@ PruebaSerie AutocorrelacionUno(std::span<const double> x) {
     const double r1 = cruzada / cuadrados;
     const double p = DosLados((r1 + 1 / (n - 1)) * (n - 1) / std::sqrt(n - 2));
     return {"Autocorrelación de retardo 1", r1, p,
-            Sentencia(p, "cada valor está correlacionado con el anterior", "no hay indicios de correlación")};
+            Sentencia(p, "Cada valor está correlacionado con el anterior", "No hay indicios de correlación")};
 }
 
 PruebaSerie MannKendall(std::span<const double> x) {
@@ -96,8 +96,8 @@ PruebaSerie MannKendall(std::span<const double> x) {
     const double z = (S - Signo(S)) / std::sqrt(varianza / 18);
     const double p = DosLados(z);
     return {"Tendencia (Mann-Kendall)", z, p,
-            Sentencia(p, S > 0 ? "los valores tienden a crecer" : "los valores tienden a decrecer",
-                      "no hay indicios de tendencia")};
+            Sentencia(p, S > 0 ? "Los valores tienden a crecer" : "Los valores tienden a decrecer",
+                      "No hay indicios de tendencia")};
 }
 
 PruebaSerie Pettitt(std::span<const double> x, int& cambio) {
@@ -116,8 +116,8 @@ PruebaSerie Pettitt(std::span<const double> x, int& cambio) {
     }
     const double p = std::min(1.0, 2 * std::exp(-6 * K * K / (n * n * n + n * n)));
     return {"Cambio de nivel (Pettitt)", K, p,
-            Sentencia(p, "el nivel cambia después del dato " + std::to_string(cambio),
-                      "no hay indicios de un cambio de nivel")};
+            Sentencia(p, "El nivel cambia después del dato " + std::to_string(cambio),
+                      "No hay indicios de un cambio de nivel")};
 }
 
 double ColaStudent(double t, int grados) {
@@ -164,9 +164,8 @@ Atipicos GrubbsBeck(std::span<const double> x) {
     a.prueba.estadistico = lejos;
     a.prueba.p = std::min(1.0, n * ColaStudent(t, static_cast<int>(x.size()) - 2));
     a.prueba.sentencia =
-        "p = " + Format(a.prueba.p, "0.000") + ": " +
-        (a.bajos + a.altos == 0 ? "ningún valor atípico"
-                                : "valores bajos, " + std::to_string(a.bajos) + "; altos, " + std::to_string(a.altos)) +
+        (a.bajos + a.altos == 0 ? "Ningún valor atípico"
+                                : "Valores bajos, " + std::to_string(a.bajos) + "; altos, " + std::to_string(a.altos)) +
         " (límites " + Format(a.inferior, "0.0#") + " y " + Format(a.superior, "0.0#") + ", 10 %)";
     return a;
 }

@@ -50,11 +50,11 @@ TEST_F(VentanaComparacion, SeAbreConLaSerieDeUnAjuste) {
     const int diseno = Fila(F().grdDiseno, "Gumbel, Momentos ordinarios");
     EXPECT_EQ(F().grdDiseno.TextMatrix(diseno, 9), "6.55");
     const int candidato = Fila(F().grdCandidatos, "Gumbel", "Momentos ordinarios");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 2), "µ = 1.919; alfa = 1.0066");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 4), "") << "no significance before the resampling";
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 12), "µ = 1.919; alfa = 1.0066");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 3), "") << "no significance before the resampling";
     // A symmetric series: Pearson III has no greatest likelihood, is no fit, and has no design discharges.
     const int imposible = Fila(F().grdCandidatos, "Gamma de 3 parámetros", "Máxima verosimilitud");
-    EXPECT_NE(F().grdCandidatos.TextMatrix(imposible, 12).find("no tiene máximo"), std::string::npos);
+    EXPECT_NE(F().grdCandidatos.TextMatrix(imposible, 11).find("no tiene máximo"), std::string::npos);
     EXPECT_EQ(Fila(F().grdDiseno, "Gamma de 3 parámetros, Máxima verosimilitud"), 0);
 }
 
@@ -65,17 +65,17 @@ TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
     EXPECT_EQ(F().grdCandidatos.Rows(), 30);
     Elegir(F().cmbOrden, "Anderson-Darling");
     for (int f = 2; f < 27; ++f) {
-        EXPECT_LE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 5)), std::stod(F().grdCandidatos.TextMatrix(f, 5)));
+        EXPECT_LE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 4)), std::stod(F().grdCandidatos.TextMatrix(f, 4)));
     }
     const std::string primero = F().grdCandidatos.TextMatrix(1, 0);
     // A heading is an order too, one without figures is none; the design table follows, and has orders of its own.
     const auto pulsar = [this](FlexGrid& grid, int columna) {
         app.Despachar([&] { grid.Presionar(kBotonIzquierdo, 0, columna); });
     };
-    pulsar(F().grdCandidatos, 7);
+    pulsar(F().grdCandidatos, 6);
     pulsar(F().grdCandidatos, 12);
     EXPECT_EQ(F().cmbOrden.Text(), "Correlación");
-    EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(1, 7)), std::stod(F().grdCandidatos.TextMatrix(2, 7)));
+    EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(1, 6)), std::stod(F().grdCandidatos.TextMatrix(2, 6)));
     Ficha(2);
     pulsar(F().grdDiseno, 13);
     for (int f = 2; f < F().grdDiseno.Rows(); ++f) {
@@ -84,8 +84,8 @@ TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
     Elegir(F().cmbOrden, "Anderson-Darling");
     EXPECT_EQ(F().grdCandidatos.TextMatrix(1, 0), primero);
     // The exponential and the Pareto have data beyond their ends, and come last.
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 5), "∞");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 12), "Hay datos más allá del extremo de la distribución");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 4), "∞");
+    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 11), "Hay datos más allá del extremo de la distribución");
     EXPECT_EQ(F().Graph1.NumSets(), 2);
     app.Pulsar(F().bRemuestrear);
     EsperarSilencio();
@@ -98,9 +98,9 @@ TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
         EXPECT_LT(Q(normal), Q(normal + 2));
     }
     EXPECT_EQ(F().Graph1.NumSets(), 4) << "data, curve and two limits";
-    pulsar(F().grdCandidatos, 6);
+    pulsar(F().grdCandidatos, 5);
     for (int f = 2; f < 27; ++f) {
-        EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 6)), std::stod(F().grdCandidatos.TextMatrix(f, 6)));
+        EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 5)), std::stod(F().grdCandidatos.TextMatrix(f, 5)));
     }
     Elegir(F().cmbCurva2, "Gumbel, Momentos lineales");
     EXPECT_EQ(F().Graph1.NumSets(), 5);
