@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "frame/base/bloque.h"
 #include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
 #include "frame/modulo/entregarlibro.h"
@@ -18,7 +19,7 @@ namespace {
 
 constexpr int kMuestras = 1000;
 constexpr int kColumnaAkaike = 10;
-constexpr int kReglaReporte = 130;
+constexpr int kPeriodosPorTabla = 7;  // of the report, for a page to hold its lines
 constexpr std::size_t kPuntosDeCurva = 60;
 
 /// An order of the rows, from the least key on, of the column of the candidates that shows it.
@@ -89,6 +90,49 @@ std::vector<std::string> NombresDePosiciones() {
         nombres.emplace_back(p.nombre);
     }
     return nombres;
+}
+
+bool EsNumero(const std::string& texto) {
+    return !texto.empty() && texto.find_first_not_of("0123456789.- ") == std::string::npos;
+}
+
+/// The columns from `desde` to before `hasta`, with their headings.
+Bloque Columnas(const FlexGrid& grid, int desde, int hasta) {
+    Bloque filas(static_cast<std::size_t>(grid.Rows()));
+    for (std::size_t f = 0; f < filas.size(); ++f) {
+        for (int c = desde; c < hasta; ++c) {
+            filas[f].push_back(grid.TextMatrix(static_cast<int>(f), c));
+        }
+    }
+    return filas;
+}
+
+/// A table of the report, its columns as wide as their widest text, those of numbers set to the right.
+void ReportarFilas(Reporte& reporte, const char* titulo, const Bloque& filas) {
+    std::vector<std::string> lineas(filas.size());
+    int regla = -2;
+    for (std::size_t c = 0; c < filas[0].size(); ++c) {
+        int ancho = 0;
+        bool numeros = false;
+        for (const auto& fila : filas) {
+            ancho = std::max(ancho, Len(fila[c]));
+            numeros = numeros || EsNumero(fila[c]);
+        }
+        regla += ancho + 2;
+        for (std::size_t f = 0; f < filas.size(); ++f) {
+            const std::string relleno = Space(ancho - Len(filas[f][c]));
+            lineas[f] += (c == 0 ? "" : "  ") + (numeros ? relleno + filas[f][c] : filas[f][c] + relleno);
+        }
+    }
+    reporte.Titulo(titulo);
+    reporte.LineaDeGuiones(regla);
+    reporte.ReporteLinea(lineas[0]);
+    reporte.LineaDeGuiones(regla);
+    for (std::size_t f = 1; f < lineas.size(); ++f) {
+        reporte.ReporteLinea(lineas[f]);
+    }
+    reporte.LineaDeGuiones(regla);
+    reporte.ReporteBlanco();
 }
 
 }  // namespace
@@ -502,8 +546,7 @@ void frmComparacion::bCrearExcel_Click() {
     }
     // Numbers go out as numbers, for the spreadsheet to calculate with.
     const auto celda = [](const std::string& texto) -> ValorCelda {
-        const bool numero = !texto.empty() && texto.find_first_not_of("0123456789.- ") == std::string::npos;
-        return numero ? ValorCelda(Val(texto)) : ValorCelda(texto);
+        return EsNumero(texto) ? ValorCelda(Val(texto)) : ValorCelda(texto);
     };
     Hoja hoja;
     int fila = 0;
@@ -535,22 +578,27 @@ void frmComparacion::bCopiar_Click() {
 void frmComparacion::GenerarReporte(Reporte& reporte) {
     reporte.ReporteLinea(lblSerie.Caption());
     reporte.ReporteBlanco();
-    const auto tabla = [&reporte](const char* titulo, FlexGrid& grid) {
-        std::vector<std::string> encabezados;
-        for (int c = 0; c < grid.Cols(); ++c) {
-            encabezados.push_back(grid.TextMatrix(0, c));
-        }
-        reporte.EscribirTabla({.titulo = titulo,
-                               .regla = kReglaReporte,
-                               .encabezado = UnirEncabezados(encabezados, "\t"),
-                               .celda = CeldaSeguidaDe("\t")},
-                              grid, grid.Rows() - 1);
-    };
-    tabla("Pruebas de la serie:", grdPruebas);
-    tabla("Candidatos:", grdCandidatos);
+    ReportarFilas(reporte, "Pruebas de la serie:", Columnas(grdPruebas, 0, grdPruebas.Cols()));
+    ReportarFilas(reporte, "Candidatos:", Columnas(grdCandidatos, 0, kColumnaAkaike + 1));
+    Bloque parametros = Columnas(grdCandidatos, 0, 2);
+    for (std::size_t f = 0; f < parametros.size(); ++f) {
+        const std::string& observacion = grdCandidatos.TextMatrix(static_cast<int>(f), kColumnaAkaike + 1);
+        const std::string& valores = grdCandidatos.TextMatrix(static_cast<int>(f), kColumnaAkaike + 2);
+        parametros[f].push_back(valores + (valores.empty() || observacion.empty() ? "" : ". ") + observacion);
+    }
+    parametros[0].back() = "Parámetros y observación";
+    ReportarFilas(reporte, "Parámetros de los candidatos:", parametros);
     reporte.ReporteLinea(lblCautela.Caption());
     reporte.ReporteBlanco();
-    tabla("Caudales de diseño (m3/s):", grdDiseno);
+    for (int desde = 1; desde < grdDiseno.Cols(); desde += kPeriodosPorTabla) {
+        Bloque caudales = Columnas(grdDiseno, 0, 1);
+        const Bloque otros = Columnas(grdDiseno, desde, std::min(desde + kPeriodosPorTabla, grdDiseno.Cols()));
+        for (std::size_t f = 0; f < caudales.size(); ++f) {
+            caudales[f].insert(caudales[f].end(), otros[f].begin(), otros[f].end());
+        }
+        ReportarFilas(reporte,
+                      desde == 1 ? "Caudales de diseño (m3/s):" : "Caudales de diseño (m3/s), continuación:", caudales);
+    }
     reporte.ReporteLinea(lblAvance.Caption());
 }
 
