@@ -123,7 +123,10 @@ void BarraFormato::Seguir(QTextEdit* texto) {
     if (texto == nullptr) {
         return;
     }
-    connect(texto, &QObject::destroyed, this, [this] { Seguir(nullptr); });
+    connect(texto, &QObject::destroyed, this, [this] {
+        texto_.clear();
+        setEnabled(false);
+    });
     connect(texto, &QTextEdit::currentCharFormatChanged, this, &BarraFormato::MostrarFormato);
     connect(texto, &QTextEdit::cursorPositionChanged, this, &BarraFormato::MostrarFormato);
     connect(texto->document(), &QTextDocument::undoAvailable, deshacer_, &QAction::setEnabled);
