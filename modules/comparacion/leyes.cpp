@@ -16,8 +16,8 @@ constexpr double kMenor = std::numeric_limits<double>::min();
 constexpr double kPrecision = 1e-16;
 constexpr double kFormaUniforme = 20;  // least shape for which the expansion below is used
 
-constexpr int kOrdenes = 7;  // powers of 1/a
-constexpr int kGrado = 34;   // each order takes two degrees of the one before
+constexpr std::size_t kOrdenes = 7;  // powers of 1/a
+constexpr std::size_t kGrado = 34;   // each order takes two degrees of the one before
 
 using Coeficientes = std::array<std::array<double, kGrado>, kOrdenes>;
 
@@ -28,28 +28,28 @@ Coeficientes CoeficientesUniformes() {
     constexpr std::array<double, kOrdenes> g{
         1, 1.0 / 12, 1.0 / 288, -139.0 / 51840, -571.0 / 2488320, 163879.0 / 209018880, 5246819.0 / 75246796800};
     std::array<double, kGrado + 2> m{0, 1};
-    for (int k = 2; k < kGrado + 2; ++k) {
+    for (std::size_t k = 2; k < kGrado + 2; ++k) {
         double suma = m[k - 1];
-        for (int i = 2; i < k; ++i) {
-            suma -= m[i] * (k + 1 - i) * m[k + 1 - i];
+        for (std::size_t i = 2; i < k; ++i) {
+            suma -= m[i] * static_cast<double>(k + 1 - i) * m[k + 1 - i];
         }
-        m[k] = suma / (k + 1);
+        m[k] = suma / static_cast<double>(k + 1);
     }
     // 1/mu = (1/eta)·sum of inversa(k)·eta^k.
     std::array<double, kGrado + 1> inversa{1};
-    for (int k = 1; k <= kGrado; ++k) {
-        for (int i = 1; i <= k; ++i) {
+    for (std::size_t k = 1; k <= kGrado; ++k) {
+        for (std::size_t i = 1; i <= k; ++i) {
             inversa[k] -= m[i + 1] * inversa[k - i];
         }
     }
     Coeficientes C{};
-    for (int e = 0; e < kGrado; ++e) {
+    for (std::size_t e = 0; e < kGrado; ++e) {
         C[0][e] = inversa[e + 1];
     }
-    for (int k = 1; k < kOrdenes; ++k) {
+    for (std::size_t k = 1; k < kOrdenes; ++k) {
         const double signo = k % 2 == 0 ? 1 : -1;
-        for (int e = 0; e < kGrado - 2 * k; ++e) {
-            C[k][e] = (e + 2) * C[k - 1][e + 2] + signo * g[k] * inversa[e + 1];
+        for (std::size_t e = 0; e < kGrado - 2 * k; ++e) {
+            C[k][e] = static_cast<double>(e + 2) * C[k - 1][e + 2] + signo * g[k] * inversa[e + 1];
         }
     }
     return C;
