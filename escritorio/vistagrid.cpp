@@ -245,9 +245,17 @@ void VistaGrid::MedirColumnas() {
     for (int c = 0; c < grid_.Cols(); ++c) {
         const bool fija = c < grid_.FixedCols();
         const auto texto = [&](int desde, int hasta) {
+            // Numbers of as many characters are as wide, but for a few pixels: of a long column only those are measured
+            // that have more of them.
+            const bool todos = hasta - desde <= kFilasMedidas;
+            std::size_t largo = 0;
             int ancho = 0;
             for (int f = desde; f < hasta; ++f) {
-                ancho = std::max(ancho, letra.horizontalAdvance(Q(grid_.TextMatrix(f, c)).trimmed()));
+                const std::string& celda = grid_.TextMatrix(f, c);
+                if (todos || celda.size() > largo) {
+                    largo = celda.size();
+                    ancho = std::max(ancho, letra.horizontalAdvance(Q(celda).trimmed()));
+                }
             }
             return ancho;
         };
