@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QThread>
 #include <QTimer>
+#include <exception>
 
 namespace cuencalia {
 
@@ -20,11 +21,14 @@ class SegundoPlano::Receptor : public QObject {
             app.Despachar([&] { trabajo.alAvanzar(parte); });
         }
     }
-    void Terminar(Aplicacion& app, const std::shared_ptr<TrabajoLargo>& trabajo) {
+    void Terminar(Aplicacion& app, const std::shared_ptr<TrabajoLargo>& trabajo, const std::exception_ptr& fallo) {
         if (app.Sistema().Bloqueada()) {
-            QTimer::singleShot(kReintento, this, [this, &app, trabajo] { Terminar(app, trabajo); });
-        } else {
-            app.Despachar(trabajo->alTerminar);
+            QTimer::singleShot(kReintento, this, [=, this, &app] { Terminar(app, trabajo, fallo); });
+            return;
+        }
+        app.Despachar(trabajo->alTerminar);
+        if (fallo) {
+            app.Despachar([&] { std::rethrow_exception(fallo); });  // told as that of any handler
         }
     }
 };
@@ -43,17 +47,22 @@ void SegundoPlano::Empezar(Aplicacion& app, TrabajoLargo trabajo) {
     auto encargo = std::make_shared<TrabajoLargo>(std::move(trabajo));
     hilos_.emplace_back(QThread::create([&app, encargo, fin = fin_, receptor = receptor_.get()] {
         int porciento = 0;
-        encargo->trabajo([&](double parte) {
-            const int ahora = static_cast<int>(100 * parte);
-            if (ahora != porciento) {
-                porciento = ahora;
-                QMetaObject::invokeMethod(
-                    receptor, [=, &app] { receptor->Avanzar(app, *encargo, parte); }, Qt::QueuedConnection);
-            }
-            return !*fin;
-        });
+        std::exception_ptr fallo;
+        try {
+            encargo->trabajo([&](double parte) {
+                const int ahora = static_cast<int>(100 * parte);
+                if (ahora != porciento) {
+                    porciento = ahora;
+                    QMetaObject::invokeMethod(
+                        receptor, [=, &app] { receptor->Avanzar(app, *encargo, parte); }, Qt::QueuedConnection);
+                }
+                return !*fin;
+            });
+        } catch (...) {
+            fallo = std::current_exception();
+        }
         QMetaObject::invokeMethod(
-            receptor, [=, &app] { receptor->Terminar(app, encargo); }, Qt::QueuedConnection);
+            receptor, [=, &app] { receptor->Terminar(app, encargo, fallo); }, Qt::QueuedConnection);
     }));
     hilos_.back()->start();
 }

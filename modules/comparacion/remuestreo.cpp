@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <future>
 #include <limits>
 #include <random>
-#include <thread>
 
 #include "modules/comparacion/posiciones.h"
 
@@ -173,11 +173,15 @@ std::optional<std::vector<Remuestreo>> Remuestrear(const std::vector<Ajuste>& aj
                                                    const OpcionesRemuestreo& opciones) {
     Trabajo trabajo(ajustes, ordenada, periodos, opciones);
     {
-        std::vector<std::jthread> otros;
+        // A failure in one of them is that of the calling thread, which waits for all.
+        std::vector<std::future<void>> otros;
         for (int h = 1; h < opciones.hilos; ++h) {
-            otros.emplace_back([&trabajo] { trabajo.Trabajar({}); });
+            otros.push_back(std::async(std::launch::async, [&trabajo] { trabajo.Trabajar({}); }));
         }
         trabajo.Trabajar(opciones.progreso);
+        for (std::future<void>& otro : otros) {
+            otro.get();
+        }
     }
     if (trabajo.Cancelado()) {
         return std::nullopt;

@@ -35,6 +35,19 @@ TEST_F(SegundoPlanoTest, TheWindowGoesOnAndCancels) {
     EXPECT_EQ(Comparacion().grdDiseno.TextMatrix(2, 0), "   límite inferior 90 %");
 }
 
+// What fails aside of the windows is told as what fails in a handler, after its end; the program goes on.
+TEST_F(SegundoPlanoTest, AFailureIsTold) {
+    int fines = 0;
+    Hacer([&] {
+        escritorio_->EnSegundoPlano({.trabajo = [](const auto&) { throw ErrorEjecucion(kDesbordamiento); },
+                                     .alAvanzar = [](double) {},
+                                     .alTerminar = [&] { ++fines; }});
+    });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !vigia_.mensajes.empty(); }, 60000));
+    EXPECT_EQ(fines, 1);
+    EXPECT_TRUE(vigia_.mensajes.back().texto.contains("Desbordamiento"));
+}
+
 // The window, and then the program, are closed while it runs.
 TEST_F(SegundoPlanoTest, ClosingEndsTheWork) {
     Remuestrear(500);
