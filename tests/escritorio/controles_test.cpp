@@ -4,7 +4,7 @@ namespace cuencalia::pruebas {
 
 using Controles = Mesa;
 
-TEST_F(Controles, APropertyShowsOnTheWidget) {
+TEST_F(Controles, UnaPropiedadSeVeEnElControl) {
     const std::tuple<std::function<void(FormaDePrueba&)>, const char*, const char*, QVariant> casos[] = {
         {[](auto& f) { f.txt1.Text = "año €"; }, "txt1", "text", "año €"},
         {[](auto& f) { f.txt1.Locked = true; }, "txt1", "readOnly", true},
@@ -53,7 +53,7 @@ TEST_F(Controles, APropertyShowsOnTheWidget) {
 }
 
 // A grid leaves no key but Tab to its widget. A character counts below zero here.
-TEST_F(Controles, AKeyArrivesWithItsCodeAndItsCharacter) {
+TEST_F(Controles, UnaTeclaLlegaConSuCodigoYSuCaracter) {
     std::vector<int> llega;
     F().grd1.KeyDown.Conectar([&](int codigo) { llega.push_back(codigo); });
     F().grd1.KeyPress.Conectar([&](int& letra) { llega.push_back(-letra); });
@@ -78,7 +78,7 @@ TEST_F(Controles, AKeyArrivesWithItsCodeAndItsCharacter) {
     EXPECT_EQ(llega, (std::vector{46, 0, -0xf1, 0, -0x1f600, 69, -0x20ac})) << "AltGr writes, Control gives orders";
 }
 
-TEST_F(Controles, ATextBoxFiltersCharactersAndMovesByItself) {
+TEST_F(Controles, UnaCajaFiltraCaracteresYSeMuevePorSiMisma) {
     auto& caja = Widget<QLineEdit>(F().txt1);
     Clic(caja);
     F().txt1.KeyPress.Conectar([](int& letra) { letra = letra == 'b' ? 0 : letra; });
@@ -111,7 +111,7 @@ TEST_F(Controles, ATextBoxFiltersCharactersAndMovesByItself) {
     EXPECT_TRUE(F().txt1.SelStart == 4 && F().txt1.SelLength == 0);
 }
 
-TEST_F(Controles, TheKeyboardIsWhereTheModelHasIt) {
+TEST_F(Controles, ElTecladoEstaDondeLoTieneElModelo) {
     // A text box that is left drops its mark, which is no reason to have the focus back.
     Clic(Widget(F().txt1));
     Escribir("12");
@@ -144,7 +144,7 @@ TEST_F(Controles, TheKeyboardIsWhereTheModelHasIt) {
     EXPECT_FALSE(alcanzados.contains("txt2")) << "not to a box of results";
 }
 
-TEST_F(Controles, WhatTheUserPicksArrives) {
+TEST_F(Controles, LoQueElUsuarioEligeLlega) {
     Clic(Widget(F().btn1));
     Tecla(Qt::Key_Return);
     Tecla(Qt::Key_Space);
@@ -170,7 +170,7 @@ TEST_F(Controles, WhatTheUserPicksArrives) {
     EXPECT_EQ(F().cmb1.Text(), "dos") << "the arrows go on from the text that the program set";
 }
 
-TEST_F(Controles, TheTabsFollowTheModelAndTellIt) {
+TEST_F(Controles, LasFichasSiguenAlModeloYLeAvisan) {
     QTabBar& fichas = *Widget<QTabWidget>(F().SSTab1).tabBar();
     Clic(Widget(F().txt2));
     Clic(fichas, fichas.tabRect(1).center());
@@ -192,7 +192,7 @@ TEST_F(Controles, TheTabsFollowTheModelAndTellIt) {
 }
 
 // A button is lit by the pointer over it and goes dark by the pointer over what is around it.
-TEST_F(Controles, ThePointerIsToldToWhatIsBelowItAlone) {
+TEST_F(Controles, DelPunteroSabeSoloLoQueTieneDebajo) {
     QWidget &boton = Widget(F().btn1), &marco = Widget(F().Frame1), &lienzo = *Ventana()->centralWidget();
     Apuntar(boton, boton.rect().center());
     F().punteros.clear();

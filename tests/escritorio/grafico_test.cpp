@@ -48,7 +48,7 @@ class Grafico : public Mesa {
     }
 };
 
-TEST_F(Grafico, ASetIsALineThroughItsPointsInTheOrderWritten) {
+TEST_F(Grafico, UnConjuntoEsUnaLineaPorSusPuntosEnElOrdenEscrito) {
     Dibujar({{"Exp", {0, 30, 10, 30}, {-2, 5, 7, 18}}, {"", {}, {1, 2, 1e300, 4}}}, {.titulo = "Curva"});
     EXPECT_TRUE(Lienzo().isVisible());
     EXPECT_EQ(Puntos(0), (Pares{{0, -2}, {30, 5}, {10, 7}, {30, 18}}));
@@ -71,7 +71,7 @@ TEST_F(Grafico, ASetIsALineThroughItsPointsInTheOrderWritten) {
     EXPECT_EQ(Lienzo().plottableCount(), 0) << "what it showed does not come back";
 }
 
-TEST_F(Grafico, TwoChartsOnOneScaleSpanTheValuesOfBoth) {
+TEST_F(Grafico, DosGraficosDeUnaEscalaAbarcanLosValoresDeAmbos) {
     Abrir("frmAutoregresivo");
     auto& graph1 = dynamic_cast<GraficoModulo&>(*Forma("frmAutoregresivo").Controls("Graph1"));
     auto& graph2 = dynamic_cast<GraficoModulo&>(*Forma("frmAutoregresivo").Controls("Graph2"));
@@ -84,7 +84,7 @@ TEST_F(Grafico, TwoChartsOnOneScaleSpanTheValuesOfBoth) {
     EXPECT_TRUE(y(graph1).contains(10) && y(graph1).contains(60) && y(graph1).size() < 60);
 }
 
-TEST_F(Grafico, SixSetsAreToldApartAndTheirLegendHidesNothing) {
+TEST_F(Grafico, SeisConjuntosSeDistinguenYSuLeyendaNoTapaNada) {
     Dibujar(std::vector<SerieGrafico>(6, {"un nombre que no cabe en un renglón", {}, {1, 2}}), {.fondo = kFondoGris});
     EXPECT_EQ(Color({5, 5}), Lienzo().palette().color(QPalette::Window));
     std::set<std::pair<QRgb, int>> colores;
@@ -107,7 +107,7 @@ TEST_F(Grafico, SixSetsAreToldApartAndTheirLegendHidesNothing) {
 }
 
 // The intensities 6, 0 and 9 of three intervals that end at 10, 20 and 40, as rectangles.
-TEST_F(Grafico, RectanglesStandSideBySideOnZero) {
+TEST_F(Grafico, LosRectangulosEstanUnoJuntoAOtroSobreCero) {
     Dibujar({{"", {0, 0, 10, 10, 10, 10, 20, 20, 20, 20, 40, 40}, {0, 6, 6, 0, 0, 0, 0, 0, 0, 9, 9, 0}}},
             {.tipo = kGraficoAreas, .autoInc = 0, .puntos = 16, .conjuntos = 2});
     EXPECT_EQ(Y().lower, 0);
@@ -125,7 +125,7 @@ TEST_F(Grafico, RectanglesStandSideBySideOnZero) {
 }
 
 // Banks at 0 and 10, the deepest place at 4.
-TEST_F(Grafico, AStreamBedHasWaterUpToItsSurface) {
+TEST_F(Grafico, UnCauceTieneAguaHastaSuSuperficie) {
     Dibujar({{"", {0, 4, 10}, {0, -2, 0}}}, {.cauce = true});
     const QColor agua = Color(Pixel(4.3, -0.9)), papel = Color(Pixel(0.7, -1.3));
     EXPECT_NE(agua, papel);
@@ -135,7 +135,7 @@ TEST_F(Grafico, AStreamBedHasWaterUpToItsSurface) {
     EXPECT_EQ(Puntos(2), (Pares{{0, 0}, {4, -2}, {10, 0}}));
 }
 
-TEST_F(Grafico, AxesHaveADecimalPointAndAsManyDecimalsAsTheyNeed) {
+TEST_F(Grafico, LosEjesTienenPuntoYLosDecimalesQueNecesitan) {
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     Cerrar(F());
     Abrir("frmPrueba");
@@ -147,7 +147,7 @@ TEST_F(Grafico, AxesHaveADecimalPointAndAsManyDecimalsAsTheyNeed) {
     QLocale::setDefault(QLocale::c());
 }
 
-TEST_F(Grafico, PointsHaveTheirNamesAtTheAxisAsFarAsTheyFit) {
+TEST_F(Grafico, LosPuntosTienenSuNombreEnElEjeSiCaben) {
     Dibujar({{.y = {3, 1, 2, 5}}}, {.nombres = {"Ene", "Feb", "Mar", "Abr"}});
     EXPECT_EQ(Lienzo().xAxis->tickVectorLabels().join(' '), "Ene Feb Mar Abr");
     Lienzo().xAxis->setRange(2.6, 3.2);
@@ -155,7 +155,7 @@ TEST_F(Grafico, PointsHaveTheirNamesAtTheAxisAsFarAsTheyFit) {
     EXPECT_EQ(Lienzo().xAxis->tickVectorLabels().join(QString()), "Mar") << "what lies between has no name";
 }
 
-TEST_F(Grafico, PointerAndArrowsTellTheValuesOfAPoint) {
+TEST_F(Grafico, ElPunteroYLasFlechasDicenLosValoresDeUnPunto) {
     DibujarTres();
     Clic(Lienzo(), Pixel(25, 0.8));
     const std::pair<Qt::Key, QString> pasos[] = {
@@ -179,7 +179,7 @@ TEST_F(Grafico, PointerAndArrowsTellTheValuesOfAPoint) {
     EXPECT_EQ(Senalado(), "");
 }
 
-TEST_F(Grafico, TheUserZoomsAndMovesAndComesBack) {
+TEST_F(Grafico, ElUsuarioAmpliaMueveYVuelve) {
     DibujarTres();
     const QCPRange todoX = X(), todoY = Y();
     const QPoint centro = Lienzo().rect().center();
@@ -209,7 +209,7 @@ TEST_F(Grafico, TheUserZoomsAndMovesAndComesBack) {
     }
 }
 
-TEST_F(Grafico, ItIsCopiedAndSavedAsShownDarkOnWhite) {
+TEST_F(Grafico, SeCopiaYSeGuardaComoSeVeEnOscuroSobreBlanco) {
     estilo::Aplicar(*qApp, estilo::Esquema::Oscuro);
     DibujarTres();
     EXPECT_LT(Color({5, 5}).lightness(), 128);

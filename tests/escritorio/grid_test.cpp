@@ -17,7 +17,7 @@ class Grid : public Mesa {
     auto Marcadas() { return Tabla().selectionModel()->selectedIndexes().size(); }
 };
 
-TEST_F(Grid, FixedRowsAndColumnsAreHeadingsAndTheRestCells) {
+TEST_F(Grid, LoFijoEsEncabezadoYElRestoCeldas) {
     EXPECT_EQ(Texto(38, 2), "39,3");
     EXPECT_EQ(Encabezado(2, Qt::Horizontal), "0,3");
     EXPECT_EQ(Tabla().findChild<QAbstractButton*>()->findChild<QLabel*>()->text(), "0,0");
@@ -36,7 +36,7 @@ TEST_F(Grid, FixedRowsAndColumnsAreHeadingsAndTheRestCells) {
     EXPECT_EQ(Tabla().model()->rowCount(), 1);
 }
 
-TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
+TEST_F(Grid, UnaColumnaTieneElAnchoQueDiceOElDeSuEncabezado) {
     const char* const largo = "Un encabezado bastante largo";
     const int alineaciones[] = {kAlinearCentro, kAlinearDerecha, kAlinearIzquierda};
     const Qt::Alignment esperado[] = {Qt::AlignHCenter, Qt::AlignRight, Qt::AlignLeft};
@@ -69,7 +69,7 @@ TEST_F(Grid, AColumnIsAlignedAndAsWideAsItSaysOrItsHeadingNeeds) {
     EXPECT_EQ(Tabla().horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(Grid, RowsInSightGoBothWays) {
+TEST_F(Grid, LasFilasALaVistaVanEnAmbosSentidos) {
     int ruedas = 0;
     G().Scroll.Conectar([&] { ++ruedas; });
     Hacer([this] { G().PonerTopRow(10); });
@@ -92,7 +92,7 @@ TEST_F(Grid, RowsInSightGoBothWays) {
     EXPECT_EQ(G().FilasVisibles(), enteras);
 }
 
-TEST_F(Grid, TheMouseGoesToTheCellBelowIt) {
+TEST_F(Grid, ElRatonVaALaCeldaQueTieneDebajo) {
     QWidget& tabla = *Tabla().viewport();
     Clic(tabla, Celda(4, 2).center());
     EXPECT_EQ(Sucesos(), (Textos{"txt1 sale", "grd1 entra", "grd1 botón 1"}));
@@ -121,7 +121,7 @@ TEST_F(Grid, TheMouseGoesToTheCellBelowIt) {
     EXPECT_EQ(Sucesos(), (Textos{"grd1 botón 2", "mnuBorrar clic"}));
 }
 
-TEST_F(Grid, KeysWithShiftAndControlReachTheGrid) {
+TEST_F(Grid, LasTeclasConMayusculasYControlLlegan) {
     Clic(*Tabla().viewport(), Celda(2, 2).center());
     const std::tuple<Qt::Key, Qt::KeyboardModifiers, std::vector<int>> casos[] = {
         {Qt::Key_Down, Qt::ShiftModifier, {2, 2, 3, 2}},
@@ -139,7 +139,7 @@ TEST_F(Grid, KeysWithShiftAndControlReachTheGrid) {
     EXPECT_EQ(QApplication::clipboard()->text(), "2,2\t2,3\n3,2\t3,3\n");
 }
 
-TEST_F(Grid, ATableIsCopiedByItsMenuAndADoubleClickEdits) {
+TEST_F(Grid, UnaTablaSeCopiaPorSuMenuYElDobleClicEdita) {
     Abrir("frmParamEsta");
     Formulario& forma = Forma("frmParamEsta");
     auto& resultados = dynamic_cast<FlexGrid&>(*forma.Controls("grdParam"));
@@ -165,7 +165,7 @@ TEST_F(Grid, ATableIsCopiedByItsMenuAndADoubleClickEdits) {
     }
 }
 
-TEST_F(Grid, APasteIsCancelledWithItsQuestion) {
+TEST_F(Grid, UnPegadoSeCancelaConSuPregunta) {
     Abrir("frmParamEsta");
     auto& datos = dynamic_cast<FlexGrid&>(*Forma("frmParamEsta").Controls("grdt"));
     for (const char* texto : {"1.234", "1.5"}) {
@@ -177,7 +177,7 @@ TEST_F(Grid, APasteIsCancelledWithItsQuestion) {
     EXPECT_EQ(vigia_.mensajes.size(), 1U);
 }
 
-TEST_F(Grid, TheEditBoxStandsOnTheCurrentCell) {
+TEST_F(Grid, LaCajaEstaSobreLaCeldaActual) {
     auto& caja = Widget<QLineEdit>(F().txtt);
     for (const auto& [fila, columna] : {std::pair{3, 2}, std::pair{30, 3}}) {
         Hacer([&, f = fila, c = columna] {

@@ -10,7 +10,7 @@ namespace cuencalia::pruebas {
 
 using Mensajes = Mesa;
 
-TEST_F(Mensajes, AMessageStandsAsItIs) {
+TEST_F(Mensajes, UnMensajeSeVeComoEs) {
     const Icono iconos[] = {kSinIcono, kIconoInformacion, kIconoAdvertencia, kIconoError, kIconoPregunta};
     for (int i = 0; i < 5; ++i) {  // the toolkit counts its icons in this order
         escritorio_->MsgBox("a < b & <b>c</b>", iconos[i], "Título");
@@ -25,7 +25,7 @@ TEST_F(Mensajes, AMessageStandsAsItIs) {
     }
 }
 
-TEST_F(Mensajes, NoCommandRunsUnderAnOpenBox) {
+TEST_F(Mensajes, BajoUnMensajeNoCorreNingunaOrden) {
     QTimer::singleShot(0, [this] {
         Ventana()->close();
         escritorio_->App().Pulsar(F().btn1);
@@ -41,7 +41,7 @@ class Roto : public QWidget {
     void paintEvent(QPaintEvent*) override { throw ErrorEjecucion(kDesbordamiento); }
 };
 
-TEST_F(Mensajes, AnErrorIsToldWhereverItComesFrom) {
+TEST_F(Mensajes, UnErrorSeDiceVengaDeDondeVenga) {
     const std::tuple<std::function<void()>, const char*, const char*> casos[] = {
         {[this] { Hacer([] { throw ErrorEjecucion(kDivisionPorCero); }); }, "11", "División por cero"},
         {[] { QTimer::singleShot(0, [] { throw std::bad_alloc(); }); }, "7", "Memoria insuficiente"},
@@ -57,7 +57,7 @@ TEST_F(Mensajes, AnErrorIsToldWhereverItComesFrom) {
     }
 }
 
-TEST_F(Mensajes, AFileIsAskedFor) {
+TEST_F(Mensajes, SePideUnArchivo) {
     const QTemporaryDir carpeta;
     bool primero = true;  // the later dialogs open in the folder of the file chosen last
     QFile(carpeta.filePath("hay.x")).open(QIODevice::WriteOnly);
@@ -93,7 +93,7 @@ TEST_F(Mensajes, AFileIsAskedFor) {
     escritorio_->ElegirArchivo(ModoArchivo::Abrir, "Hoja", "Nuevos|*.xlsx|Viejos|*.xls", nombre);
 }
 
-TEST_F(Mensajes, TheManualOpensAtTheWindowInFront) {
+TEST_F(Mensajes, ElManualSeAbreEnLaVentanaDelFrente) {
     for (const auto& [nombre, hacer] : FormasDelPrograma()) {
         const QUrl lugar = LugarDelManual(Q(escritorio_->CarpetaInstalacion() + "/ayuda"), Q(nombre));
         EXPECT_EQ(lugar.fragment(), Q(nombre));
@@ -105,7 +105,7 @@ TEST_F(Mensajes, TheManualOpensAtTheWindowInFront) {
     EXPECT_TRUE(salto.readAll().contains("ayuda/estadistica.html#frmParamEsta\""));
 }
 
-TEST_F(Mensajes, SettingsClipboardAndFilesReachTheSystem) {
+TEST_F(Mensajes, AjustesPortapapelesYArchivosLleganAlSistema) {
     escritorio_->GuardarAjuste("Ancho", "1024 ñ");
     EXPECT_EQ(escritorio_->LeerAjuste("Ancho", ""), "1024 ñ");
     EXPECT_EQ(escritorio_->LeerAjuste("NoHayTalAjuste", "9"), "9");
@@ -117,7 +117,7 @@ TEST_F(Mensajes, SettingsClipboardAndFilesReachTheSystem) {
     EXPECT_TRUE(vigia_.abiertos[0].path().endsWith("/ayuda/index.html"));
 }
 
-TEST_F(Mensajes, AWorkbookIsOpenedWhereThereIsAProgramForIt) {
+TEST_F(Mensajes, UnLibroSeAbreDondeHayUnProgramaParaEl) {
     const QTemporaryDir carpeta;
     const QByteArray camino = qgetenv("PATH");
     qputenv("PATH", carpeta.path().toUtf8());

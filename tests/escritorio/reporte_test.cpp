@@ -39,7 +39,7 @@ class Reportes : public Mesa {
 
 // Any order of insertions and deletions gives what an editor that no widget has ever shown has, also when a user types
 // and takes back what he typed between one step of the program and the next.
-TEST_F(Reportes, TheProgramSeesNoWidgetBetweenItselfAndTheText) {
+TEST_F(Reportes, ElProgramaNoVeNadaEntreElYElTexto) {
     const Textos trozos{"a", "\n", "ñ😀", "uno\ndos\n", "", kVariado};
     std::mt19937 azar(1998);
     const auto hasta = [&azar](int maximo) { return std::uniform_int_distribution<int>(0, maximo)(azar); };
@@ -69,7 +69,7 @@ TEST_F(Reportes, TheProgramSeesNoWidgetBetweenItselfAndTheText) {
     }
 }
 
-TEST_F(Reportes, WhatTheUserTypesReachesTheProgramAndIsUndone) {
+TEST_F(Reportes, LoQueElUsuarioEscribeLlegaYSeDeshace) {
     ASSERT_TRUE(Editor().hasFocus());
     Escribir("ab");
     EXPECT_EQ(Texto(), "ab");
@@ -95,7 +95,7 @@ TEST_F(Reportes, WhatTheUserTypesReachesTheProgramAndIsUndone) {
     EXPECT_FALSE(Caja().Leer().Documento().parrafos[0].tramos[1].formato.negrita);
 }
 
-TEST_F(Reportes, TablesLineUpAndALongReportIsShownAtItsEnd) {
+TEST_F(Reportes, LasTablasSeAlineanYUnReporteLargoSeVePorElFinal) {
     Informar("iiii.--- \nMWMW1234X\n");
     const auto x = [this](int linea, int letra) {
         return Editor().document()->findBlockByNumber(linea).layout()->lineAt(0).cursorToX(letra);
@@ -108,7 +108,7 @@ TEST_F(Reportes, TablesLineUpAndALongReportIsShownAtItsEnd) {
     EXPECT_TRUE(Editor().viewport()->rect().contains(Editor().cursorRect().center()));
 }
 
-TEST_F(Reportes, TheKeysCopyTextAndRtfAndPasteEither) {
+TEST_F(Reportes, LasTeclasCopianTextoYRtfYPeganAmbos) {
     const std::string fuente = R"({\rtf1\pard\b uno\b0  dos})";
     Informar(fuente);
     const TextoRico antes = Caja().Leer().Documento();
@@ -126,7 +126,7 @@ TEST_F(Reportes, TheKeysCopyTextAndRtfAndPasteEither) {
     }
 }
 
-TEST_F(Reportes, EachDocumentHasATabWithItsTitle) {
+TEST_F(Reportes, CadaDocumentoTieneSuFichaConSuTitulo) {
     Escribir("uno");
     Tecla(Qt::Key_N, Qt::ControlModifier);
     EXPECT_EQ(Fichas().tabText(1), "Documento 2");
@@ -153,7 +153,7 @@ TEST_F(Reportes, EachDocumentHasATabWithItsTitle) {
     EXPECT_TRUE(vigia_.mensajes.empty()) << "text that was not saved goes without a question";
 }
 
-TEST_F(Reportes, TheBarFormatsUndoesAndFinds) {
+TEST_F(Reportes, LaBarraDaFormatoDeshaceYBusca) {
     const auto pulsar = [this](const char* boton) {
         Ventana("frmPadre")->findChild<QAction*>(boton)->trigger();
         return Caja().Leer().Documento().parrafos[0];
@@ -179,7 +179,7 @@ TEST_F(Reportes, TheBarFormatsUndoesAndFinds) {
 }
 
 // 15 twips make a pixel.
-TEST_F(Reportes, TheWindowComesBackWhereItWas) {
+TEST_F(Reportes, LaVentanaVuelveADondeEstaba) {
     Informar(std::string(145, '-') + "\n");
     EXPECT_EQ(Editor().document()->begin().layout()->lineCount(), 1) << "as wide as the rules at first";
     const auto lugar = [this] { return QRect(Ventana("frmPadre")->pos(), Ventana("frmPadre")->size()); };
@@ -205,7 +205,7 @@ TEST_F(Reportes, TheWindowComesBackWhereItWas) {
 
 // A4 less 20 mm on each side is 170 by 257 mm. Letters of 10 points in that font are 1/12 inch wide, so 80 go into a
 // line of an upright sheet and 121 into one of a sheet lying down; on the screen they are 13 pixels high, not 13 1/3.
-TEST_F(Reportes, TablesAreNotBrokenOnPaper) {
+TEST_F(Reportes, LasTablasNoSePartenEnElPapel) {
     const std::tuple<int, bool, double> casos[] = {{79, false, 1}, {100, true, 1}, {145, true, 121.0 / 145}};
     for (const auto& [guiones, apaisado, escala] : casos) {
         QBuffer archivo;
@@ -228,7 +228,7 @@ TEST_F(Reportes, TablesAreNotBrokenOnPaper) {
     EXPECT_EQ(vigia_.otrosDialogos, QStringList("Imprimir"));
 }
 
-TEST_F(Reportes, PaperAndDarkScreensShowTheColoursOfTheFile) {
+TEST_F(Reportes, PapelYPantallaOscuraTienenLosColoresDelArchivo) {
     const TextoRico texto = LeerRtf(R"({\rtf1{\colortbl;\red0\green0\blue96;}{\cf1 a}b})");
     const auto color = [](QTextDocument& documento) {
         return documento.begin().begin().fragment().charFormat().foreground().color();

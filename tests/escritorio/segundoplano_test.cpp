@@ -24,7 +24,7 @@ class SegundoPlanoTest : public Mesa {
 };
 
 // The window answers while the resampling runs: a click reaches its button, and what was cancelled does not come back.
-TEST_F(SegundoPlanoTest, TheWindowGoesOnAndCancels) {
+TEST_F(SegundoPlanoTest, LaVentanaSigueYCancela) {
     Remuestrear(500);
     EXPECT_EQ(Avance(), "Remuestreando…");
     EXPECT_TRUE(QTest::qWaitFor([this] { return Avance().find(" %") != std::string::npos; }, 60000));
@@ -36,7 +36,7 @@ TEST_F(SegundoPlanoTest, TheWindowGoesOnAndCancels) {
 }
 
 // What fails aside of the windows is told as what fails in a handler, after its end; the program goes on.
-TEST_F(SegundoPlanoTest, AFailureIsTold) {
+TEST_F(SegundoPlanoTest, UnFalloSeDice) {
     int fines = 0;
     Hacer([&] {
         escritorio_->EnSegundoPlano({.trabajo = [](const auto&) { throw ErrorEjecucion(kDesbordamiento); },
@@ -49,7 +49,7 @@ TEST_F(SegundoPlanoTest, AFailureIsTold) {
 }
 
 // The window, and then the program, are closed while it runs.
-TEST_F(SegundoPlanoTest, ClosingEndsTheWork) {
+TEST_F(SegundoPlanoTest, CerrarTerminaElTrabajo) {
     Remuestrear(500);
     Cerrar(Comparacion());
     QTest::qWait(50);

@@ -9,7 +9,7 @@ namespace cuencalia::pruebas {
 using Ventanas = Mesa;
 
 // Whatever a form shows at any time is shown at once, on the smallest screen and with larger letters.
-TEST_F(Ventanas, EveryFormOfTheProgramIsWhole) {
+TEST_F(Ventanas, CadaFormaDelProgramaEstaEntera) {
     const QFont antes = QApplication::font();
     for (const double escala : {1.5, 1.0}) {
         QFont letra = antes;
@@ -52,7 +52,7 @@ TEST_F(Ventanas, EveryFormOfTheProgramIsWhole) {
     }
 }
 
-TEST_F(Ventanas, AWindowOpensWithRoomForItsGridsAndNoLargerThanTheScreen) {
+TEST_F(Ventanas, UnaVentanaAbreConSitioParaSusTablasYCabeEnLaPantalla) {
     Cerrar(F());
     FormaDePrueba::columnas = 100;
     Abrir("frmPrueba");
@@ -67,7 +67,7 @@ TEST_F(Ventanas, AWindowOpensWithRoomForItsGridsAndNoLargerThanTheScreen) {
     }
 }
 
-TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
+TEST_F(Ventanas, UnaVentanaEsUnaParaSuFormaYSeVaConElla) {
     Abrir("frmacerc");
     QMainWindow* ventana = Ventana("frmacerc");
     ventana->showMinimized();
@@ -90,7 +90,7 @@ TEST_F(Ventanas, AWindowIsOneForItsFormAndGoesWithIt) {
     });
 }
 
-TEST_F(Ventanas, TheyOpenInCascadeAndASmallScreenShowsThemByParts) {
+TEST_F(Ventanas, AbrenEnCascadaYUnaPantallaChicaLasMuestraPorPartes) {
     Ventana()->move(50, 70);
     Abrir("frmacerc");
     EXPECT_EQ(Ventana("frmacerc")->pos(), QPoint(80, 100));
@@ -108,7 +108,7 @@ TEST_F(Ventanas, TheyOpenInCascadeAndASmallScreenShowsThemByParts) {
     EXPECT_GE(todo.height(), todo.minimumSizeHint().height());
 }
 
-TEST_F(Ventanas, WhatStandsBesideAChartKeepsItsSizeWithoutIt) {
+TEST_F(Ventanas, LoQueEstaJuntoAUnGraficoNoCambiaSinEl) {
     Abrir("frmDistriFre");
     Formulario& forma = Forma("frmDistriFre");
     std::set<int> altos;

@@ -33,7 +33,7 @@ class GraficoTest : public testing::Test {
 };
 
 // All the y first, set after set, and then all the x: each kind has its own next point.
-TEST_F(GraficoTest, AutoIncGoesThroughPointsAndSets) {
+TEST_F(GraficoTest, AutoIncRecorrePuntosYConjuntos) {
     G.PonerNumPoints(2);
     G.PonerNumSets(3);
     for (const int y : {1, 2, 3, 4, 5, 6}) {
@@ -56,7 +56,7 @@ TEST_F(GraficoTest, AutoIncGoesThroughPointsAndSets) {
     EXPECT_EQ(Y(3), (Valores{8, 6}));
 }
 
-TEST_F(GraficoTest, WithoutAutoIncThePointChosenIsWritten) {
+TEST_F(GraficoTest, SinAutoIncSeEscribeElPuntoElegido) {
     G.PonerNumPoints(2);
     G.PonerNumSets(2);
     G.AutoInc = 0;
@@ -78,7 +78,7 @@ TEST_F(GraficoTest, WithoutAutoIncThePointChosenIsWritten) {
     EXPECT_EQ(Y(1), (Valores{5, std::nullopt})) << "and begins at the first point";
 }
 
-TEST_F(GraficoTest, ASetWithoutPositionsTakesThoseOfTheFirstAndWithoutThose1ToN) {
+TEST_F(GraficoTest, UnConjuntoSinPosicionesTomaLasDelPrimeroOVaDe1AN) {
     const DescripcionGrafico tres{.autoInc = 0, .puntos = 3, .conjuntos = 3};
     GraficoDibujar(G, tres, {{"", {}, {5, 6}}, {"", {10, 20}, {7, 8}}});
     EXPECT_EQ(G.Abscisas(1), (Valores{1, 2, 3}));
@@ -90,7 +90,7 @@ TEST_F(GraficoTest, ASetWithoutPositionsTakesThoseOfTheFirstAndWithoutThose1ToN)
     EXPECT_EQ(Error([&] { G.Abscisas(4); }), 5);
 }
 
-TEST_F(GraficoTest, OneSequenceDrawsEveryChart) {
+TEST_F(GraficoTest, UnaSecuenciaDibujaTodosLosGraficos) {
     EXPECT_FALSE(G.Visible);
     GraficoDibujar(G, {.tipo = kGraficoAreas, .estilo = kSimbolosSueltos, .fondo = 7, .conTrama = true, .titulo = "t"},
                    {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
