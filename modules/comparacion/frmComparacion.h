@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "frame/modulo/marcomodulo.h"
+#include "frame/modulo/recibeserie.h"
 #include "frame/reportes/grafico.h"
 #include "modules/comparacion/comparar.h"
-#include "modules/comparacion/recibeserie.h"
 #include "modules/comparacion/remuestreo.h"
 
 namespace cuencalia {

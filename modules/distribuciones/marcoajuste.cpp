@@ -1,7 +1,7 @@
 #include "modules/distribuciones/marcoajuste.h"
 
 #include "frame/base/textos.h"
-#include "modules/comparacion/recibeserie.h"
+#include "frame/modulo/recibeserie.h"
 #include "modules/estadistica/orden.h"
 
 namespace cuencalia {
