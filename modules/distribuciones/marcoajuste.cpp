@@ -2,6 +2,8 @@
 
 #include "frame/base/textos.h"
 #include "frame/modulo/recibeserie.h"
+#include "modules/distribuciones/comprobacion.h"
+#include "modules/distribuciones/reporteajuste.h"
 #include "modules/estadistica/orden.h"
 
 namespace cuencalia {
@@ -16,15 +18,7 @@ constexpr const char* kAjusteEnReposo = "Ajuste:";
 constexpr const char* kTituloAviso = "Mensaje de Error";
 constexpr const char* kPatronCaudal = "#####0.#0";
 
-constexpr Double kToleranciaAviso = 0.01;
-constexpr Double kPeriodoDeLaTolerancia = 20000;  // 1/T below the tolerance of Gammainversa from here on
 constexpr int kVecesLaSerie = 4;  // a return period so many times the series is told to be far beyond it
-
-/// With the typographic minus sign, as a hyphen is easily overlooked.
-std::string Porcentaje(Double fraccion) {
-    const std::string cifras = Format(Abs(fraccion) * 100, "0.00");
-    return (fraccion < 0 && cifras != "0.00" ? "−" : "") + cifras + " %";
-}
 
 }  // namespace
 
@@ -82,7 +76,7 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
     bPmenor.Click.Conectar([this] { bPmenor_Click(); });
 }
 
-void MarcoAjuste::DeclararParametros(Campos ordinarios, Campos lineales) {
+void MarcoAjuste::DeclararParametros(ParametrosDeAjuste ordinarios, ParametrosDeAjuste lineales) {
     ordinarios_ = std::move(ordinarios);
     lineales_ = std::move(lineales);
     for (const auto* parametros : {&ordinarios_, &lineales_}) {
@@ -205,7 +199,7 @@ void MarcoAjuste::bQ_Click() {
     const Double Q = Cuantil(1 - 1 / T);
     txtxq.Text = Format(Q, kPatronCaudal);
     if (T > 1) {
-        Comprobar(
+        Comprobado(
             txtxt, txtxq, Q, [&] { return Exacta().Cuantil(1 - 1 / T); }, kPatronCaudal, T);
     }
 }
@@ -217,7 +211,7 @@ void MarcoAjuste::bT_Click() {
     if (const auto G = Probabilidad(Val(txtxq.Text()), Evaluacion::PeriodoRetorno)) {
         const Double T = 1 / (1 - *G);
         txtxt.Text = Format(T, ajuste_.patronT);
-        Comprobar(
+        Comprobado(
             txtxq, txtxt, T, [&] { return 1 / Exacta().Excedencia(Val(txtxq.Text())); }, ajuste_.patronT, T);
     }
 }
@@ -227,46 +221,26 @@ void MarcoAjuste::Decir(const TextBox& entrada, const std::string& texto) {
     StatusBar1.PonerPanel(kPanelAvisos, lectura.empty() ? texto : lectura + " · " + texto);
 }
 
-std::string MarcoAjuste::Causa(Double T) const {
-    if (const std::string causa = CausaDeDiferencia(); !causa.empty()) {
-        return causa;
+void MarcoAjuste::Comprobado(const TextBox& entrada, const TextBox& caja, Double valor,
+                             const std::function<Double()>& exacto, const char* patron, Double T) {
+    Comprobacion c = Comprobar({.valor = valor,
+                                .mostrado = caja.Text,
+                                .patron = patron,
+                                .T = T,
+                                .sinAsentar = n > kRondasGamma && n > datosAjustados_,
+                                .causa = CausaDeDiferencia(),
+                                .exacto = exacto});
+    if (c.existe) {
+        if (&caja != &txtxp) {
+            advertencia_ = c.advierte ? c.texto : "";
+            advertidaT_ = txtxt.Text;
+            advertidaQ_ = txtxq.Text;
+        }
+        if (T > kVecesLaSerie * datosAjustados_) {
+            c.texto += "; T es más de " + std::to_string(kVecesLaSerie) + " veces la longitud de la serie";
+        }
     }
-    if (n > kRondasGamma && n > datosAjustados_) {
-        return "la búsqueda terminó sin asentarse";
-    }
-    return T > kPeriodoDeLaTolerancia ? "T mayor que 20000 está fuera del alcance de la aproximación"
-                                      : "error de la aproximación";
-}
-
-void MarcoAjuste::Comprobar(const TextBox& entrada, const TextBox& caja, Double valor,
-                            const std::function<Double()>& exacto, const char* patron, Double T) {
-    Double diferencia;
-    std::string valorExacto;
-    try {
-        const Double correcto = exacto();
-        valorExacto = Format(correcto, patron);
-        // Equal figures may have a great relative difference where they are all 0.
-        diferencia = valorExacto == caja.Text() || correcto == 0 ? Double(0) : (valor - correcto) / Abs(correcto);
-    } catch (const ErrorEjecucion&) {
-        Decir(entrada, "El valor exacto no existe para estos parámetros");
-        return;
-    }
-    const bool sinAsentar = n > kRondasGamma && n > datosAjustados_;
-    const bool advierte = Abs(diferencia) > kToleranciaAviso || sinAsentar;
-    std::string texto = (advierte ? "Atención: valor exacto " : "Comprobado: valor exacto ") + valorExacto +
-                        ", diferencia " + Porcentaje(diferencia);
-    if (advierte) {
-        texto += " (" + Causa(T) + ")";
-    }
-    if (&caja != &txtxp) {
-        advertencia_ = advierte ? texto : "";
-        advertidaT_ = txtxt.Text;
-        advertidaQ_ = txtxq.Text;
-    }
-    if (T > kVecesLaSerie * datosAjustados_) {
-        texto += "; T es más de " + std::to_string(kVecesLaSerie) + " veces la longitud de la serie";
-    }
-    Decir(entrada, texto);
+    Decir(entrada, c.texto);
 }
 
 void MarcoAjuste::MostrarDelta5() {
@@ -288,7 +262,7 @@ void MarcoAjuste::EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitu
     if (const auto G = Probabilidad(Val(txtxq.Text()), evaluacion)) {
         const Double P = evaluacion == Evaluacion::Excedencia ? 1 - *G : *G;
         txtxp.Text = Format(P * 100, ajuste_.patronP);
-        Comprobar(
+        Comprobado(
             txtxq, txtxp, P * 100,
             [&] {
                 const Double Q = Val(txtxq.Text());
@@ -336,74 +310,20 @@ void MarcoAjuste::bComparar_Click() {
     dynamic_cast<RecibeSerie&>(App().ModuloAbrir("frmComparacion")).RecibirSerie(Caption(), std::move(serie));
 }
 
-void MarcoAjuste::ReportarTabla(Reporte& reporte) {
-    constexpr int kAnchoCelda = 18;
-    std::vector<std::string> encabezados = ajuste_.encabezadosReporte;
-    if (encabezados.empty()) {
-        encabezados = {ajuste_.encabezadosTeoricos[0] + " ", ajuste_.encabezadosTeoricos[1] + " ", "Delta "};
-    }
-    std::string linea = "        m  \t        X  \t                 P(X)  ";
-    for (const std::string& encabezado : encabezados) {
-        linea += "   " + encabezado;
-    }
-    // The report has the rows of the table that the last fit filled.
-    int filas = 0;
-    while (filas + 1 < grddis.Rows() && !grddis.TextMatrix(filas + 1, 0).empty()) {
-        ++filas;
-    }
-    reporte.EscribirTabla({.titulo = "Cálculos del ajuste Smirnov Kolmogorov:",
-                           .regla = 130,
-                           .encabezado = linea,
-                           .celda = CeldaCentrada(kAnchoCelda, [](int fila, int) { return fila == 1 ? 1 : 0; })},
-                          grddis, filas);
-}
-
-void MarcoAjuste::ReportarParametros(Reporte& reporte) const {
-    const auto lineas = [&reporte](const Campos& campos) {
-        for (const CampoParametro* campo : campos) {
-            reporte.ReporteLinea(campo->enReporte + campo->caja.Text());
-        }
-    };
-    if (!ajuste_.porAmbosMomentos) {
-        lineas(ordinarios_);
-        return;
-    }
-    reporte.ReporteLinea("Con momentos ordinarios:");
-    lineas(ordinarios_);
-    reporte.ReporteBlanco();
-    reporte.ReporteLinea("Con momentos lineales:");
-    lineas(lineales_);
-}
-
 void MarcoAjuste::GenerarReporte(Reporte& reporte) {
     constexpr int kReglaSerie = 40;
-    constexpr int kReglaVeredicto = 55;
-    constexpr int kReglaDiseno = 30;
     reporte.EscribirTabla(TablaDeSerie("Serie de datos X:", {" N°", " X"}, kReglaSerie), datos.grdt, datos.Filas());
     reporte.ReporteBlanco();
     reporte.ReporteBlanco();
-    ReportarTabla(reporte);
-    reporte.LineaDeGuiones(kReglaVeredicto);
-    reporte.ReporteLinea(lblAjuste.Caption());
-    reporte.LineaDeGuiones(kReglaVeredicto);
-    reporte.ReporteLinea(lblmensaje.Caption());
-    reporte.ReporteBlanco();
-    reporte.LineaDeGuiones(kReglaVeredicto);
-    reporte.ReporteLinea(ajuste_.tituloReporte);
-    reporte.LineaDeGuiones(kReglaVeredicto);
-    ReportarParametros(reporte);
-    reporte.LineaDeGuiones(kReglaDiseno);
-    reporte.ReporteLinea("Caudal de diseño:");
-    reporte.LineaDeGuiones(kReglaDiseno);
-    reporte.ReporteLinea("El caudal de diseño para un periodo de retorno de " + txtxt.Text() + " años, es " +
-                         txtxq.Text());
-    if (!advertencia_.empty() && txtxt.Text() == advertidaT_ && txtxq.Text() == advertidaQ_) {
-        reporte.ReporteLinea(advertencia_);
-    }
+    ReportarPrueba(reporte, grddis, ajuste_);
+    ReportarVeredicto(reporte, lblAjuste.Caption, lblmensaje.Caption);
+    ReportarParametros(reporte, ajuste_, ordinarios_, lineales_);
+    const bool advertida = txtxt.Text() == advertidaT_ && txtxq.Text() == advertidaQ_;
+    ReportarDiseno(reporte, txtxt.Text, txtxq.Text, advertida ? advertencia_ : "");
 }
 
 Disposicion MarcoAjuste::ZonaParametros() {
-    const auto tabla = [](const Campos& campos) {
+    const auto tabla = [](const ParametrosDeAjuste& campos) {
         std::vector<Disposicion> celdas;
         for (CampoParametro* campo : campos) {
             celdas.emplace_back(campo->etiqueta);

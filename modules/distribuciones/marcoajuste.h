@@ -3,49 +3,14 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "frame/modulo/modulocalculo.h"
 #include "frame/reportes/grafico.h"
+#include "modules/distribuciones/descripcionajuste.h"
 #include "modules/distribuciones/exacta.h"
 #include "modules/distribuciones/smirnovkolmogorov.h"
 
 namespace cuencalia {
-
-/// The properties in which the windows of the distributions differ.
-struct DescripcionAjuste {
-    std::string titulo;           ///< Title of the window.
-    const char* nombre;           ///< Name of the distribution in the verdict.
-    const char* marcoParametros;  ///< Title of the frame around the parameters.
-    const char* tituloReporte;    ///< Title of the parameters in the report.
-    bool porAmbosMomentos = true;
-    const char* encabezadoOrdinarios = "Con momentos ordinarios:";  ///< Above the parameters on the window.
-    const char* encabezadoLineales = "Con momentos lineales:";
-    std::vector<std::string> encabezadosTeoricos{"G(Y) Ordinario",
-                                                 "G(Y) Mom Lineal"};  ///< Columns 3 and 4 of the table.
-    /// Headings of columns 3 to 5 in the report; empty: the headings of the table, each followed by a blank.
-    std::vector<std::string> encabezadosReporte{};
-    std::vector<std::string> leyendas{"Exp", "Ord", "ML"};  ///< Legends of the chart's curves.
-    const char* patronDeltaTeorico = "#####0.###0";
-    const char* patronDeltaTabular = "###0.###0";
-    const char* patronT = "###0.0";
-    const char* patronP = "###.#0";
-    /// What cannot be evaluated, in the message that bPmayor gives when there is no fit yet.
-    const char* avisoPmayor = "la probabilidad de no excedencia";
-    bool parametrosTrasTabla = false;      ///< True: the parameters are shown after the table is filled; false: before.
-    Icono iconoNoPositivos = kIconoError;  ///< Icon of the message that refuses values without a logarithm.
-};
-
-/// A parameter shown on the window and in the report.
-struct CampoParametro {
-    CampoParametro(Formulario& forma, const char* nombre, const char* rotulo, const char* enReporte,
-                   const Double& valor);
-
-    Label etiqueta;
-    TextBox caja;
-    const char* enReporte;
-    const Double& valor;  ///< Value from the last fit.
-};
 
 /// The controls by which the user chooses between ordinary and linear moments.
 struct TipoDeAjuste {
@@ -109,11 +74,9 @@ class MarcoAjuste : public ModuloCalculo {
   protected:
     enum class Evaluacion { PeriodoRetorno, Excedencia, NoExcedencia };
 
-    using Campos = std::vector<CampoParametro*>;
-
     /// Sets the parameters shown on the window and in the report, in that order; `lineales` is empty for a distribution
     /// with only one kind of moments.
-    void DeclararParametros(Campos ordinarios, Campos lineales = {});
+    void DeclararParametros(ParametrosDeAjuste ordinarios, ParametrosDeAjuste lineales = {});
 
     const DescripcionAjuste& Ajuste() const { return ajuste_; }
     /// Whether the ordinary moments are chosen.
@@ -158,19 +121,16 @@ class MarcoAjuste : public ModuloCalculo {
     bool Preparado(const std::string& magnitud, const TextBox& entrada, const char* falta);
     /// Says in the status bar how far the value that `caja` now shows is from the exact one; a warning is kept for the
     /// report. `T` is the return period in question.
-    void Comprobar(const TextBox& entrada, const TextBox& caja, Double valor, const std::function<Double()>& exacto,
-                   const char* patron, Double T);
+    void Comprobado(const TextBox& entrada, const TextBox& caja, Double valor, const std::function<Double()>& exacto,
+                    const char* patron, Double T);
     void Decir(const TextBox& entrada, const std::string& texto);
-    std::string Causa(Double T) const;
     void MostrarDelta5();
     void EvaluarProbabilidad(Evaluacion evaluacion, const char* magnitud);
-    void ReportarTabla(Reporte& reporte);
-    void ReportarParametros(Reporte& reporte) const;
     Disposicion ZonaParametros();
     Disposicion ZonaDiseno();
 
     DescripcionAjuste ajuste_;
-    Campos ordinarios_, lineales_;
+    ParametrosDeAjuste ordinarios_, lineales_;
     int datosAjustados_ = 0;  ///< The n of the last fit.
     std::string avisoPuntos_;
     /// A warning about the design discharge, and the contents of the boxes to which it belongs.
