@@ -15,13 +15,13 @@ namespace cuencalia {
 
 namespace {
 
-const TablaDeLatitudes& TablaDelArchivo(const std::filesystem::path& ruta) {
+const TablaDeLatitudes& TablaDelArchivo(const std::string& ruta) {
     for (const TablaDeLatitudes* tabla : {&kTablaF, &kTablaP, &kTablaN}) {
-        if (ruta.filename() == tabla->archivo) {
+        if (std::filesystem::path(ruta).filename() == tabla->archivo) {
             return *tabla;
         }
     }
-    throw std::runtime_error("no table has the file " + ruta.filename().string());
+    throw std::runtime_error("no table has the file " + ruta);
 }
 
 void Escribir(std::istream& csv, const std::string& ruta) {

@@ -1,5 +1,7 @@
 #include "modules/comparacion/frmComparacion.h"
 
+#include <algorithm>
+
 #include "frame/base/textos.h"
 #include "modules/distribuciones/frmDisGumbel.h"
 #include "tests/datos_publicados.h"
