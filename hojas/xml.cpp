@@ -15,7 +15,18 @@ constexpr int kMaxProfundidad = 64;  // the parts of a valid workbook nest less 
 
 // How far before the current piece a tag, comment or the like may start. The parser scans one that is not complete from
 // its start again with each piece, so that a tag of the size of the part would take time by its square.
-constexpr XML_Index kMaxMarca = XML_Index{64} << 10;
+constexpr std::int64_t kMaxMarca = std::int64_t{64} << 10;
+
+// Where the parser stands. A library that has the position in 64 bits calls the other function deprecated, and one that
+// has not is still in use.
+template <typename Analizador>
+std::int64_t LugarDe(Analizador* analizador) {
+    if constexpr (requires { XML_GetCurrentByteIndex64(analizador); }) {
+        return XML_GetCurrentByteIndex64(analizador);
+    } else {
+        return XML_GetCurrentByteIndex(analizador);
+    }
+}
 
 struct Nombre {
     std::string_view espacio;
@@ -136,7 +147,7 @@ void LectorXml::Analizar(std::span<const std::byte> trozo, bool ultimo) {
     if (estado != XML_STATUS_OK && !detenido_) {
         FallarDanado();
     }
-    if (!detenido_ && leidos_ - XML_GetCurrentByteIndex(analizador_.get()) > kMaxMarca) {
+    if (!detenido_ && leidos_ - LugarDe(analizador_.get()) > kMaxMarca) {
         FallarDemasiadoGrande();
     }
     leidos_ += static_cast<std::int64_t>(trozo.size());
