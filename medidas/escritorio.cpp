@@ -1,7 +1,7 @@
 // Costs on the desktop, painting included: every window is drawn by the processor into memory, as on a screen without
 // the help of a graphics card.
 
-#include "escritorio/escritorio.h"
+#include "escritorio/programa/escritorio.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,9 +11,9 @@
 #include <cmath>
 #include <string>
 
-#include "escritorio/estilo.h"
-#include "escritorio/ventana.h"
-#include "escritorio/vista.h"
+#include "escritorio/ventanas/ventana.h"
+#include "escritorio/vistas/estilo.h"
+#include "escritorio/vistas/vista.h"
 #include "frame/base/textos.h"
 #include "frame/controles/flexgrid.h"
 #include "shell/formas.h"

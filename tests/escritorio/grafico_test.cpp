@@ -2,8 +2,8 @@
 
 #include <QSvgRenderer>
 
-#include "escritorio/estilo.h"
-#include "escritorio/lienzografico.h"
+#include "escritorio/vistas/estilo.h"
+#include "escritorio/vistas/lienzografico.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {

@@ -3,8 +3,8 @@
 #include <QStandardPaths>
 #include <iostream>
 
-#include "escritorio/estilo.h"
-#include "escritorio/programa.h"
+#include "escritorio/programa/programa.h"
+#include "escritorio/vistas/estilo.h"
 
 int main(int argc, char** argv) {
     if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen") {

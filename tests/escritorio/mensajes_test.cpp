@@ -1,7 +1,7 @@
 #include <QPrinterInfo>
 #include <new>
 
-#include "escritorio/manual.h"
+#include "escritorio/servicios/manual.h"
 #include "frame/base/hojas.h"
 #include "shell/formas.h"
 #include "tests/escritorio/mesa.h"

@@ -1,6 +1,6 @@
 #include "tests/escritorio/mesa.h"
 
-#include "escritorio/programa.h"
+#include "escritorio/programa/programa.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {

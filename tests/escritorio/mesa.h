@@ -6,9 +6,9 @@
 #include <QtWidgets>
 #include <functional>
 
-#include "escritorio/escritorio.h"
-#include "escritorio/ventana.h"
-#include "escritorio/vista.h"
+#include "escritorio/programa/escritorio.h"
+#include "escritorio/ventanas/menus.h"
+#include "escritorio/vistas/vista.h"
 #include "frame/controles/flexgrid.h"
 #include "frame/reportes/grafico.h"
 

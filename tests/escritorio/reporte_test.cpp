@@ -3,9 +3,9 @@
 #include <QPdfWriter>
 #include <random>
 
-#include "escritorio/impresion.h"
-#include "escritorio/ventanapadre.h"
-#include "escritorio/vistatextorico.h"
+#include "escritorio/servicios/impresion.h"
+#include "escritorio/ventanas/ventanapadre.h"
+#include "escritorio/vistas/documentorico.h"
 #include "frame/reportes/frmPadre.h"
 #include "frame/reportes/rtf.h"
 #include "tests/escritorio/mesa.h"

@@ -1,6 +1,6 @@
 #include <QAccessible>
 
-#include "escritorio/estilo.h"
+#include "escritorio/vistas/estilo.h"
 #include "shell/formas.h"
 #include "tests/escritorio/mesa.h"
 

@@ -9,9 +9,9 @@
 #include <iostream>
 #include <random>
 
-#include "escritorio/escritorio.h"
-#include "escritorio/estilo.h"
-#include "escritorio/programa.h"
+#include "escritorio/programa/escritorio.h"
+#include "escritorio/programa/programa.h"
+#include "escritorio/vistas/estilo.h"
 #include "shell/formas.h"
 
 using namespace cuencalia;
