@@ -34,7 +34,7 @@ constexpr double kAltoPorOmision = 9600;  // twips
 /// A length in pixels, limited because a stored setting may contain any number.
 int EnPixeles(double twips) {
     constexpr double kLimite = 1e5;
-    return static_cast<int>(std::clamp(twips / estilo::kTwipsPorPixel, -kLimite, kLimite));
+    return static_cast<int>(std::clamp(twips / kTwipsPorPixel, -kLimite, kLimite));
 }
 
 QScreen* PantallaDe(const QRect& lugar) {
@@ -137,7 +137,7 @@ QSizeF VentanaPadre::LargoAlAbrir() const {
         return {padre.Width, padre.Height};
     }
     const int barra = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    return {2 * kMargenDocumento + (AnchoDeReglas() + barra) * estilo::kTwipsPorPixel, kAltoPorOmision};
+    return {2 * kMargenDocumento + (AnchoDeReglas() + barra) * kTwipsPorPixel, kAltoPorOmision};
 }
 
 void VentanaPadre::AbrirEnSuLugar() {
@@ -159,7 +159,7 @@ void VentanaPadre::DecirLugar() {
         for (const auto& [propiedad, pixeles] : lugar) {
             // A length that did not change on the screen is not rounded to whole pixels.
             if (EnPixeles(*propiedad) != pixeles) {
-                *propiedad = pixeles * estilo::kTwipsPorPixel;
+                *propiedad = pixeles * kTwipsPorPixel;
             }
         }
     });

@@ -20,8 +20,8 @@ constexpr int kReglaAncha = 145;     // dashes
 /// Property with the colour that the text has in the file, where the screen shows another one.
 constexpr int kColorPropio = QTextFormat::UserProperty;
 
-double EnPixeles(int twips) { return twips / estilo::kTwipsPorPixel; }
-int EnTwips(double pixeles) { return static_cast<int>(std::lround(pixeles * estilo::kTwipsPorPixel)); }
+double EnPixeles(int twips) { return twips / kTwipsPorPixel; }
+int EnTwips(double pixeles) { return static_cast<int>(std::lround(pixeles * kTwipsPorPixel)); }
 
 /// Font families for a font name. The report's own font has monospaced substitutes, because its tables of dashes and
 /// blanks line up only with characters of equal width.

@@ -5,6 +5,8 @@
 #include <QSize>
 #include <QString>
 
+#include "frame/base/twips.h"
+
 class QApplication;
 class QPainter;
 class QRectF;
@@ -29,7 +31,6 @@ QColor FondoAviso();  ///< Of a cell that the user is to look at.
 QColor Linea();       ///< Grid lines and borders.
 QColor TextoTenue();  ///< Colour of notes.
 
-inline constexpr double kTwipsPorPixel = 15;  ///< 1440 twips and 96 pixels make an inch.
 /// A length in twips as pixels, before the scale of the screen is applied.
 int Pixeles(int twips);
 

@@ -13,7 +13,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
-#include <numeric>
 
 #include "escritorio/vistas/estilo.h"
 
@@ -23,11 +22,7 @@ namespace {
 
 constexpr int kFilasNaturales = 14;
 constexpr int kFilasMinimas = 4;
-constexpr int kAireColumna = 18, kAireMinimo = 10;
 constexpr int kMinimoDatos = 180, kMinimoResultados = 440;  // a wider table is scrolled on a small screen
-constexpr char kDato[] = "00000.000";                       // a column of data shows that much of a number
-constexpr int kFilasMedidas = 40;  // rows whose labels are measured; labels beyond them are only numbers
-constexpr int kFilasDeTexto = 10;  // a grid of no more rows may hold texts, such as equations, that need their width
 
 Qt::Alignment AlineacionDe(int codigo) {
     if (codigo == kAlinearCentro) {
@@ -168,7 +163,7 @@ VistaGrid::VistaGrid(Anfitrion& anfitrion, FlexGrid& grid, QWidget* padre)
     tabla_->setWordWrap(false);
     tabla_->viewport()->setMouseTracking(true);
     // A grid that takes no typing does not show its current cell while another control has the focus.
-    tabla_->setProperty("lectura", EsDeLectura());
+    tabla_->setProperty("lectura", EsDeLectura(grid));
     tabla_->setProperty("varias", false);
     tabla_->setProperty("marco", grid.BorderStyle());
 
@@ -239,52 +234,23 @@ QRect VistaGrid::CeldaActual() const { return tabla_->visualRect(Indice(grid_.Ro
 void VistaGrid::MedirColumnas() {
     tabla_->ensurePolished();  // sets the font of the style, also before the window is first shown
     const QFontMetrics letra = tabla_->fontMetrics();
-    const bool corta = grid_.Rows() <= kFilasDeTexto;
-    std::vector<int> anchos, minimos, faltas;
-    for (int c = 0; c < grid_.Cols(); ++c) {
-        const bool fija = c < grid_.FixedCols();
-        const auto texto = [&](int desde, int hasta) {
-            // Numbers of as many characters are as wide, but for a few pixels: of a long column only those are measured
-            // that have more of them.
-            const bool todos = hasta - desde <= kFilasMedidas;
-            std::size_t largo = 0;
-            int ancho = 0;
-            for (int f = desde; f < hasta; ++f) {
-                const std::string& celda = grid_.TextMatrix(f, c);
-                if (todos || celda.size() > largo) {
-                    largo = celda.size();
-                    ancho = std::max(ancho, letra.horizontalAdvance(Q(celda).trimmed()));
-                }
-            }
-            return ancho;
-        };
-        int ancho = texto(0, fija ? std::min(grid_.Rows(), kFilasMedidas) : grid_.FixedRows());
-        const int celdas = fija || (!EsDeLectura() && !corta) ? 0 : texto(grid_.FixedRows(), grid_.Rows());
-        // A column of results is at least as wide as they are.
-        ancho = EsDeLectura() ? std::max(ancho, celdas) : ancho;
-        anchos.push_back(std::max(estilo::Pixeles(grid_.ColWidth(c)), ancho + kAireColumna));
-        const int preciso = EsDeLectura() ? ancho : std::max(ancho, letra.horizontalAdvance(QLatin1String(kDato)));
-        minimos.push_back(fija ? anchos.back() : std::min(preciso + kAireMinimo, anchos.back()));
-        faltas.push_back(std::max(0, celdas + kAireColumna - anchos.back()));
-    }
-    const bool mismasFaltas = faltas == faltas_;
-    faltas_ = std::move(faltas);
-    if (anchos == anchos_ && minimos == minimos_) {
-        if (!mismasFaltas) {
-            AjustarColumnas();
-        }
+    std::vector<AnchoColumna> columnas = cuencalia::MedirColumnas(
+        grid_, [&letra](const std::string& texto) { return letra.horizontalAdvance(Q(texto).trimmed()); });
+    if (columnas == columnas_) {
         return;
     }
-    anchos_ = anchos;
-    minimos_ = minimos;
-    const int bordes = tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * tabla_->frameWidth() + 2;
-    tabla_->anchoNatural = std::accumulate(anchos_.begin(), anchos_.end(), 0) + bordes;
-    const int todo = std::accumulate(minimos_.begin(), minimos_.end(), 0) + bordes;
-    tabla_->anchoMinimo = std::min(todo, EsDeLectura() ? kMinimoResultados : kMinimoDatos);
+    columnas_ = std::move(columnas);
+    tabla_->anchoNatural = tabla_->anchoMinimo =
+        tabla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 2 * tabla_->frameWidth() + 2;
+    for (const AnchoColumna& columna : columnas_) {
+        tabla_->anchoNatural += columna.ancho;
+        tabla_->anchoMinimo += columna.minimo;
+    }
+    tabla_->anchoMinimo = std::min(tabla_->anchoMinimo, EsDeLectura(grid_) ? kMinimoResultados : kMinimoDatos);
     const bool conEtiquetas = grid_.FixedCols() > 0;
     tabla_->verticalHeader()->setVisible(conEtiquetas);
-    if (conEtiquetas && !anchos_.empty()) {
-        tabla_->verticalHeader()->setFixedWidth(anchos_[0]);
+    if (conEtiquetas && !columnas_.empty()) {
+        tabla_->verticalHeader()->setFixedWidth(columnas_[0].ancho);
     }
     tabla_->Recolocar();
     tabla_->updateGeometry();
@@ -292,29 +258,13 @@ void VistaGrid::MedirColumnas() {
 }
 
 void VistaGrid::AjustarColumnas() {
-    const auto primera = static_cast<std::size_t>(grid_.FixedCols());
-    if (anchos_.size() <= primera) {
+    if (columnas_.size() <= static_cast<std::size_t>(grid_.FixedCols())) {
         return;
     }
-    const auto suma = [primera](const std::vector<int>& anchos) {
-        return std::accumulate(anchos.begin() + static_cast<std::ptrdiff_t>(primera), anchos.end(), 0);
-    };
-    // Spare width is distributed among the data columns, so that the table has no empty strip at its right: first to
-    // those that cut a text, then in equal parts. Where width is missing, they give up what their texts do not need, so
-    // that the table need not be scrolled.
-    const int natural = suma(anchos_), cede = natural - suma(minimos_), falta = suma(faltas_);
-    const int sobra = std::max(tabla_->viewport()->width() - natural, -cede);
-    const int resto = std::max(0, sobra - falta);
-    const int columnas = static_cast<int>(anchos_.size() - primera);
-    int cedido = 0;
-    for (int c = 0; c < columnas; ++c) {
-        const auto i = primera + static_cast<std::size_t>(c);
-        const int antes = cedido;
-        cedido += anchos_[i] - minimos_[i];
-        const int propia = falta > sobra && sobra >= 0 ? faltas_[i] * sobra / falta : faltas_[i];
-        const int parte = sobra >= 0 ? propia + resto * (c + 1) / columnas - resto * c / columnas
-                                     : sobra * cedido / cede - sobra * antes / cede;
-        tabla_->setColumnWidth(c, anchos_[i] + parte);
+    int columna = 0;
+    for (const int ancho :
+         RepartirAncho({columnas_.begin() + grid_.FixedCols(), columnas_.end()}, tabla_->viewport()->width())) {
+        tabla_->setColumnWidth(columna++, ancho);
     }
     const int alto = tabla_->verticalHeader()->defaultSectionSize();
     grid_.PonerFilasVisibles(tabla_->viewport()->height() / std::max(1, alto));
@@ -356,7 +306,7 @@ void VistaGrid::Mostrar() {
     const QScopedValueRollback<bool> mostrando(mostrando_, true);
     const bool reiniciado = modelo_->PonerAlDia();
     if (reiniciado) {
-        anchos_.clear();
+        columnas_.clear();
         filaMostrada_ = superiorMostrada_ = -1;
     }
     MedirColumnas();

@@ -5,7 +5,7 @@
 #include <QTableView>
 
 #include "escritorio/vistas/vista.h"
-#include "frame/controles/flexgrid.h"
+#include "frame/controles/anchogrid.h"
 
 class QLabel;
 
@@ -78,8 +78,6 @@ class VistaGrid : public Vista {
     bool Tecla(QKeyEvent& evento) override;
 
   private:
-    /// Whether the grid shows results, and takes no typing.
-    bool EsDeLectura() const { return !grid_.KeyPress.Atendido(); }
     void AjustarColumnas();
     void MedirColumnas();
     void MostrarSeleccion();
@@ -95,8 +93,7 @@ class VistaGrid : public Vista {
     TablaGrid* tabla_;
     ModeloGrid* modelo_;
     QLabel* esquina_;
-    /// Of each column: what it should have, what its texts need, and by how much it would cut those of a short grid.
-    std::vector<int> anchos_, minimos_, faltas_;
+    std::vector<AnchoColumna> columnas_;
     int filaMostrada_ = -1, superiorMostrada_ = -1;
     bool mostrando_ = false;
 };
