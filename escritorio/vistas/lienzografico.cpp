@@ -310,12 +310,14 @@ void LienzoGrafico::TrazarSuperficie(const std::vector<QPointF>& puntos, QColor 
 
 void LienzoGrafico::Rellenar(const std::vector<QPointF>& puntos, const QBrush& brocha) {
     auto* relleno = new QCPCurve(xAxis, yAxis);
-    QVector<double> x{puntos.front().x()}, y{0};
-    for (const QPointF& punto : puntos) {
-        x << punto.x();
-        y << punto.y();
+    // From right to left: the toolkit looks for the place of each edge in a row of pixels from the left end on, which
+    // makes hundreds of rectangles dear in their own order.
+    QVector<double> x{puntos.back().x()}, y{0};
+    for (auto punto = puntos.rbegin(); punto != puntos.rend(); ++punto) {
+        x << punto->x();
+        y << punto->y();
     }
-    relleno->setData(x << puntos.back().x(), y << 0);
+    relleno->setData(x << puntos.front().x(), y << 0);
     relleno->setPen(Qt::NoPen);
     relleno->setBrush(brocha);
 }
