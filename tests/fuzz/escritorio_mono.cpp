@@ -222,14 +222,21 @@ int main(int argc, char** argv) {
     }
     int programas = 0;
     for (const QDeadlineTimer fin(segundos * 1000LL); !fin.hasExpired(); ++programas) {
-        Escritorio escritorio(FormasDelPrograma());
-        programa.alFallar = [](const ErrorEjecucion& error) {
-            std::cerr << error.Texto() << '\n';
-            std::abort();
-        };
-        escritorio.App().Despachar([&] { escritorio.App().ModuloAbrir("frmCuencalia"); });
-        mono.Empezar(kActosPorPrograma);
-        QApplication::exec();
+        {
+            Escritorio escritorio(FormasDelPrograma());
+            programa.alFallar = [](const ErrorEjecucion& error) {
+                std::cerr << error.Texto() << '\n';
+                std::abort();
+            };
+            escritorio.App().Despachar([&] { escritorio.App().ModuloAbrir("frmCuencalia"); });
+            mono.Empezar(kActosPorPrograma);
+            QApplication::exec();
+            while (QWidget* menu = QApplication::activePopupWidget()) {
+                menu->hide();
+            }
+        }
+        // The next program has a screen to itself.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     std::filesystem::current_path("/");
     std::filesystem::remove_all(carpeta);
