@@ -46,6 +46,7 @@ CaudalGumbel EstimarGumbel(const ArregloBase<Double>& Q, int n, Double T) {
         cuadrados += (Q(i) - g.Qm) * (Q(i) - g.Qm);
     }
     g.SQ = Sqr(cuadrados / (n - 1));
+    g.Cv = g.SQ / g.Qm;
     g.YN = MediaReducida(n);
     g.SN = DesviacionReducida(n);
     g.Qmax = g.Qm - g.SQ / g.SN * (g.YN - Log(T));

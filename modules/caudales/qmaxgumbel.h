@@ -17,12 +17,14 @@ Double DesviacionReducida(int n);
 /// Design discharge by Gumbel's formulas. Discharges in m3/s.
 struct CaudalGumbel {
     Double Qm, SQ;        ///< Mean of the annual maxima and their deviation of divisor n - 1.
+    Double Cv;            ///< Coefficient of variation, SQ/Qm, which a river without discharge does not have.
     Double YN, SN;        ///< Without unit.
     Double Qmax, DeltaQ;  ///< The discharge of T, and half the width of its interval.
 };
 
 /// Qmax = Qm - SQ/SN·(YN - ln T), DeltaQ = 1.14·SQ/SN, from annual maxima Q(1) to Q(n) and a return period T in years.
-/// For n >= 2 and T > 0; the half-width holds for T > 10. Error 6 for n < 2 (0 / 0), 5 for T <= 0.
+/// For n >= 2 and T > 0; the half-width holds for T > 10. Error 6 for n < 2 or no
+/// discharge at all (0 / 0), 5 for T <= 0.
 /// Source: Gumbel, E. J. (1958), Statistics of Extremes, Columbia University Press, New York.
 CaudalGumbel EstimarGumbel(const ArregloBase<Double>& Q, int n, Double T);
 
