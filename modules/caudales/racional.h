@@ -64,7 +64,8 @@ inline constexpr EscorrentiaUrbana kEscorrentiaUrbana[] = {
 Double CoeficienteRural(std::string_view cobertura, std::string_view textura, Double pendiente);
 Double CoeficienteUrbano(std::string_view clase);
 
-/// Rational formula, Q = C·I·A/360 in m3/s, for an intensity in mm/hr and an area in hectares.
+/// Rational formula, Q = C·I·A/360 in m3/s, for an intensity in mm/hr and an area in hectares: 1 mm/hr on a hectare is
+/// 10 m3 in 3600 s.
 /// Source: Kuichling, E. (1889), The relation between the rainfall and the discharge of sewers in populous districts,
 /// Transactions ASCE 20, 1-56.
 Double CaudalRacional(Double C, Double I, Double A);

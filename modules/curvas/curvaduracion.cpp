@@ -28,9 +28,6 @@ CurvaDuracion FormarCurva(const ColumnaDuracion& Q, int n) {
 
 Double CaudalDeDuracion(const CurvaDuracion& curva, Double P) {
     const ColumnaDuracion &Q = curva.Q, &Prob = curva.Prob;
-    if (P == 100) {
-        return Q(curva.m);
-    }
     int k = 0;  // the last point with a percentage up to P
     while (k < curva.m && P >= Prob(k + 1)) {
         ++k;

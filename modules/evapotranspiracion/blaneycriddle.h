@@ -18,9 +18,10 @@ struct RectaFao {
     Single a, b;
 };
 
-/// The line of a climate. One b, that of much sunshine, low humidity and moderate wind, stands out of its row.
-/// Source: Doorenbos, J. and Pruitt, W. O. (1977), Guidelines for predicting crop water requirements, FAO Irrigation
-/// and Drainage Paper 24, figure 1, rounded.
+/// The line of a climate. The b of much sunshine, low humidity and moderate wind is 1.12, between neighbours of 1.55
+/// and 2.03, as in the table that the method is worked with; docs/numerics.md tells what it costs. Source: Doorenbos,
+/// J. and Pruitt, W. O. (1977), Guidelines for predicting crop water requirements, FAO Irrigation and Drainage Paper
+/// 24, figure 1, rounded.
 RectaFao RectaDelClima(Clase insolacion, Clase humedad, Clase viento);
 
 /// Reference evapotranspiration, mm a day: a + b·f with f = p·(0.46·T + 8.13), for the mean temperature T (ºC) and the

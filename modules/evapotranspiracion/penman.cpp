@@ -19,7 +19,8 @@ Double FactorDeAltura(Double z) {
 Double PresionDeSaturacion(Double T) { return 6.108 * Exp(17.27 * T / (T + 237.3)); }
 
 Double FactorDePonderacion(Double T, Double h) {
-    const Double delta = 4098 * PresionDeSaturacion(T) / Elevar(T + 237.3, 2);
+    const Double delta = 4098 * PresionDeSaturacion(T) / Elevar(T + 237.3, 2);  // its slope: 4098 = 17.27·237.3
+    // 101.3 kPa and 293 K at the sea, 0.0065 K less each metre.
     const Double P = 101.3 * Elevar((293 - 0.0065 * h) / 293, 5.296);
     const Double lambda = 2.501 - T * 0.002361;
     const Double gamma = 0.016286 * P / lambda;
@@ -45,8 +46,8 @@ ResultadoPenman EToPenman(const DatosPenman& d) {
 
     r.fz = FactorDeAltura(d.z);
     r.U2 = r.fz * d.Uz;
-    const Single Um = CSng(r.U2 * 10 / 36);
-    const Double Ud = r.U2 * 24;
+    const Single Um = CSng(r.U2 * 10 / 36);  // m/s
+    const Double Ud = r.U2 * 24;             // km/day
 
     r.ea = PresionDeSaturacion(d.T);
     r.ed = r.ea * d.HRmed / 100;
@@ -57,6 +58,7 @@ ResultadoPenman EToPenman(const DatosPenman& d) {
     r.fu = FuncionDelViento(Ud);
     r.Rs = (0.25 + 0.5 * r.n_N) * r.Ra;
     r.Rns = r.Rs * 0.75;
+    // Stefan and Boltzmann's 4.9e-9 MJ/(m2·K4) a day, of which 2.47 MJ evaporate a millimetre.
     r.fT = (Elevar(10, -9) * (4.9 / 2.47)) * Elevar(d.T + 273.16, 4);
     r.fed = 0.34 - Sqr(r.ed) * 0.044;
     r.fnN = 0.9 * r.n_N + 0.1;

@@ -3,10 +3,11 @@
 namespace cuencalia {
 
 Tormenta AnalizarTormenta(const ArregloBase<Double>& Tpar, const ArregloBase<Double>& Ppar, int n) {
+    constexpr int kMinutosDeLaHora = 60;
     Tormenta t;
     Double tiempo, lluvia;
     for (int i = 1; i <= n; ++i) {
-        t.I(i) = Ppar(i) * 60 / Tpar(i);
+        t.I(i) = Ppar(i) * kMinutosDeLaHora / Tpar(i);
         tiempo += Tpar(i);
         t.Tacum(i) = tiempo;
         lluvia += Ppar(i);

@@ -11,8 +11,8 @@ namespace {
 using Campos = std::vector<CampoResultado*>;
 
 constexpr const char* kPatronMedia = "0.##00";
-constexpr int kMenosGenerados = 4;  // fewer have no kurtosis
-constexpr int kMasGenerados = 2950;
+constexpr int kMenosGenerados = 4;   // fewer have no kurtosis
+constexpr int kMasGenerados = 2950;  // with the warm-up 3000, for which there is room
 
 std::vector<TextBox*> CajasDe(const Campos& campos) {
     std::vector<TextBox*> cajas;
