@@ -45,6 +45,27 @@ inline std::vector<double> LeerColumna(const std::string& archivo, std::size_t c
     return valores;
 }
 
+/// The fields of a line.
+inline std::vector<std::string> Partir(const std::string& linea, char separador = ',') {
+    std::istringstream partes(linea);
+    std::vector<std::string> campos;
+    for (std::string campo; std::getline(partes, campo, separador);) {
+        campos.push_back(campo);
+    }
+    return campos;
+}
+
+/// The rows of that kind in a table of tests/datos, each without it.
+inline std::vector<std::vector<std::string>> Renglones(const std::string& tabla, const std::string& clase) {
+    std::vector<std::vector<std::string>> renglones;
+    for (const std::string& linea : LineasDe("../" + tabla)) {
+        if (linea.starts_with(clase + ";")) {
+            renglones.push_back(Partir(linea.substr(clase.size() + 1), ';'));
+        }
+    }
+    return renglones;
+}
+
 /// The field that follows the fields `clave` at the beginning of a line, as it was printed.
 inline std::string Figura(const std::string& archivo, const std::string& clave) {
     for (const std::string& linea : LineasDe(archivo)) {

@@ -16,9 +16,10 @@ using Textos = std::vector<std::string>;
 template <typename Forma>
 class FormaEnUso : public testing::Test {
   protected:
-    explicit FormaEnUso(const std::string& nombre) : nombre_(nombre) { Abrir(nombre); }
+    explicit FormaEnUso(const std::string& nombre) { Abrir(nombre); }
 
     void Abrir(const std::string& nombre) {
+        nombre_ = nombre;
         app.Despachar([&] { app.ModuloAbrir(nombre); });
     }
     Forma& F() { return dynamic_cast<Forma&>(*app.Cargada(nombre_)); }

@@ -144,12 +144,14 @@ TEST_F(ControlesTest, CuadroCombinadoYFichas) {
     combo.Editable = false;
     Teclas(U"5<");
     EXPECT_EQ(vistos, "10@1 click 20@2 click 10@1 click 0@0 click 05@-1 0@0 ");
+    EXPECT_TRUE(sistema.errores.empty()) << "the first entry stays the first";
 
     std::string fichas;
     F().SSTab1.Click.Conectar([&] { fichas += std::to_string(F().SSTab1.Tab()); });
-    Enfocar(F().SSTab1);
+    Enfocar(F().optP1);
+    app.Despachar([&] { F().SSTab1.Tab = 1; });
     Teclas(U"]]]]][[[[[");
-    EXPECT_EQ(fichas, "1210");
+    EXPECT_EQ(fichas, "1210") << "the option's page went back, and left the keys to the tabs";
 }
 
 TEST_F(ControlesTest, BotonMenuYBarraDeEstado) {

@@ -1,7 +1,7 @@
 #include <map>
 
 #include "modules/evapotranspiracion/frmBlaneyCriddle.h"
-#include "modules/evapotranspiracion/frmThornthwaite.h"
+#include "modules/evapotranspiracion/hargreaves.h"
 #include "tests/archivos_en_disco.h"
 #include "tests/datos_publicados.h"
 #include "tests/forma_en_uso.h"
@@ -9,15 +9,6 @@
 
 namespace cuencalia::pruebas {
 namespace {
-
-Textos Campos(const std::string& linea) {
-    std::istringstream partes(linea);
-    Textos campos;
-    for (std::string campo; std::getline(partes, campo, ',');) {
-        campos.push_back(campo);
-    }
-    return campos;
-}
 
 // Each key against the line of the published table that bears it.
 TEST(TablasPorLatitud, CadaClaveTieneSuRenglon) {
@@ -34,7 +25,7 @@ TEST(TablasPorLatitud, CadaClaveTieneSuRenglon) {
                 const bool polar = tabla == &kTablaN && std::stoi(grados) > 50;
                 const std::string clave = grados == "0" ? "0N" : (polar ? "50" : grados) + hemisferio;
                 for (const std::string& linea : LineasDe(std::string("../../../tablas/") + publicada + ".csv")) {
-                    const Textos campos = Campos(linea);
+                    const Textos campos = Partir(linea);
                     for (int m = 1; campos[0] == clave && m <= 12; ++m, ++claves) {
                         EXPECT_EQ(valores(m), Single(std::stof(campos[static_cast<std::size_t>(m)]))) << clave << m;
                     }
@@ -81,32 +72,6 @@ TEST(TablasPorLatitud, FaltanOSobran) {
     }
 }
 
-// By hand: at I = 100 the terms are 0.6751 - 0.771 + 1.792 + 0.49239. The year of Watson's textbook was worked out with
-// rounded steps; the months there are N/12 days of 12 hours.
-TEST(Thornthwaite, PublicadoYAMano) {
-    EXPECT_NEAR(ExponenteThornthwaite(100).valor(), 2.18849, 1e-12);
-    EXPECT_NEAR(IndiceMensual(20).valor(), std::exp2(3.028), 1e-12);  // 4^1.514
-    DoceSingle T, f;
-    Textos publicadas;
-    for (const std::string& linea : LineasDe("thornthwaite_watson.csv")) {
-        const Textos campos = Campos(linea);
-        if (linea[0] != '#' && campos[0] != "mes") {
-            publicadas.push_back(campos[3]);
-            const int m = static_cast<int>(publicadas.size());
-            T(m) = std::stof(campos[1]);
-            f(m) = std::stof(campos[2]) / 12;
-        }
-    }
-    ASSERT_EQ(publicadas.size(), 12U);
-    const Thornthwaite anual = CalcularThornthwaite(T, f);
-    for (int m = 1; m <= 12; ++m) {
-        EXPECT_NEAR(anual.ETrMes(m).valor(), std::stod(publicadas[static_cast<std::size_t>(m - 1)]), 0.3) << m;
-    }
-    EXPECT_EQ(NumeroDeError([&] { return CalcularThornthwaite({}, f); }), 6);
-    T(12) = -0.1F;
-    EXPECT_EQ(NumeroDeError([&] { return CalcularThornthwaite(T, f); }), 5);
-}
-
 class BlaneyCriddle : public FormaEnUso<frmBlaneyCriddle> {
   protected:
     BlaneyCriddle() : FormaEnUso("frmBlaneyCriddle") {}
@@ -133,7 +98,7 @@ TEST_F(BlaneyCriddle, LosVeintisieteClimas) {
     const Textos vientos[] = {{"0", "7.199"}, {"7.2", "18"}, {"18.001", "90"}};
     int rectas = 0;
     for (const std::string& linea : LineasDe("fao24_blaney_criddle.csv")) {
-        const Textos recta = Campos(linea);
+        const Textos recta = Partir(linea);
         if (!clases.contains(recta[0])) {
             continue;
         }
@@ -157,15 +122,26 @@ TEST_F(BlaneyCriddle, LosVeintisieteClimas) {
         }
     }
     EXPECT_EQ(rectas, 27);
-    // FAO 24, section 1.1: Cairo in July, read from the diagram, is 8.0 mm a day; there f has 8 in place of 8.13.
-    const RectaFao recta = RectaDelClima(Clase::Alta, Clase::Media, Clase::Media);
-    EXPECT_NEAR(EToBlaneyCriddle(28.5F, 0.31F, recta).valor(), 8, 0.11);
-    for (int i = 0; i < 19; ++i) {
-        const double ETo = Calcular([&] { F().cobKc.Elegir(i); });
-        const std::string cultivo = F().cobKc.Text();
-        EsperarRelativo(F().ETr(5), std::stod(cultivo.substr(cultivo.find('(') + 1)) * ETo, 1e-7);
-    }
     EsperarSilencio();
+}
+
+// An entry shows the coefficient that is used.
+TEST_F(BlaneyCriddle, LosKcDeLosCultivos) {
+    Textos lista;
+    for (const Textos& cultivo : Renglones("cultivos.csv", "temporada")) {
+        lista.push_back(cultivo[0] + " (" + cultivo[1] + ")");
+    }
+    EXPECT_EQ(F().cobKc.List(), lista);
+    for (const auto& [etapa, columna] :
+         {std::pair(EtapaCultivo::Inicial, 1U), {EtapaCultivo::Mediados, 2U}, {EtapaCultivo::Final, 3U}}) {
+        lista.clear();
+        for (const Textos& cultivo : Renglones("cultivos.csv", "etapas")) {
+            const std::string& Kc = cultivo[columna];
+            EXPECT_EQ(KcDeCultivo(etapa, static_cast<int>(lista.size())), Single(std::stof(Kc))) << cultivo[0];
+            lista.push_back(cultivo[0] + " (" + Kc + ")");
+        }
+        EXPECT_EQ(CultivosConKc(etapa), lista);
+    }
 }
 
 }  // namespace
