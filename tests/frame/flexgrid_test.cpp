@@ -5,6 +5,7 @@
 #include <tuple>
 #include <utility>
 
+#include "frame/controles/anchogrid.h"
 #include "frame/controles/aplicacion.h"
 #include "guion/plataformaguion.h"
 #include "tests/numero_de_error.h"
@@ -215,6 +216,44 @@ TEST_F(FlexGridTest, TeclasMuevenLaCeldaYLaDejanALaVista) {
     app.PulsarTecla(kTeclaAbajo, 0);
     EXPECT_EQ(g.Row(), 0) << "a grid with nothing but its heading";
     EXPECT_TRUE(sistema.errores.empty());
+}
+
+// A letter is 10 pixels wide, W 20. 15 twips make a pixel; a text has 18 pixels of room around it, or 10 at least.
+TEST_F(FlexGridTest, UnaColumnaMideLoQueDiceOLoQuePidenSusTextos) {
+    const auto columna = [this](int c) {
+        return MedirColumnas(g, [](const std::string& texto) {
+            return static_cast<int>(10 * texto.size() + (texto[0] == 'W' ? 10 * texto.size() : 0));
+        })[static_cast<std::size_t>(c)];
+    };
+    g.PonerRows(60);
+    g.PonerColWidth(0, 300);
+    g.PonerTextMatrix(39, 0, "etiqueta");
+    g.PonerTextMatrix(40, 0, "no se mide ya");
+    EXPECT_EQ(columna(0), (AnchoColumna{98, 98, 0}));
+    g.PonerTextMatrix(0, 1, "P (mm)");
+    g.PonerTextMatrix(1, 1, "123.45678901");
+    g.PonerTextMatrix(2, 1, "WWWWWWWW");
+    g.PonerColWidth(1, 600);
+    EXPECT_EQ(columna(1), (AnchoColumna{138, 130, 0})) << "results: of the texts with most letters";
+    g.PonerRows(41);
+    EXPECT_EQ(columna(1).ancho, 178) << "of few rows each text";
+    g.KeyPress.Conectar([](int&) {});
+    EXPECT_EQ(columna(1), (AnchoColumna{78, 78, 0})) << "data: of its heading";
+    g.PonerColWidth(1, 3000);
+    EXPECT_EQ(columna(1), (AnchoColumna{200, 100, 0})) << "down to a number of nine letters";
+    g.PonerColWidth(1, 600);
+    g.PonerRows(10);
+    EXPECT_EQ(columna(1).falta, 100) << "in a short grid the texts of the cells have a claim";
+}
+
+TEST_F(FlexGridTest, ElAnchoSobranteYElQueFaltaSeReparten) {
+    const std::vector<AnchoColumna> columnas{{100, 60, 0}, {100, 80, 0}, {50, 50, 30}};  // 250 in all, 190 at least
+    const std::pair<int, std::vector<int>> casos[] = {{250, {100, 100, 50}}, {270, {100, 100, 70}},
+                                                      {283, {101, 101, 81}}, {285, {101, 102, 82}},
+                                                      {220, {80, 90, 50}},   {100, {60, 80, 50}}};
+    for (const auto& [disponible, anchos] : casos) {
+        EXPECT_EQ(RepartirAncho(columnas, disponible), anchos) << disponible;
+    }
 }
 
 }  // namespace
