@@ -25,8 +25,8 @@ std::string LibroDe(const Registros& celdas, const Registros& globales = {}, uns
 std::string Numero(unsigned fila, double valor) { return Registro(0x0203, Celda(fila, 0) + F64(valor)); }
 
 // A formula with an empty expression, whose result is no number.
-std::string Formula(unsigned columna, char clase, char valor) {
-    return Celda(0, columna) + std::string{clase, 0, valor, 0, 0, 0, '\xFF', '\xFF'} + std::string(8, '\0');
+std::string Formula(unsigned columna, char clase, char valor, unsigned fila = 0) {
+    return Celda(fila, columna) + std::string{clase, 0, valor, 0, 0, 0, '\xFF', '\xFF'} + std::string(8, '\0');
 }
 
 TEST(Xls, Celdas) {
@@ -39,7 +39,7 @@ TEST(Xls, Celdas) {
         {0x027E, Celda(1, 0) + U32(0xFFFFFFF6)}, {0x0204, Celda(1, 1) + U16(2) + "\0"s + "\xF1o"},
         {0x00D6, Celda(1, 2) + U16(4) + "\x09\x01\0"s + "\xA9\x03!\0\x3D\xD8\x00\xDE\0\0\0\0"s},
         {0x0205, Celda(1, 3) + "\1\0"s}, {0x0203, Celda(2, 0) + F64(-0.75)}, {0x0205, Celda(2, 1) + "\x2A\1"s},
-        {0x0201, Celda(2, 2)}};
+        {0x0205, Celda(2, 2) + "\0\0"s}, {0x0201, Celda(2, 3)}};
     // The stored results of formulas: a text comes in a record of its own, and is only wanted after its formula.
     const Registros formulas = {
         {0x0006, Celda(0, 0) + F64(2.5) + std::string(8, '\0')}, {0x0207, U16(2) + "\0no"s}, {0x0006, Formula(1, 0, 0)},
@@ -48,7 +48,7 @@ TEST(Xls, Celdas) {
     // clang-format on
     const Filas esperadas = {{Double(1), Double(0.01), Double(1234321), Double(12343.21)},
                              {Double(-3), "ño", "Ω!😀", "Verdadero"},
-                             {Double(-0.75), "#N/A", kVacia, kVacia}};
+                             {Double(-0.75), "#N/A", "Falso", kVacia}};
     EXPECT_EQ(Leer(LibroDe(celdas), 4), esperadas);
     EXPECT_EQ(Leer(LibroDe(formulas), 4), (Filas{{Double(2.5), "abc", "Falso", "#DIV/0!"}}));
     EXPECT_EQ(Leer(LibroDe({{0x0006, Formula(0, 3, 0)}}), 1), Filas{}) << "an empty text ends the data";
@@ -57,16 +57,32 @@ TEST(Xls, Celdas) {
     EXPECT_EQ(Leer(desorden, 1, 1), kUno);
 }
 
+// The codes of [MS-XLS] 2.5.10, and one that is none.
+TEST(Xls, Errores) {
+    Registros celdas;
+    for (const char codigo : "\0\7\x0F\x17\x1D\x24\x2A\x2B"s) {
+        celdas.emplace_back(0x0205, Celda(static_cast<unsigned>(celdas.size()), 0) + codigo + '\1');
+    }
+    EXPECT_EQ(Leer(LibroDe(celdas), 1),
+              (Filas{{"#NULL!"}, {"#DIV/0!"}, {"#VALUE!"}, {"#REF!"}, {"#NAME?"}, {"#NUM!"}, {"#N/A"}, {"#ERROR!"}}));
+}
+
 TEST(Xls, TextosPartidosEntreRegistros) {
-    // "abcd" goes on with wide characters; "río", with runs and phonetic data cut anywhere, is followed by "fin".
+    // "abcd" goes on with wide characters; "río", with runs and phonetic data cut anywhere, is followed by "fin". The
+    // text of a cell goes on with narrow ones, between the halves of a pair; that of a formula has halves with no
+    // other.
     const Registros textos = {{0x00FC, U32(3) + U32(3) + U16(4) + "\0ab"s},
                               {0x003C, "\1c\0d\0"s + U16(3) + "\x0C"s + U16(1) + U32(5) + "r"},
                               {0x003C, "\0\xEDo"s + "xx"},
                               {0x003C, "xxyyyy"},
                               {0x003C, "y"s + U16(3) + "\0fin"s}};
-    const Registros celdas = {
-        {0x00FD, Celda(0, 0) + U32(0)}, {0x00FD, Celda(0, 1) + U32(1)}, {0x00FD, Celda(0, 2) + U32(2)}};
-    EXPECT_EQ(Leer(LibroDe(celdas, textos), 3), (Filas{{"abcd", "río", "fin"}}));
+    const Registros celdas = {{0x00FD, Celda(0, 0) + U32(0)},    {0x00FD, Celda(0, 1) + U32(1)},
+                              {0x00FD, Celda(0, 2) + U32(2)},    {0x0204, Celda(1, 0) + U16(4) + "\1a\0\x3D\xD8"s},
+                              {0x003C, "\1\x00\xDE"s},           {0x003C, "\0\xF1"s},
+                              {0x0006, Formula(1, 0, 0, 1)},     {0x0207, U16(4) + "\1\x3D\xD8"s},
+                              {0x003C, "\1\x3D\xD8o\0\x00\xDE"s}};
+    EXPECT_EQ(Leer(LibroDe(celdas, textos), 3),
+              (Filas{{"abcd", "río", "fin"}, {"a😀ñ", "\ufffd\ufffdo\ufffd", kVacia}}));
 }
 
 TEST(Xls, LibroDeExcel5) {

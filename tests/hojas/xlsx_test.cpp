@@ -27,13 +27,16 @@ TEST(Xlsx, Celdas) {
         "t='d'><v>1900-02-28</v></c></row>"
         "<row><c><v>+1.5E-3</v></c><c><f>1/8</f><v> 0.125 </v></c><c t='b'><v>0</v></c><c t='e'><v>#REF!</v></c></row>"
         "<row r='4'><c><v>1</v></c><c r='C4'><v>3</v></c><c><v>4</v></c><c r='AA4'><v>9</v></c></row>"
-        "<row><c t='n'><v>-7</v></c><c><v/></c><c t='str'><v></v></c></row>";
-    // Serial 59 is the 28th of February 1900, 45351 the 29th of February 2024.
+        "<row><c t='n'><v>-7</v></c><c><v/></c><c t='str'><v></v></c></row>"
+        "<row><c t='b'><v>1</v></c><c t='b'><v>true</v></c><c t='d'><v>18:45</v></c><c t='d'><v>1900-03-01T00:00:43.2"
+        "</v></c></row>";
+    // Serial 59 is the 28th of February 1900, 45351 the 29th of February 2024; 18.75 hours, and 43.2 s in 86400.
     const Filas esperadas = {{"aAb\r_x00G0__x0042-_x20", " simple ", "rico", kVacia},
                              {"en línea", "de fórmula", Double(45351.25), Double(59)},
                              {Double(0.0015), Double(0.125), "Falso", "#REF!"},
                              {Double(1), kVacia, Double(3), Double(4)},
-                             {Double(-7), kVacia, "", kVacia}};
+                             {Double(-7), kVacia, "", kVacia},
+                             {"Verdadero", "Verdadero", Double(0.78125), Double(61.0005)}};
     EXPECT_EQ(Leer(LibroCon(filas, textos), 4), esperadas);
 }
 
@@ -96,6 +99,10 @@ TEST(Xlsx, PartesYPestanas) {
     EXPECT_EQ(Leer(Zip(partes), 1), kUno);
     relaciones = Sustituir(relaciones, {{"/worksheet", "/dialogsheet"}});
     EXPECT_EQ(Rechazo(Zip(partes)), kSinHojas);
+    // A sheet that stands in another file.
+    base["xl/_rels/workbook.xml.rels"] = Sustituir(base["xl/_rels/workbook.xml.rels"],
+                                                   {{"Target='hoja.xml'", "TargetMode='External' Target='hoja.xml'"}});
+    EXPECT_EQ(Rechazo(Zip(base)), kDanado);
 }
 
 TEST(Xlsx, RechazaLoDanado) {
