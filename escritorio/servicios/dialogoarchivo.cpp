@@ -68,7 +68,7 @@ QString DialogoArchivo::Preguntar(ModoArchivo modo, const QString& titulo, const
     }
     const auto cual = std::max<qsizetype>(0, textos.indexOf(dialogo.selectedNameFilter()));
     patron_ = entradas.isEmpty() ? QString() : entradas[cual].patrones[0];
-    const QString archivo = dialogo.selectedFiles().first();
+    QString archivo = dialogo.selectedFiles().first();
     carpeta_ = QFileInfo(archivo).absolutePath();
     return archivo;
 }
@@ -84,7 +84,7 @@ QString DialogoArchivo::Elegir(ModoArchivo modo, const QString& titulo, const QS
                                const std::function<bool(const QString&)>& reemplazar) {
     for (;;) {
         const QString escrito = Preguntar(modo, titulo, filtro, propuesto);
-        const QString archivo = modo == ModoArchivo::Guardar ? ConExtension(escrito) : escrito;
+        QString archivo = modo == ModoArchivo::Guardar ? ConExtension(escrito) : escrito;
         // The dialog itself has asked about a name that exists as it was written.
         if (archivo == escrito || !QFileInfo::exists(archivo) || reemplazar(archivo)) {
             return archivo;

@@ -95,6 +95,7 @@ class Plataforma {
     virtual bool MostrarLibro(const Hoja& hoja) = 0;
 
     /// Does the work while the windows go on, where there are windows; here before it returns.
+    // Who goes on takes the work over.  NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void EnSegundoPlano(TrabajoLargo trabajo) {
         trabajo.trabajo([](double) { return true; });
         trabajo.alTerminar();

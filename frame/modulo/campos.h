@@ -77,6 +77,7 @@ class CamposDe : public Campos {
   private:
     static std::vector<DescripcionCampo> Descripciones(const std::vector<Fila>& tabla) {
         std::vector<DescripcionCampo> descripciones;
+        descripciones.reserve(tabla.size());
         for (const Fila& fila : tabla) {
             descripciones.push_back(fila.campo);
         }

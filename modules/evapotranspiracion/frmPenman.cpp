@@ -50,6 +50,7 @@ constexpr std::array kFinales{"txtC", "txtRadiacion", "txtAdveccion", "txtETo"};
 
 std::vector<DescripcionCampo> DescripcionesDeEntradas() {
     std::vector<DescripcionCampo> campos;
+    campos.reserve(kEntradas.size());
     for (const Entrada& entrada : kEntradas) {
         campos.push_back(entrada.campo);
     }
@@ -139,7 +140,7 @@ void frmPenman::Calcular() {
 }
 
 std::string frmPenman::Consejo(const ErrorEjecucion& /*error*/) const {
-    if (const std::string consejo = ConsejoDelSol(datos_.lat); !consejo.empty()) {
+    if (std::string consejo = ConsejoDelSol(datos_.lat); !consejo.empty()) {
         return consejo;
     }
     return datos_.z <= kAlturaMinima ? "La altura de medición del viento debe ser mayor que 0.08 m" : "";

@@ -14,7 +14,7 @@ void ValoresPorLatitud::Cargar(const std::string& carpeta) {
             throw ErrorEjecucion(kRutaNoEncontrada);
         }
         // In a folder that may not be written the table is as empty without the file.
-        std::ofstream(ruta, std::ios::app);
+        const std::ofstream vacio(ruta, std::ios::app);
         falta_ = "No se encontró la tabla " + ruta + ": todos sus valores son 0";
         return;
     }
