@@ -1,7 +1,9 @@
 #include <map>
 
-#include "modules/evapotranspiracion/frmBlaneyCriddle.h"
+#include "frame/modulo/marcomodulo.h"
+#include "modules/evapotranspiracion/blaneycriddle.h"
 #include "modules/evapotranspiracion/hargreaves.h"
+#include "modules/evapotranspiracion/valoresporlatitud.h"
 #include "tests/archivos_en_disco.h"
 #include "tests/datos_publicados.h"
 #include "tests/forma_en_uso.h"
@@ -72,66 +74,39 @@ TEST(TablasPorLatitud, FaltanOSobran) {
     }
 }
 
-class BlaneyCriddle : public FormaEnUso<frmBlaneyCriddle> {
-  protected:
-    BlaneyCriddle() : FormaEnUso("frmBlaneyCriddle") {}
-    /// The reference evapotranspiration of May.
-    double Calcular(const std::function<void()>& poner) {
-        app.Despachar(poner);
-        app.Pulsar(F().bCalcular);
-        return F().ETo(5).valor();
-    }
-};
-
-// Estimates by their places in the lists, measurements at the bounds and beside them. In May N is 13.6 hours at 30N,
-// and f is 0.31·(0.46·28.5 + 8.13).
-TEST_F(BlaneyCriddle, LosVeintisieteClimas) {
-    app.Despachar([this] {
-        F().datos.EmpezarCarga(12);
-        F().datos.grdt.PonerTextMatrix(5, 1, "28.5");
-        F().cobLatitud.Text = "30";
-        F().cobKc.Elegir(0);
-    });
-    const std::map<std::string, int> clases{{"baja", 0}, {"media", 1}, {"alta", 2}};
-    const Textos horas[] = {{"0", "8.15"}, {"8.17", "10.87"}, {"10.89", "13.6"}};
-    const Textos humedades[] = {{"0", "19.999"}, {"20", "50"}, {"50.001", "100"}};
-    const Textos vientos[] = {{"0", "7.199"}, {"7.2", "18"}, {"18.001", "90"}};
+TEST(BlaneyCriddle, LosVeintisieteClimas) {
+    const std::map<std::string, Clase> clases{{"baja", Clase::Baja}, {"media", Clase::Media}, {"alta", Clase::Alta}};
     int rectas = 0;
     for (const std::string& linea : LineasDe("fao24_blaney_criddle.csv")) {
         const Textos recta = Partir(linea);
-        if (!clases.contains(recta[0])) {
-            continue;
-        }
-        SCOPED_TRACE(linea);
-        ++rectas;
-        const int s = clases.at(recta[0]), h = clases.at(recta[1]), v = clases.at(recta[2]);
-        const double ETo = std::stod(recta[3]) + std::stod(recta[4]) * 0.31 * 21.24;
-        const auto estimar = [&] {
-            F().OptEstimado.Value = true;
-            F().cobInsolacion.Elegir(2 - s), F().cobHumedad.Elegir(h), F().cobViento.Elegir(v);
-        };
-        EXPECT_NEAR(Calcular(estimar), ETo, 2e-6);
-        EXPECT_NEAR(Calcular([&] { F().cobInsolacion.Elegir(s == 0 ? 3 : 2 - s); }), ETo, 2e-6) << "Cubierto";
-        for (const std::size_t orilla : {0U, 1U}) {
-            const auto medir = [&] {
-                F().OptMedido.Value = true;
-                F().txtcn.Text = horas[s][orilla];
-                F().txtchrmin.Text = humedades[h][orilla], F().txtcv.Text = vientos[v][orilla];
-            };
-            EXPECT_NEAR(Calcular(medir), ETo, 2e-6) << orilla;
+        if (clases.contains(recta[0])) {
+            ++rectas;
+            const RectaFao r = RectaDelClima(clases.at(recta[0]), clases.at(recta[1]), clases.at(recta[2]));
+            EXPECT_EQ(r.a, Single(std::stof(recta[3]))) << linea;
+            EXPECT_EQ(r.b, Single(std::stof(recta[4]))) << linea;
         }
     }
     EXPECT_EQ(rectas, 27);
-    EsperarSilencio();
+    for (const auto& [clase, desde, hasta] :
+         {std::tuple(&ClaseDeInsolacion, 0.6, 0.8), {&ClaseDeHumedad, 20, 50}, {&ClaseDeViento, 7.2, 18}}) {
+        EXPECT_EQ(clase(desde - 0.001), Clase::Baja);
+        EXPECT_TRUE(clase(desde) == Clase::Media && clase(hasta) == Clase::Media) << desde;
+        EXPECT_EQ(clase(hasta + 0.001), Clase::Alta);
+    }
 }
 
+class Cultivos : public FormaEnUso<Formulario> {
+  protected:
+    Cultivos() : FormaEnUso("frmBlaneyCriddle") {}
+};
+
 // An entry shows the coefficient that is used.
-TEST_F(BlaneyCriddle, LosKcDeLosCultivos) {
+TEST_F(Cultivos, TienenSuKc) {
     Textos lista;
     for (const Textos& cultivo : Renglones("cultivos.csv", "temporada")) {
         lista.push_back(cultivo[0] + " (" + cultivo[1] + ")");
     }
-    EXPECT_EQ(F().cobKc.List(), lista);
+    EXPECT_EQ(dynamic_cast<ComboBox&>(*F().Controls("cobKc")).List(), lista);
     for (const auto& [etapa, columna] :
          {std::pair(EtapaCultivo::Inicial, 1U), {EtapaCultivo::Mediados, 2U}, {EtapaCultivo::Final, 3U}}) {
         lista.clear();
