@@ -7,10 +7,8 @@
 namespace cuencalia {
 
 void OrdenarDescendente(ColumnaDuracion& Q, int n) {
-    if (n > 1) {
-        OrdenarSerie(Q, n);
-        std::reverse(&Q(1), &Q(n) + 1);
-    }
+    OrdenarSerie(Q, n);
+    std::reverse(&Q(1), &Q(n) + 1);
 }
 
 CurvaDuracion FormarCurva(const ColumnaDuracion& Q, int n) {

@@ -15,7 +15,7 @@ struct CurvaDuracion {
     int m = 0;
 };
 
-/// Puts Q(1) to Q(n) in descending order. About n²/2 comparisons.
+/// Puts Q(1) to Q(n) in descending order, n >= 1. About n²/2 comparisons.
 void OrdenarDescendente(ColumnaDuracion& Q, int n);
 
 /// The curve of the flows Q(1) to Q(n), which must be in descending order. Of equal flows only the last is a point,
