@@ -1,5 +1,7 @@
 #include "modules/caudales/qmaxgumbel.h"
 
+#include "modules/estadistica/momentos.h"
+
 namespace cuencalia {
 
 namespace {
@@ -37,15 +39,8 @@ Double DesviacionReducida(int n) {
 
 CaudalGumbel EstimarGumbel(const ArregloBase<Double>& Q, int n, Double T) {
     CaudalGumbel g;
-    Double suma = 0, cuadrados = 0;
-    for (int i = 1; i <= n; ++i) {
-        suma += Q(i);
-    }
-    g.Qm = suma / n;
-    for (int i = 1; i <= n; ++i) {
-        cuadrados += (Q(i) - g.Qm) * (Q(i) - g.Qm);
-    }
-    g.SQ = Sqr(cuadrados / (n - 1));
+    g.Qm = Media(Q, n);
+    g.SQ = Sqr(SumaDeCuadrados(Q, n, g.Qm) / (n - 1));
     g.Cv = g.SQ / g.Qm;
     g.YN = MediaReducida(n);
     g.SN = DesviacionReducida(n);

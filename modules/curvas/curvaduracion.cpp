@@ -24,6 +24,12 @@ CurvaDuracion FormarCurva(const ColumnaDuracion& Q, int n) {
     return curva;
 }
 
+void DividirEntre(Double Qm, const CurvaDuracion& curva, ColumnaDuracion& Qadi) {
+    for (int i = 1; i <= curva.m; ++i) {
+        Qadi(i) = curva.Q(i) / Qm;
+    }
+}
+
 Double CaudalDeDuracion(const CurvaDuracion& curva, Double P) {
     const ColumnaDuracion &Q = curva.Q, &Prob = curva.Prob;
     int k = 0;  // the last point with a percentage up to P

@@ -23,6 +23,9 @@ void OrdenarDescendente(ColumnaDuracion& Q, int n);
 /// Source: Searcy, J. K. (1959), Flow-Duration Curves, Water-Supply Paper 1542-A, U.S. Geological Survey.
 CurvaDuracion FormarCurva(const ColumnaDuracion& Q, int n);
 
+/// The flows of the curve by the mean flow Qm, without unit. Error 11 or 6 for a mean of 0.
+void DividirEntre(Double Qm, const CurvaDuracion& curva, ColumnaDuracion& Qadi);
+
 /// The flow (m³/s) that is reached in P percent of the days, 0 < P <= 100: that of the point with this percentage, or
 /// interpolated between the two points around it. The curve must have a point; error 9 for a P below the percentage of
 /// its first one, where the series has no flow.

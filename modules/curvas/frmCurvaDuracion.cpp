@@ -2,6 +2,7 @@
 
 #include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
@@ -53,20 +54,14 @@ void frmCurvaDuracion::LimpiarOtros() {
 void frmCurvaDuracion::Calcular() {
     CargarMatrices();
     Qord = Q;
-    Double suma;
-    for (int i = 1; i <= n; ++i) {
-        suma += Q(i);
-    }
-    const Double Qm = suma / n;
+    const Double Qm = Media(Q, n);
     OrdenarDescendente(Qord, n);
     // The table is the limit of the series: the row after its last one stops the calculation.
     for (int i = 1; i <= n; ++i) {
         grddis.PonerFila(i, {CStr(i), Format(Qord(i), "#####0.0###")});
     }
     curva = FormarCurva(Qord, n);
-    for (int i = 1; i <= curva.m; ++i) {
-        Qadi(i) = curva.Q(i) / Qm;
-    }
+    DividirEntre(Qm, curva, Qadi);
     for (int i = 1; i <= curva.m; ++i) {
         grddis.PonerFila(
             i, {Format(curva.Q(i), "#####0.0###"), Format(Qadi(i), "#####0.0###"), Format(curva.Prob(i), "#####0.0#")},

@@ -1,21 +1,14 @@
 #include "modules/curvas/variacionestacional.h"
 
 #include "modules/distribuciones/normal.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
 LogNormalMensual AjustarMes(const ArregloBase<Double>& valores, int anos) {
-    Double suma;
-    for (int i = 1; i <= anos; ++i) {
-        suma += Log(valores(i));
-    }
-    const Double media = suma / anos;
-    Double cuadrados;
-    for (int i = 1; i <= anos; ++i) {
-        const Double desvio = Log(valores(i)) - media;
-        cuadrados += desvio * desvio;
-    }
-    return {media, Sqr(cuadrados / (anos - 1))};
+    const ArregloBase<Double> logaritmos = Logaritmos(valores, anos);
+    const Double media = Media(logaritmos, anos);
+    return {media, Sqr(SumaDeCuadrados(logaritmos, anos, media) / (anos - 1))};
 }
 
 Double CalcularQ(Double P, const LogNormalMensual& mes) {

@@ -17,7 +17,7 @@ frmDisGamma2par::frmDisGamma2par(Aplicacion& app)
 void frmDisGamma2par::Ajustar() {
     const ParametrosEstadisticos m = ParametrosMuestrales(xo, n);
     const MomentosLineales l = CalcularMomentosLineales(xo, n);
-    const Gamma2 ord = Gamma2PorVerosimilitud(m.media, MediaDeLogaritmos(x, n));
+    const Gamma2 ord = Gamma2PorVerosimilitud(m.media, Media(Logaritmos(x, n), n));
     const Gamma2 lin = Gamma2PorMomentosLineales(l.L1, l.L2);
     for (int i = 1; i <= n; ++i) {
         Yord(i) = ord.Reducida(xo(i));
@@ -27,7 +27,7 @@ void frmDisGamma2par::Ajustar() {
     ProbabilidadesGamma(lin.gamma, Ylin, Glin, n);
     ordinarios = ord;
     lineales = lin;
-    linealesExactos_ = Gamma2PorMomentosLineales(l.L1, l.L2, kPi);
+    linealesExactos_ = Gamma2PorMomentosLineales(l.L1, l.L2, kFactorDeHosking);
 }
 
 bool frmDisGamma2par::AdmiteParametros() {

@@ -7,6 +7,10 @@ namespace cuencalia {
 namespace {
 
 constexpr int kRondas = 1200;
+constexpr Double kParteMinima = 1e-7;    // of the sum: a lesser term ends the series
+constexpr Double kTolerancia = 0.00005;  // of P in the inversion
+// 1/1260 is that of Stirling's series. This one is the method's own; no figure that is shown can tell them apart.
+constexpr Double kTercerCoeficiente = Double(1) / 1286;
 
 /// The fraction of x by which one round of Gammainversa moves x in the upper tail; the steps are small because the
 /// density is small there.
@@ -56,7 +60,7 @@ Double SumarSerie(Double a, RaicesFactoriales& raices, Double x) {
         const Double termino = u * (u * (v * u));
         s += termino;
         cociente = termino / s;
-    } while (cociente >= 0.0000001);
+    } while (cociente >= kParteMinima);
     return s;
 }
 
@@ -67,11 +71,10 @@ void gammacompleta(Double& x, Double& g) {
     x += 10;
     const Double c1 = Double(1) / 12;
     const Double c2 = Double(-1) / 360;
-    const Double c3 = Double(1) / 1286;
     const Double c4 = Double(-1) / 1680;
     const Double lnx = Log(x);
-    const Double L =
-        (x - 0.5) * lnx - x + Log(2 * kPi) / 2 + c1 / x + c2 / Elevar(x, 3) + c3 / Elevar(x, 5) + c4 / Elevar(x, 7);
+    const Double L = (x - 0.5) * lnx - x + Log(2 * kPi) / 2 + c1 / x + c2 / Elevar(x, 3) +
+                     kTercerCoeficiente / Elevar(x, 5) + c4 / Elevar(x, 7);
     g = Exp(L);
     for (Double k = Int(x); k >= Int(x0) + 1; k -= 1) {
         x -= 1;
@@ -97,7 +100,7 @@ void Gammainversa(Double& a, Double p, Double& r, Double& x, int& n) {
         } else {
             x -= Log((1 - p) / (1 - r)) * (Paso(p) * x);
         }
-        if (Abs(p - r) < 0.00005) {
+        if (Abs(p - r) < kTolerancia) {
             return;
         }
     }

@@ -8,14 +8,6 @@ Double Gamma2::Probabilidad(Double x) const { return ProbabilidadGamma(gamma, Re
 
 Double Gamma2::Cuantil(Double p, int& n) const { return beta * CuantilGamma(gamma, p, n); }
 
-Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n) {
-    Double suma;
-    for (int i = 1; i <= n; ++i) {
-        suma += Log(x(i));
-    }
-    return suma / n;
-}
-
 Gamma2 Gamma2PorVerosimilitud(Double m, Double ml) {
     const Double y = Log(m) - ml;
     const Double gamma = y <= 0.5772

@@ -20,9 +20,6 @@ struct Gamma2 {
     }
 };
 
-/// Mean of the natural logarithms of x(1) to x(n); error 5 for a value that is not above 0.
-Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n);
-
 /// Parameters by the mean m of the values and the mean ml of their natural logarithms: an approximation of maximum
 /// likelihood in two ranges of y = ln m - ml, with relative errors of the shape below 1.8e-4 for y <= 0.5772 and below
 /// 9.3e-5 above, to y = 17. Error 11 for y = 0, which equal values have.
@@ -30,11 +27,16 @@ Double MediaDeLogaritmos(const ArregloBase<Double>& x, int n);
 /// Technometrics 2(1), 55-65.
 Gamma2 Gamma2PorVerosimilitud(Double m, Double ml);
 
+/// The factor of t² in Hosking's formula, and the one by which the window of this distribution fits: its shapes, and so
+/// its discharges, are others, and stay so for its results to be comparable with former ones.
+inline constexpr Double kFactorDeHosking = kPi;
+inline constexpr Double kFactorDeLaVentana = 6;
+
 /// Parameters by the first two L-moments; both 0 when no gamma distribution has these (L2 <= 0 or L2 >= L1).
-/// There is a formula for t = L2/L1 below 0.5 and another one from 0.5 on. The first one uses factor·t²: the source has
-/// pi there, and its error is less than 1e-5. With 6, by which the window of this distribution fits, the shapes are
-/// 0.52 (t = 0.1) to 0.38 (t = 0.5) times those of the source. The error of the other formula is less than 7e-5.
+/// There is a formula for t = L2/L1 below 0.5 and another one from 0.5 on. The first one uses factor·t²: with the pi of
+/// the source its error is less than 1e-5, with the window's 6 the shapes are 0.52 (t = 0.1) to 0.38 (t = 0.5) times
+/// those of the source. The error of the other formula is less than 7e-5.
 /// Source: Hosking, J. R. M. (1990), J. R. Stat. Soc. B 52(1), 105-124, table 2.
-Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2, Double factor = 6);
+Gamma2 Gamma2PorMomentosLineales(Double L1, Double L2, Double factor = kFactorDeLaVentana);
 
 }  // namespace cuencalia

@@ -1,6 +1,7 @@
 #include "modules/distribuciones/lognormal3.h"
 
 #include "modules/distribuciones/normal.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
@@ -24,17 +25,12 @@ LogNormal3 AjustarLogNormal3(const ArregloBase<Double>& ordenada, int n) {
     const Double num = xmin * xmax - xmed * xmed;
     LogNormal3 d;
     d.x0 = num / den;
-    const auto w = [&](int i) { return den > 0 ? Log(ordenada(i) - d.x0) : Log(d.x0 - ordenada(i)); };
-    Double suma, cuadrados;
+    ArregloBase<Double> w(1, n);
     for (int i = 1; i <= n; ++i) {
-        suma += w(i);
+        w(i) = den > 0 ? Log(ordenada(i) - d.x0) : Log(d.x0 - ordenada(i));
     }
-    d.uy = suma / n;
-    for (int i = 1; i <= n; ++i) {
-        const Double desvio = w(i) - d.uy;
-        cuadrados += desvio * desvio;
-    }
-    d.sy = Sqr(cuadrados / n);
+    d.uy = Media(w, n);
+    d.sy = Sqr(SumaDeCuadrados(w, n, d.uy) / n);
     return d;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "modules/precipitacion/ecuacionintensidad.h"
+#include <vector>
+
+#include "modules/precipitacion/grobe.h"
 
 namespace cuencalia {
 
@@ -13,5 +15,15 @@ Double LluviaDeUnaHora(Double P24);
 /// Source: Bell, F. C. (1969), Generalized rainfall-duration-frequency relationships, Journal of the Hydraulics
 /// Division, ASCE, 95 (HY1), 311-327.
 Double LluviaBell(Double d, Double T, Double P);
+
+/// Rains and intensities of those durations (minutes) and return periods (years).
+struct IntensidadesBell {
+    ColumnasDuracion P;  ///< A column for each duration, with the rain of each period, mm.
+    ColumnasDuracion I;  ///< Likewise the intensities, mm/hr.
+    PuntosIDT puntos;    ///< Duration by duration, and period by period for each.
+};
+
+/// P6010 is the rain of an hour and 10 years, in mm.
+IntensidadesBell CalcularBell(Double P6010, const std::vector<int>& duraciones, const std::vector<int>& periodos);
 
 }  // namespace cuencalia

@@ -3,7 +3,6 @@
 #include "frame/base/textos.h"
 #include "frame/modulo/cajas.h"
 #include "modules/precipitacion/bell.h"
-#include "modules/precipitacion/grobe.h"
 
 namespace cuencalia {
 
@@ -60,22 +59,11 @@ void frmBell::Calcular() {
         return;
     }
     const int n = static_cast<int>(kPeriodos.size());
-    const ColumnasDuracion vacias(kDuraciones.size(), ArregloBase<Double>(1, n));
-    ColumnasDuracion P = vacias, I = vacias;
-    PuntosIDT puntos(n * static_cast<int>(kDuraciones.size()));
-    const auto periodo = [](int i) { return kPeriodos[static_cast<std::size_t>(i - 1)]; };
-    for (std::size_t c = 0; c < kDuraciones.size(); ++c) {
-        const int d = kDuraciones[c];
-        for (int i = 1; i <= n; ++i) {
-            P[c](i) = LluviaBell(d, periodo(i), P6010);
-            I[c](i) = IntensidadMedia(P[c](i), d);
-            puntos.Agregar(periodo(i), d, I[c](i));
-        }
-    }
-    const auto rotulo = [&](int i) { return CStr(periodo(i)); };
-    LlenarDuraciones(grdDuracion, n, rotulo, P);
-    LlenarDuraciones(grdImax, n, rotulo, I);
-    diseno.Ajustar(puntos);
+    const IntensidadesBell bell = CalcularBell(P6010, kDuraciones, kPeriodos);
+    const auto rotulo = [](int i) { return CStr(kPeriodos[static_cast<std::size_t>(i - 1)]); };
+    LlenarDuraciones(grdDuracion, n, rotulo, bell.P);
+    LlenarDuraciones(grdImax, n, rotulo, bell.I);
+    diseno.Ajustar(bell.puntos);
 }
 
 void frmBell::LimpiarOtros() {

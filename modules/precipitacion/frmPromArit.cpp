@@ -1,6 +1,6 @@
 #include "modules/precipitacion/frmPromArit.h"
 
-#include "modules/precipitacion/lluviamedia.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
@@ -20,6 +20,6 @@ frmPromArit::frmPromArit(Aplicacion& app)
     LeerEn({&P});
 }
 
-Double frmPromArit::Promediar() { return PromedioAritmetico(P, n); }
+Double frmPromArit::Promediar() { return Media(P, n); }
 
 }  // namespace cuencalia

@@ -2,14 +2,6 @@
 
 namespace cuencalia {
 
-Double PromedioAritmetico(const ArregloBase<Double>& P, int n) {
-    Double suma = 0;
-    for (int i = 1; i <= n; ++i) {
-        suma += P(i);
-    }
-    return suma / n;
-}
-
 Double PromedioPorAreas(const ArregloBase<Double>& P, const ArregloBase<Double>& A, int n) {
     Double sumaA = 0, sumaPA = 0;
     for (int i = 1; i <= n; ++i) {

@@ -4,9 +4,6 @@
 
 namespace cuencalia {
 
-/// Mean rain of the stations, in the unit of P. Stations i = 1 to n; error 6 for n = 0 (0 / 0).
-Double PromedioAritmetico(const ArregloBase<Double>& P, int n);
-
 /// Mean rain of a basin, in the unit of P: ΣA·P / ΣA over i = 1 to n. P(i) is the rain of a station or of a band
 /// between two isohyets and A(i) the area that it stands for, in any unit; negative values are not refused. Error 6 or
 /// 11 when the areas add up to 0. Source: Thiessen, A. H. (1911), Precipitation averages for large areas, Monthly

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "modules/regresion/regresionlineal.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 

@@ -1,5 +1,6 @@
 #include "modules/regresion/frmEjRegSimple.h"
 
+#include "modules/estadistica/momentos.h"
 #include "modules/regresion/regresionlineal.h"
 #include "modules/regresion/textoecuacion.h"
 

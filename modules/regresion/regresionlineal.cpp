@@ -22,14 +22,6 @@ RectaRegresion AjustarRecta(const ArregloBase<Double>& x, const ArregloBase<Doub
     return recta;
 }
 
-ArregloBase<Double> Logaritmos(const ArregloBase<Double>& x, int n) {
-    ArregloBase<Double> logaritmos(1, n);
-    for (int i = 1; i <= n; ++i) {
-        logaritmos(i) = Log(x(i));
-    }
-    return logaritmos;
-}
-
 Double CoeficienteCorrelacion(const RectaRegresion& recta) { return recta.Sxy / Sqr(recta.Sxx * recta.Syy); }
 
 }  // namespace cuencalia

@@ -19,9 +19,6 @@ struct RectaRegresion {
 /// Source: Draper, N. R. and Smith, H. (1966), Applied Regression Analysis, Wiley, New York, chapter 1.
 RectaRegresion AjustarRecta(const ArregloBase<Double>& x, const ArregloBase<Double>& y, int n);
 
-/// The natural logarithms of x(1) to x(n). Error 5 for a value of 0 or below.
-ArregloBase<Double> Logaritmos(const ArregloBase<Double>& x, int n);
-
 /// R = Sxy / √(Sxx·Syy), with the sign of the slope. Error 6 when all y are equal (0 / 0), 5 when rounding makes
 /// Sxx·Syy negative.
 Double CoeficienteCorrelacion(const RectaRegresion& recta);
