@@ -19,9 +19,9 @@
 #include "guion/plataformaguion.h"
 #include "hojas/libros.h"
 #include "modules/comparacion/comparar.h"
-#include "modules/comparacion/momentosmuestra.h"
 #include "modules/comparacion/pruebasserie.h"
 #include "modules/comparacion/remuestreo.h"
+#include "modules/estadistica/momentos.h"
 #include "shell/formas.h"
 
 namespace cuencalia::pruebas {
@@ -429,7 +429,7 @@ void MomentosL10000(benchmark::State& estado) {
     }
     for (auto _ : estado) {
         for (const std::vector<double>& x : series) {
-            benchmark::DoNotOptimize(CalcularMomentosL(x));
+            benchmark::DoNotOptimize(CalcularMomentosLineales(x));
         }
     }
 }

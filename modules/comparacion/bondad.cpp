@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "modules/comparacion/posiciones.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
@@ -12,11 +13,7 @@ Bondad MedirBondad(const Distribucion& d, std::span<const double> v, std::span<c
     const auto N = static_cast<double>(n);
     Bondad b{};
     double suma = 0;
-    double mediaV = 0;
-    for (const double vi : v) {
-        mediaV += vi;
-    }
-    mediaV /= N;
+    const double mediaV = Media(v);
     double mediaQ = 0;
     double Svv = 0;
     double Sqq = 0;
@@ -26,9 +23,10 @@ Bondad MedirBondad(const Distribucion& d, std::span<const double> v, std::span<c
         const auto orden = static_cast<double>(i + 1);
         const double F = d.Cola(v[i], false);
         b.delta = std::fmax(b.delta, std::fabs(kPosicionWeibull(static_cast<int>(i + 1), static_cast<int>(n)) - F));
+        const double S = F < 0.9 ? 1 - F : d.Cola(v[i], true);  // near 1 the difference has no digits
         // A value has both tails in the sum: the lower one as the i-th from below, the upper one as the i-th from
         // above.
-        suma += (2 * orden - 1) * std::log(F) + (2 * N + 1 - 2 * orden) * std::log(d.Cola(v[i], true));
+        suma += (2 * orden - 1) * std::log(F) + (2 * N + 1 - 2 * orden) * std::log(S);
         const double q = d.Cuantil(p[i]);
         const double diferencia = x[i] - d.Valor(q);
         cuadrados += diferencia * diferencia;

@@ -1,19 +1,22 @@
 #include "modules/comparacion/candidatos.h"
 
 #include <algorithm>
+#include <boost/math/tools/roots.hpp>
 #include <cmath>
 #include <numbers>
 
-#include "modules/comparacion/momentosmuestra.h"
 #include "modules/comparacion/verosimilitud.h"
 #include "modules/distribuciones/gamma2.h"
+#include "modules/distribuciones/leyes.h"
 #include "modules/distribuciones/pearson3.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
 namespace {
 
 constexpr std::size_t kDatosMinimos = 4;  // the fourth linear moment
+constexpr double kTau3LogNormal = 0.94;   // Hosking and Wallis give the rational function up to here
 constexpr double kRaizPi = 1.7724538509055160;
 
 constexpr const char* kSinParametros = "Los parámetros no existen para estos datos";
@@ -31,14 +34,14 @@ Ajuste Hecho(Candidato c, double posicion, double escala, double forma = 0) {
 Ajuste Imposible(Candidato c, const char* motivo) { return {c, {}, motivo}; }
 
 Ajuste PorMomentos(Candidato c, std::span<const double> v) {
-    const MomentosMuestra m = CalcularMomentosMuestra(v);
+    const Parametros<double> m = ParametrosMuestrales(v);
     switch (c.familia) {
         case Familia::LogNormal3: {
             // The deviation of the logarithms whose skew this is, in closed form (Kite 1977).
-            const double g = std::fabs(m.asimetria);
+            const double g = std::fabs(m.Cs);
             const double w = (std::sqrt(g * g + 4) - g) / 2;
             const double z = (1 - std::cbrt(w * w)) / std::cbrt(w);  // sqrt(exp(k²) - 1)
-            const double k = -std::copysign(std::sqrt(std::log1p(z * z)), m.asimetria);
+            const double k = -std::copysign(std::sqrt(std::log1p(z * z)), m.Cs);
             if (std::fabs(k) < 1e-6) {
                 return Hecho(c, m.media, m.desviacion, 0);
             }
@@ -50,7 +53,7 @@ Ajuste PorMomentos(Candidato c, std::span<const double> v) {
                                : Imposible(c, "La media no es mayor que 0");
         case Familia::Gamma3:
         case Familia::LogPearson3:
-            return Hecho(c, m.media, m.desviacion, m.asimetria);
+            return Hecho(c, m.media, m.desviacion, m.Cs);
         case Familia::Gumbel:
         case Familia::LogGumbel: {
             const double alfa = m.desviacion * std::sqrt(6) / std::numbers::pi;
@@ -83,20 +86,21 @@ double FormaNormalGeneralizada(double tau3) {
            (1 + z * (-2.0182173 + z * (1.2420401 + z * -0.21741801)));
 }
 
-Ajuste Pearson3PorL(Candidato c, const MomentosL& l) {
-    const double tau = std::fabs(l.tau3);
+Ajuste Pearson3PorL(Candidato c, const Lineales<double>& l) {
+    const double tau = std::fabs(l.L3 / l.L2);
     if (tau < 1e-6) {
         return Hecho(c, l.L1, kRaizPi * l.L2, 0);
     }
     const double forma = FormaPearson3(tau).valor();
     // The deviation is beta·sqrt(shape), and L2 = beta·gamma(shape + 1/2)/(sqrt(pi)·gamma(shape)).
     const double desviacion = kRaizPi * l.L2 * std::sqrt(forma) * std::exp(LogGamma(forma) - LogGamma(forma + 0.5));
-    return Hecho(c, l.L1, desviacion, std::copysign(2 / std::sqrt(forma), l.tau3));
+    return Hecho(c, l.L1, desviacion, std::copysign(2 / std::sqrt(forma), l.L3));
 }
 
 Ajuste PorMomentosLineales(Candidato c, std::span<const double> v) {
-    const MomentosL l = CalcularMomentosL(v);
-    if (!(l.L2 > 0 && std::fabs(l.tau3) < 1)) {
+    const Lineales<double> l = CalcularMomentosLineales(v);
+    const double tau3 = l.L3 / l.L2;
+    if (!(l.L2 > 0 && std::fabs(tau3) < 1)) {
         return Imposible(c, kSinMomentosLineales);
     }
     switch (c.familia) {
@@ -104,10 +108,10 @@ Ajuste PorMomentosLineales(Candidato c, std::span<const double> v) {
         case Familia::LogNormal2:
             return Hecho(c, l.L1, kRaizPi * l.L2);
         case Familia::LogNormal3: {
-            if (std::fabs(l.tau3) >= 0.94) {
+            if (std::fabs(tau3) >= kTau3LogNormal) {
                 return Imposible(c, "La asimetría pasa del alcance del método (tau3 de 0.94)");
             }
-            const double k = FormaNormalGeneralizada(l.tau3);
+            const double k = FormaNormalGeneralizada(tau3);
             if (std::fabs(k) < 1e-8) {
                 return Hecho(c, l.L1, kRaizPi * l.L2, 0);
             }
@@ -119,7 +123,7 @@ Ajuste PorMomentosLineales(Candidato c, std::span<const double> v) {
             if (!(l.L2 < l.L1)) {
                 return Imposible(c, kSinMomentosLineales);
             }
-            const Gamma2 g = Gamma2PorMomentosLineales(l.L1, l.L2, kPi);
+            const Gamma2 g = Gamma2PorMomentosLineales(l.L1, l.L2, kFactorDeHosking);
             const double raiz = std::sqrt(g.gamma.valor());
             return Hecho(c, l.L1, l.L1 / raiz, 2 / raiz);
         }
@@ -132,11 +136,11 @@ Ajuste PorMomentosLineales(Candidato c, std::span<const double> v) {
             return Hecho(c, l.L1 - alfa * std::numbers::egamma, alfa);
         }
         case Familia::ValorExtremo: {
-            const XiAlfaK d = ValorExtremoPorL(l.L1, l.L2, l.tau3);
+            const XiAlfaK d = ValorExtremoPorL(l.L1, l.L2, tau3);
             return Hecho(c, d.xi, d.alfa, d.k);
         }
         case Familia::Logistica: {
-            const double k = -l.tau3;
+            const double k = -tau3;
             if (std::fabs(k) < 1e-8) {
                 return Hecho(c, l.L1, l.L2, 0);
             }
@@ -145,14 +149,14 @@ Ajuste PorMomentosLineales(Candidato c, std::span<const double> v) {
             return Hecho(c, l.L1 - alfa * (1 / k - std::numbers::pi / std::sin(angulo)), alfa, k);
         }
         case Familia::Pareto: {
-            const double k = (1 - 3 * l.tau3) / (1 + l.tau3);
+            const double k = (1 - 3 * tau3) / (1 + tau3);
             return Hecho(c, l.L1 - (2 + k) * l.L2, (1 + k) * (2 + k) * l.L2, k);
         }
         case Familia::Exponencial:
             return Hecho(c, l.L1 - 2 * l.L2, 2 * l.L2);
         case Familia::Weibull: {
             // -x has an extreme value distribution with an upper end.
-            const XiAlfaK d = ValorExtremoPorL(-l.L1, l.L2, -l.tau3);
+            const XiAlfaK d = ValorExtremoPorL(-l.L1, l.L2, -tau3);
             return d.k > 0 ? Hecho(c, -(d.xi + d.alfa / d.k), d.alfa / d.k, 1 / d.k)
                            : Imposible(c, "La asimetría es menor que la de toda distribución de Weibull");
         }
@@ -184,25 +188,20 @@ Ajuste PorVerosimilitud(Candidato c, std::span<const double> v) {
 
 double FormaValorExtremo(double tau3) {
     const double c = 2 / (3 + tau3) - std::numbers::ln2 / std::log(3.0);
-    double k = c * (7.8590 + 2.9554 * c);
     const double razon = (3 + tau3) / 2;
     const double ln3 = std::log(3.0);
-    for (int vez = 0; vez < 30; ++vez) {
+    const auto f = [razon, ln3](double k) {
         if (std::fabs(k) < 1e-7) {
-            return k;  // both sides are straight lines so near 0
+            return std::pair(0.0, 1.0);  // both sides are straight lines so near 0: the k that was found is right
         }
         const double numerador = -std::expm1(-k * ln3);
         const double denominador = -std::expm1(-k * std::numbers::ln2);
-        const double f = numerador / denominador - razon;
-        const double derivada =
-            (ln3 * (1 - numerador) - numerador / denominador * std::numbers::ln2 * (1 - denominador)) / denominador;
-        const double paso = f / derivada;
-        k -= paso;
-        if (std::fabs(paso) < 1e-13 * (1 + std::fabs(k))) {
-            break;
-        }
-    }
-    return k;
+        const double cociente = numerador / denominador;
+        return std::pair(cociente - razon,
+                         (ln3 * (1 - numerador) - cociente * std::numbers::ln2 * (1 - denominador)) / denominador);
+    };
+    constexpr int kBits = 30;  // which the last step of the iteration doubles
+    return boost::math::tools::newton_raphson_iterate(f, c * (7.8590 + 2.9554 * c), -1.0, 100.0, kBits);
 }
 
 const char* NombreMetodo(Metodo metodo) {
@@ -251,7 +250,7 @@ Ajuste AjustarVariable(Candidato candidato, std::span<const double> v) {
             case Metodo::Verosimilitud:
                 return PorVerosimilitud(candidato, v);
         }
-    } catch (const ErrorEjecucion&) {  // of a formula that the windows use too
+    } catch (const std::exception&) {  // of a formula that the windows use too, or of a search that found no root
     }
     return Imposible(candidato, kSinParametros);
 }

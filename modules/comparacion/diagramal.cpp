@@ -4,10 +4,13 @@
 #include <limits>
 
 #include "modules/comparacion/candidatos.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
 namespace {
+
+constexpr double kNada = std::numeric_limits<double>::quiet_NaN();
 
 double ValorExtremo(double tau3) {
     const double k = FormaValorExtremo(tau3);
@@ -36,8 +39,16 @@ double Tau4(Familia familia, double tau3) {
         case Familia::Gamma3:
             return 0.12240 + z * (0.30115 + z * (0.95812 + z * (-0.57488 + z * 0.19383)));
         default:
-            return std::numeric_limits<double>::quiet_NaN();
+            return kNada;
     }
+}
+
+PuntoL PuntoDeSerie(std::span<const double> ordenada) {
+    if (ordenada.size() < 4) {
+        return {kNada, kNada};
+    }
+    const Lineales<double> l = CalcularMomentosLineales(ordenada);
+    return {l.L3 / l.L2, l.L4 / l.L2};
 }
 
 PuntoL PuntoDeFamilia(Familia familia) {
@@ -49,7 +60,7 @@ PuntoL PuntoDeFamilia(Familia familia) {
         case Familia::Exponencial:
             return {1.0 / 3, 1.0 / 6};
         default:
-            return {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::quiet_NaN()};
+            return {kNada, kNada};
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <vector>
+#include <span>
 
 #include "modules/comparacion/familias.h"
 
@@ -16,6 +16,9 @@ struct PuntoL {
 /// with an error below 5e-4. Weibull has the mirrored curve of ValorExtremo. NaN for a family without a curve.
 /// Source: Hosking and Wallis (1997), appendix A.12.
 double Tau4(Familia familia, double tau3);
+
+/// That of a series in ascending order; NaN for fewer than four values, or equal ones.
+PuntoL PuntoDeSerie(std::span<const double> ordenada);
 
 /// The one point of a family of two parameters: Normal, Gumbel, Exponencial.
 PuntoL PuntoDeFamilia(Familia familia);

@@ -1,7 +1,9 @@
 #include "modules/comparacion/familias.h"
 
-#include <cmath>
+#include <algorithm>
 #include <limits>
+
+#include "modules/distribuciones/leyes.h"
 
 namespace cuencalia {
 
@@ -50,7 +52,7 @@ int NumeroDeParametros(Familia familia) { return Datos(familia).parametros; }
 Distribucion::Distribucion(Familia familia, double posicion, double escala, double forma)
     : familia_(familia), posicion_(posicion), escala_(escala), forma_(forma) {
     if (EsPearson3(familia) && std::fabs(forma) > kAsimetriaNula) {
-        gamma_.emplace(4 / (forma * forma));
+        gamma_ = 4 / (forma * forma);
         beta_ = escala * forma / 2;
         inicio_ = posicion - 2 * escala / forma;
     }
@@ -88,11 +90,11 @@ double Distribucion::Cola(double v, bool superior) const {
         case Familia::Gamma2:
         case Familia::Gamma3:
         case Familia::LogPearson3: {
-            if (!gamma_) {
+            if (SinAsimetria()) {
                 const double z = (v - posicion_) / escala_;
                 return ProbabilidadNormal(superior ? -z : z);
             }
-            return gamma_->Cola((v - inicio_) / beta_, superior == (beta_ > 0));
+            return ColaGamma(gamma_, (v - inicio_) / beta_, superior == (beta_ > 0));
         }
         case Familia::Gumbel:
         case Familia::LogGumbel:
@@ -135,11 +137,11 @@ double Distribucion::LogDensidad(double v) const {
         case Familia::Gamma2:
         case Familia::Gamma3:
         case Familia::LogPearson3: {
-            if (!gamma_) {
+            if (SinAsimetria()) {
                 return normal((v - posicion_) / escala_);
             }
             const double y = (v - inicio_) / beta_;
-            return y > 0 ? gamma_->LogDensidad(y) - std::log(std::fabs(beta_)) : -kInfinito;
+            return y > 0 ? LogDensidadGamma(gamma_, y) - std::log(std::fabs(beta_)) : -kInfinito;
         }
         case Familia::Gumbel:
         case Familia::LogGumbel:
@@ -174,8 +176,10 @@ double Distribucion::Cuantil(double p) const {
         case Familia::Gamma2:
         case Familia::Gamma3:
         case Familia::LogPearson3:
-            return gamma_ ? inicio_ + beta_ * gamma_->Cuantil(beta_ > 0 ? p : 1 - p)
-                          : posicion_ + escala_ * CuantilNormal(p);
+            // The smaller tail is inverted: it alone has all its digits.
+            return SinAsimetria()
+                       ? posicion_ + escala_ * CuantilNormal(p)
+                       : inicio_ + beta_ * InversaGamma(gamma_, std::min(p, 1 - p), (p > 0.5) == (beta_ > 0));
         case Familia::Gumbel:
         case Familia::LogGumbel:
         case Familia::ValorExtremo:
@@ -205,13 +209,13 @@ std::vector<ParametroMostrado> Distribucion::Parametros() const {
                     {"µy", std::log(escala_ / std::fabs(forma_))},
                     {"Sy", std::fabs(forma_)}};
         case Familia::Gamma2:
-            return {{"gamma", gamma_ ? gamma_->Forma() : kInfinito}, {"beta", beta_}};
+            return {{"gamma", gamma_}, {"beta", beta_}};
         case Familia::Gamma3:
         case Familia::LogPearson3:
-            if (!gamma_) {
+            if (SinAsimetria()) {
                 break;
             }
-            return {{"x0", inicio_}, {"gamma", gamma_->Forma()}, {"beta", beta_}};
+            return {{"x0", inicio_}, {"gamma", gamma_}, {"beta", beta_}};
         case Familia::Gumbel:
         case Familia::LogGumbel:
             return {{"µ", posicion_}, {"alfa", escala_}};

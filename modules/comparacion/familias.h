@@ -1,10 +1,7 @@
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cmath>
 #include <vector>
-
-#include "modules/comparacion/leyes.h"
 
 namespace cuencalia {
 
@@ -77,14 +74,15 @@ class Distribucion {
     std::vector<ParametroMostrado> Parametros() const;
 
   private:
+    bool SinAsimetria() const { return gamma_ == HUGE_VAL; }
     /// k → y: -ln(1 - k(v - xi)/alpha)/k, and (v - xi)/alpha for k = 0. NaN beyond the end.
     double Reducida(double v) const;
     double DeReducida(double y) const;
 
     Familia familia_;
     double posicion_, escala_, forma_;
-    std::optional<LeyGamma> gamma_;  ///< Of Pearson III with a skew.
-    double inicio_ = 0, beta_ = 0;   ///< Its end and its scale, of the sign of the skew.
+    double gamma_ = HUGE_VAL;       ///< Shape of Pearson III, infinite without a skew.
+    double inicio_ = 0, beta_ = 0;  ///< Its end and its scale, of the sign of the skew.
 };
 
 }  // namespace cuencalia

@@ -10,8 +10,8 @@
 #include "frame/modulo/cajas.h"
 #include "frame/modulo/entregarlibro.h"
 #include "modules/comparacion/diagramal.h"
-#include "modules/comparacion/momentosmuestra.h"
 #include "modules/comparacion/pruebasserie.h"
+#include "modules/distribuciones/leyes.h"
 
 namespace cuencalia {
 
@@ -519,10 +519,10 @@ void frmComparacion::DibujarPapel() {
 }
 
 void frmComparacion::DibujarMomentos() {
-    const MomentosL l = ordenada_.size() >= 4 ? CalcularMomentosL(ordenada_) : MomentosL{0, 0, NAN, NAN};
+    const PuntoL suyo = PuntoDeSerie(ordenada_);
     std::vector<SerieGrafico> series;
-    if (std::isfinite(l.tau3) && std::isfinite(l.tau4)) {
-        series.push_back({.leyenda = "Serie", .x = {l.tau3}, .y = {l.tau4}, .sueltos = true});
+    if (std::isfinite(suyo.tau3) && std::isfinite(suyo.tau4)) {
+        series.push_back({.leyenda = "Serie", .x = {suyo.tau3}, .y = {suyo.tau4}, .sueltos = true});
     }
     for (const Familia familia : {Familia::ValorExtremo, Familia::Logistica, Familia::Pareto, Familia::LogNormal3,
                                   Familia::Gamma3, Familia::Weibull}) {

@@ -7,8 +7,8 @@
 #include <numbers>
 
 #include "frame/base/textos.h"
-#include "modules/comparacion/leyes.h"
-#include "modules/comparacion/momentosmuestra.h"
+#include "modules/distribuciones/leyes.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
@@ -32,7 +32,7 @@ std::string Sentencia(double p, const std::string& siSeRechaza, const std::strin
 int Signo(double d) { return d > 0 ? 1 : d < 0 ? -1 : 0; }
 
 std::vector<double> Diferencias(std::span<const double> x) {
-    const double media = CalcularMomentosMuestra(x).media;
+    const double media = Media(x);
     std::vector<double> d;
     d.reserve(x.size());
     for (const double xi : x) {
@@ -142,7 +142,7 @@ Atipicos GrubbsBeck(std::span<const double> x) {
     }
     std::vector<double> y(x.size());
     std::transform(x.begin(), x.end(), y.begin(), [](double xi) { return std::log10(xi); });
-    const MomentosMuestra m = CalcularMomentosMuestra(y);
+    const Parametros<double> m = ParametrosMuestrales(y);
     const auto n = static_cast<double>(x.size());
     const double logN = std::log10(n);
     const double K = -0.9043 + 3.345 * std::sqrt(logN) - 0.4046 * logN;

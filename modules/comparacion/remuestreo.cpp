@@ -31,11 +31,18 @@ std::vector<double> Probabilidades(int muestras, std::size_t n, std::uint64_t se
     return p;
 }
 
-/// What each sample of a fit gives; NaN for one that could not be fitted.
-struct Resultados {
-    std::vector<Bondad> bondad;
-    std::vector<double> caudales;  // of sample s, period t at [t·muestras + s]
-};
+/// The limit that a part p of the values, in ascending order, is below: between the two of the ranks around p·(n + 1).
+/// NaN beyond the least and the greatest.
+double Limite(std::span<const double> ordenados, double p) {
+    const auto n = static_cast<double>(ordenados.size());
+    const double lugar = p * (n + 1) - 1;
+    if (!(lugar >= 0 && lugar <= n - 1)) {
+        return kNada;
+    }
+    const auto k = static_cast<std::size_t>(lugar);
+    const double siguiente = ordenados[std::min(k + 1, ordenados.size() - 1)];
+    return ordenados[k] + (lugar - static_cast<double>(k)) * (siguiente - ordenados[k]);
+}
 
 class Trabajo {
   public:
@@ -53,7 +60,7 @@ class Trabajo {
             if (ajustes[a].distribucion) {
                 const auto muestras = static_cast<std::size_t>(opciones.muestras);
                 tablas_[a].bondad.resize(muestras, {kNada, kNada, kNada, kNada});
-                tablas_[a].caudales.resize(muestras * periodos.size(), kNada);
+                tablas_[a].caudales.resize(periodos.size(), std::vector<double>(muestras, kNada));
             }
         }
     }
@@ -76,36 +83,14 @@ class Trabajo {
 
     bool Cancelado() const { return cancelado_; }
 
-    Remuestreo Resumir(std::size_t a, std::span<const double> ordenada) {
-        Remuestreo r{};
+    Remuestreo Resultado(std::size_t a, std::span<const double> ordenada) const {
         if (!ajustes_[a].distribucion) {
-            return r;
+            return {};
         }
         const Distribucion& d = *ajustes_[a].distribucion;
         std::vector<double> v(ordenada.begin(), ordenada.end());
         std::transform(v.begin(), v.end(), v.begin(), [&d](double x) { return d.Variable(x); });
-        const Bondad b = MedirBondad(d, v, ordenada, posiciones_);
-        int peores[4] = {};
-        for (const Bondad& s : tablas_[a].bondad) {
-            if (std::isnan(s.delta)) {
-                continue;
-            }
-            ++r.validas;
-            peores[0] += s.delta >= b.delta;
-            peores[1] += s.andersonDarling >= b.andersonDarling;
-            peores[2] += s.correlacion <= b.correlacion;
-            peores[3] += s.error >= b.error;
-        }
-        // The series counts as one of the samples.
-        const auto p = [&](int i) { return (peores[i] + 1.0) / (r.validas + 1.0); };
-        r.pDelta = p(0);
-        r.pAndersonDarling = p(1);
-        r.pCorrelacion = p(2);
-        r.pError = p(3);
-        for (std::size_t t = 0; t < periodos_.size(); ++t) {
-            r.limites.push_back(LimitesDe(a, t));
-        }
-        return r;
+        return Resumir(tablas_[a], MedirBondad(d, v, ordenada, posiciones_), opciones_.nivel);
     }
 
   private:
@@ -133,26 +118,8 @@ class Trabajo {
         }
         tablas_[a].bondad[s] = MedirBondad(d, serie.v, logaritmos ? serie.x : serie.v, posiciones_);
         for (std::size_t t = 0; t < periodos_.size(); ++t) {
-            tablas_[a].caudales[t * static_cast<std::size_t>(opciones_.muestras) + s] = d.Caudal(periodos_[t]);
+            tablas_[a].caudales[t][s] = d.Caudal(periodos_[t]);
         }
-    }
-
-    Remuestreo::Limites LimitesDe(std::size_t a, std::size_t t) {
-        const auto muestras = static_cast<std::ptrdiff_t>(opciones_.muestras);
-        const auto inicio = tablas_[a].caudales.begin() + static_cast<std::ptrdiff_t>(t) * muestras;
-        const auto fin = std::remove_if(inicio, inicio + muestras, [](double Q) { return std::isnan(Q); });
-        std::sort(inicio, fin);
-        const auto validas = static_cast<double>(fin - inicio);
-        const auto cuantil = [&](double p) {
-            const double lugar = p * (validas + 1) - 1;
-            if (!(lugar >= 0 && lugar <= validas - 1)) {
-                return kNada;
-            }
-            const auto k = static_cast<std::ptrdiff_t>(lugar);
-            const double siguiente = inicio[std::min(k + 1, fin - inicio - 1)];
-            return inicio[k] + (lugar - static_cast<double>(k)) * (siguiente - inicio[k]);
-        };
-        return {cuantil((1 - opciones_.nivel) / 2), cuantil((1 + opciones_.nivel) / 2)};
     }
 
     const std::vector<Ajuste>& ajustes_;
@@ -160,13 +127,40 @@ class Trabajo {
     std::span<const double> periodos_;
     const OpcionesRemuestreo& opciones_;
     std::vector<double> posiciones_, azar_;
-    std::vector<Resultados> tablas_;
+    std::vector<Muestras> tablas_;
     int tareasPorAjuste_;
     std::atomic<int> siguiente_ = 0;
     std::atomic<bool> cancelado_ = false;
 };
 
 }  // namespace
+
+Remuestreo Resumir(const Muestras& muestras, const Bondad& serie, double nivel) {
+    Remuestreo r{};
+    // The series counts as one of the samples.
+    int peores[] = {1, 1, 1, 1};
+    for (const Bondad& s : muestras.bondad) {
+        if (std::isnan(s.delta)) {
+            continue;
+        }
+        ++r.validas;
+        peores[0] += s.delta >= serie.delta;
+        peores[1] += s.andersonDarling >= serie.andersonDarling;
+        peores[2] += s.correlacion <= serie.correlacion;
+        peores[3] += s.error >= serie.error;
+    }
+    const double todas = r.validas + 1;
+    r.pDelta = peores[0] / todas;
+    r.pAndersonDarling = peores[1] / todas;
+    r.pCorrelacion = peores[2] / todas;
+    r.pError = peores[3] / todas;
+    for (std::vector<double> Q : muestras.caudales) {
+        std::erase_if(Q, [](double q) { return std::isnan(q); });
+        std::sort(Q.begin(), Q.end());
+        r.limites.push_back({Limite(Q, (1 - nivel) / 2), Limite(Q, (1 + nivel) / 2)});
+    }
+    return r;
+}
 
 std::optional<std::vector<Remuestreo>> Remuestrear(const std::vector<Ajuste>& ajustes, std::span<const double> ordenada,
                                                    std::span<const double> periodos,
@@ -188,7 +182,7 @@ std::optional<std::vector<Remuestreo>> Remuestrear(const std::vector<Ajuste>& aj
     }
     std::vector<Remuestreo> resultados;
     for (std::size_t a = 0; a < ajustes.size(); ++a) {
-        resultados.push_back(trabajo.Resumir(a, ordenada));
+        resultados.push_back(trabajo.Resultado(a, ordenada));
     }
     return resultados;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
+#include <thread>
 #include <vector>
 
 #include "modules/comparacion/bondad.h"
@@ -17,7 +19,7 @@ struct OpcionesRemuestreo {
     int muestras = 1000;
     std::uint64_t semilla = 1;
     double nivel = 0.90;  ///< Confidence of the limits.
-    int hilos = 2;
+    int hilos = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
     double posicion = 0.4;  ///< The a of the plotting positions by which correlation and error are measured.
     /// Called on the calling thread now and then with the part that is done, 0 to 1; false ends the resampling.
     std::function<bool(double)> progreso{};
@@ -34,6 +36,14 @@ struct Remuestreo {
     };
     std::vector<Limites> limites;  ///< Of the discharges of the periods; NaN when too few samples could be fitted.
 };
+
+/// What the samples of a fit gave; NaN for one that could not be fitted.
+struct Muestras {
+    std::vector<Bondad> bondad;
+    std::vector<std::vector<double>> caudales;  ///< Of each period.
+};
+/// The samples counted: `serie` are the measures of the series itself, `nivel` the confidence of the limits.
+Remuestreo Resumir(const Muestras& muestras, const Bondad& serie, double nivel);
 
 /// Parametric resampling: from each fit samples of the length of the series are drawn, fitted by the same method and
 /// measured. A limit is the quantile of the sampled discharges (percentile method); it counts the sampling error alone,

@@ -1,14 +1,22 @@
 #include "modules/comparacion/verosimilitud.h"
 
 #include <algorithm>
+#include <boost/math/tools/roots.hpp>
+#include <boost/math/tools/toms748_solve.hpp>
 #include <cmath>
+#include <cstdint>
 #include <functional>
+#include <numbers>
 
-#include "modules/comparacion/momentosmuestra.h"
+#include "modules/distribuciones/leyes.h"
+#include "modules/estadistica/momentos.h"
 
 namespace cuencalia {
 
 namespace {
+
+// A third of the digits, which one more step of the iteration doubles.
+constexpr int kBits = 20;
 
 /// The shape whose ln(a) - psi(a) is s > 0.
 double FormaGamma(double s) {
@@ -16,18 +24,12 @@ double FormaGamma(double s) {
         return std::nan("");
     }
     // The first approximation has an error of 1.5 %; Newton's iteration in 1/a converges from there on both sides.
-    double a = (3 - s + std::sqrt((s - 3) * (s - 3) + 24 * s)) / (12 * s);
-    for (int vez = 0; vez < 20; ++vez) {
-        const double diferencia = std::log(a) - Digamma(a) - s;
-        const double inversa = 1 / a + diferencia / (a * a * (1 / a - Trigamma(a)));
-        const double nueva = inversa > 0 ? 1 / inversa : a / 2;
-        const double cambio = std::fabs(nueva / a - 1);
-        a = nueva;
-        if (cambio < 1e-9) {
-            break;
-        }
-    }
-    return a;
+    const double inicial = 12 * s / (3 - s + std::sqrt((s - 3) * (s - 3) + 24 * s));
+    const auto f = [s](double inversa) {
+        const double a = 1 / inversa;
+        return std::pair(std::log(a) - Digamma(a) - s, a * a * (Trigamma(a) - inversa));
+    };
+    return 1 / boost::math::tools::newton_raphson_iterate(f, inicial, inicial / 2, inicial * 2, kBits);
 }
 
 /// Distances to an end of the distribution at d below the least value, their logarithms relative to the mean distance,
@@ -57,6 +59,8 @@ Distancias Medir(std::span<const double> w, double mediaW, double d) {
     r.cruzada = cruzadas - r.mediaLog * r.inversas;
     return r;
 }
+
+const boost::math::tools::eps_tolerance<double> kTolerancia(32);
 
 /// The d of the maximum where `pendiente`, a derivative by d, goes from positive to negative; sought from `inicial` on
 /// in the direction of the ascent, in steps of a factor 2.
@@ -91,28 +95,13 @@ std::optional<double> Maximo(const std::function<double(double)>& pendiente, dou
     if (!(fBajo > 0 && fAlto <= 0)) {
         return std::nullopt;
     }
-    // Illinois' variant of the false position.
-    int lado = 0;
-    double d = bajo;
-    for (int vez = 0; vez < 60 && alto - bajo > 1e-9 * alto; ++vez) {
-        d = (fBajo * alto - fAlto * bajo) / (fBajo - fAlto);
-        const double f = pendiente(d);
-        if (f > 0) {
-            bajo = d;
-            fBajo = f;
-            fAlto = lado > 0 ? fAlto / 2 : fAlto;
-            lado = 1;
-        } else {
-            alto = d;
-            fAlto = f;
-            fBajo = lado < 0 ? fBajo / 2 : fBajo;
-            lado = -1;
-        }
-        if (f == 0) {
-            break;
-        }
+    if (fAlto == 0) {
+        return alto;
     }
-    return d;
+    std::uintmax_t vueltas = 60;
+    const auto [desde, hasta] =
+        boost::math::tools::toms748_solve(pendiente, bajo, alto, fBajo, fAlto, kTolerancia, vueltas);
+    return desde + (hasta - desde) / 2;
 }
 
 // The end is sought from a millionth of the deviation below the least value to a thousand deviations, where the skew is
@@ -123,18 +112,18 @@ constexpr double kMasLejos = 1e3;
 /// Calls `pendiente` with the differences from the end value of the side of the shorter tail, and their mean.
 struct Lado {
     explicit Lado(std::span<const double> v) {
-        const MomentosMuestra m = CalcularMomentosMuestra(v);
-        signo = m.asimetria < 0 ? -1 : 1;
+        const Parametros<double> m = ParametrosMuestrales(v);
+        signo = m.Cs < 0 ? -1 : 1;
         desviacion = m.desviacion;
         extremo = signo > 0 ? v.front() : v.back();
         w.reserve(v.size());
         for (const double vi : v) {
             w.push_back(signo * (vi - extremo));
-            media += w.back();
         }
-        media /= static_cast<double>(v.size());
-        // The end of the Pearson III distribution that has the same moments, where that is below the values.
-        inicial = std::max(2 * desviacion / std::max(std::fabs(m.asimetria), 0.01) - media, 0.05 * desviacion);
+        media = Media(w);
+        // The end of the Pearson III distribution that has the same moments, where that is below the values: not nearer
+        // to them than a twentieth of the deviation, nor, without a skew, at infinity.
+        inicial = std::max(2 * desviacion / std::max(std::fabs(m.Cs), 0.01) - media, 0.05 * desviacion);
     }
     std::optional<double> Maximo(const std::function<double(double)>& pendiente) const {
         return cuencalia::Maximo(pendiente, inicial, kMasCerca * desviacion, kMasLejos * desviacion);
@@ -146,17 +135,16 @@ struct Lado {
 }  // namespace
 
 Distribucion NormalPorVerosimilitud(Familia familia, std::span<const double> v) {
-    const MomentosMuestra m = CalcularMomentosMuestra(v);
+    const Parametros<double> m = ParametrosMuestrales(v);
     const double n = static_cast<double>(v.size());
     return {familia, m.media, m.desviacion * std::sqrt((n - 1) / n)};
 }
 
 Distribucion GumbelPorVerosimilitud(Familia familia, std::span<const double> v) {
-    const MomentosMuestra m = CalcularMomentosMuestra(v);
+    const Parametros<double> m = ParametrosMuestrales(v);
     const double minimo = v.front();  // subtracted, so that no exponential overflows
-    double alfa = m.desviacion * 0.7796968012336761;
     double suma0 = 0;
-    for (int vez = 0; vez < 50; ++vez) {
+    const auto f = [&](double alfa) {
         double suma1 = 0;
         double suma2 = 0;
         suma0 = 0;
@@ -168,19 +156,18 @@ Distribucion GumbelPorVerosimilitud(Familia familia, std::span<const double> v) 
             suma2 += w * w * e;
         }
         const double cociente = suma1 / suma0;
-        const double f = m.media - minimo - cociente - alfa;
-        const double derivada = -1 - (suma2 / suma0 - cociente * cociente) / (alfa * alfa);
-        const double paso = std::clamp(f / derivada, -alfa, alfa / 2);
-        alfa -= paso;
-        if (std::fabs(paso) < 1e-10 * alfa) {
-            break;
-        }
-    }
+        return std::pair(m.media - minimo - cociente - alfa,
+                         -1 - (suma2 / suma0 - cociente * cociente) / (alfa * alfa));
+    };
+    // That of the moments is a good start.
+    const double alfa = boost::math::tools::newton_raphson_iterate(f, m.desviacion * std::sqrt(6) / std::numbers::pi,
+                                                                   0.0, m.media - minimo, kBits);
+    f(alfa);
     return {familia, minimo - alfa * std::log(suma0 / static_cast<double>(v.size())), alfa};
 }
 
 Distribucion Gamma2PorVerosimilitudExacta(std::span<const double> v) {
-    const Distancias r = Medir(v, CalcularMomentosMuestra(v).media, 0);
+    const Distancias r = Medir(v, Media(v), 0);
     const double a = FormaGamma(-r.mediaLog);
     return {Familia::Gamma2, r.media, r.media / std::sqrt(a), 2 / std::sqrt(a)};
 }

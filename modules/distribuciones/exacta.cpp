@@ -1,49 +1,34 @@
 #include "modules/distribuciones/exacta.h"
 
-#include <boost/math/special_functions/erf.hpp>
-#include <boost/math/special_functions/gamma.hpp>
+#include "modules/distribuciones/leyes.h"
 
 namespace cuencalia {
 
 namespace {
 
-// Results that do not exist are told by Double and not by exceptions of the library.
-using Politica =
-    boost::math::policies::policy<boost::math::policies::domain_error<boost::math::policies::ignore_error>,
-                                  boost::math::policies::pole_error<boost::math::policies::ignore_error>,
-                                  boost::math::policies::overflow_error<boost::math::policies::ignore_error>,
-                                  boost::math::policies::evaluation_error<boost::math::policies::ignore_error>>;
-constexpr Politica kPolitica;
-
 double ColaReducida(DistribucionExacta::Reducida reducida, double forma, double y, bool superior) {
     switch (reducida) {
         case DistribucionExacta::Reducida::Normal:
-            return boost::math::erfc((superior ? y : -y) / std::numbers::sqrt2, kPolitica) / 2;
+            return ProbabilidadNormal(superior ? -y : y);
         case DistribucionExacta::Reducida::Gumbel:
             return superior ? -std::expm1(-std::exp(-y)) : std::exp(-std::exp(-y));
         case DistribucionExacta::Reducida::Gamma:
             break;
     }
-    if (y <= 0) {
-        return superior ? 1 : 0;
-    }
-    return superior ? boost::math::gamma_q(forma, y, kPolitica) : boost::math::gamma_p(forma, y, kPolitica);
+    return ColaGamma(forma, y, superior);
 }
 
 /// The y that has the probability `cola` in that tail.
 double InversaReducida(DistribucionExacta::Reducida reducida, double forma, double cola, bool superior) {
     switch (reducida) {
-        case DistribucionExacta::Reducida::Normal: {
-            const double z = boost::math::erfc_inv(2 * cola, kPolitica) * std::numbers::sqrt2;
-            return superior ? z : -z;
-        }
+        case DistribucionExacta::Reducida::Normal:
+            return superior ? -CuantilNormal(cola) : CuantilNormal(cola);
         case DistribucionExacta::Reducida::Gumbel:
             return -std::log(superior ? -std::log1p(-cola) : -std::log(cola));
         case DistribucionExacta::Reducida::Gamma:
             break;
     }
-    return superior ? boost::math::gamma_q_inv(forma, cola, kPolitica)
-                    : boost::math::gamma_p_inv(forma, cola, kPolitica);
+    return InversaGamma(forma, cola, superior);
 }
 
 }  // namespace
