@@ -20,7 +20,7 @@ class SegundoPlanoTest : public Mesa {
             Comparacion().bRemuestrear_Click();
         });
     }
-    std::string Avance() { return Comparacion().lblAvance.Caption(); }
+    std::string Avance() { return Comparacion().diseno.lblAvance.Caption(); }
 };
 
 // The window answers while the resampling runs: a click reaches its button, and what was cancelled does not come back.
@@ -28,11 +28,11 @@ TEST_F(SegundoPlanoTest, LaVentanaSigueYCancela) {
     Remuestrear(500);
     EXPECT_EQ(Avance(), "Remuestreando…");
     EXPECT_TRUE(QTest::qWaitFor([this] { return Avance().find(" %") != std::string::npos; }, 60000));
-    Clic(Widget(Comparacion().bCancelar));
+    Clic(Widget(Comparacion().diseno.bCancelar));
     EXPECT_EQ(Avance(), "Remuestreo cancelado");
     Remuestrear(12);
     EXPECT_TRUE(QTest::qWaitFor([this] { return Avance().starts_with("Límites"); }, 60000));
-    EXPECT_EQ(Comparacion().grdDiseno.TextMatrix(2, 0), "   límite inferior 90 %");
+    EXPECT_EQ(Comparacion().diseno.grdDiseno.TextMatrix(2, 0), "   límite inferior 90 %");
 }
 
 // What fails aside of the windows is told as what fails in a handler, after its end; the program goes on.

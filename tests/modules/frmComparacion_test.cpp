@@ -46,78 +46,82 @@ TEST_F(VentanaComparacion, SeAbreConLaSerieDeUnAjuste) {
     });
     app.Pulsar(gumbel.bComparar);
     EsperarSilencio();
-    EXPECT_EQ(F().lblSerie.Caption(),
+    EXPECT_EQ(F().serie.lblSerie.Caption(),
               "Serie de 4 datos de la ventana «Ajuste de una serie de datos a la distribución Gumbel»");
-    EXPECT_EQ(F().grdSerie.TextMatrix(1, 1) + " " + F().grdSerie.TextMatrix(1, 2), "4.0 1.0");
-    const int diseno = Fila(F().grdDiseno, "Gumbel, Momentos ordinarios");
-    EXPECT_EQ(F().grdDiseno.TextMatrix(diseno, 9), "6.55");
-    const int candidato = Fila(F().grdCandidatos, "Gumbel", "Momentos ordinarios");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 12), "µ = 1.919; alfa = 1.0066");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(candidato, 3), "") << "no significance before the resampling";
+    EXPECT_EQ(F().serie.grdSerie.TextMatrix(1, 1) + " " + F().serie.grdSerie.TextMatrix(1, 2), "4.0 1.0");
+    const int diseno = Fila(F().diseno.grdDiseno, "Gumbel, Momentos ordinarios");
+    EXPECT_EQ(F().diseno.grdDiseno.TextMatrix(diseno, 9), "6.55");
+    const int candidato = Fila(F().candidatos.grdCandidatos, "Gumbel", "Momentos ordinarios");
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(candidato, 12), "µ = 1.919; alfa = 1.0066");
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(candidato, 3), "") << "no significance before the resampling";
     // A symmetric series: Pearson III has no greatest likelihood, is no fit, and has no design discharges.
-    const int imposible = Fila(F().grdCandidatos, "Gamma de 3 parámetros", "Máxima verosimilitud");
-    EXPECT_NE(F().grdCandidatos.TextMatrix(imposible, 11).find("no tiene máximo"), std::string::npos);
-    EXPECT_EQ(Fila(F().grdDiseno, "Gamma de 3 parámetros, Máxima verosimilitud"), 0);
+    const int imposible = Fila(F().candidatos.grdCandidatos, "Gamma de 3 parámetros", "Máxima verosimilitud");
+    EXPECT_NE(F().candidatos.grdCandidatos.TextMatrix(imposible, 11).find("no tiene máximo"), std::string::npos);
+    EXPECT_EQ(Fila(F().diseno.grdDiseno, "Gamma de 3 parámetros, Máxima verosimilitud"), 0);
 }
 
 TEST_F(VentanaComparacion, OrdenaRemuestreaYDibuja) {
     Ficha(2);
-    EsperarMensaje(F().bRemuestrear, "Efectuar cálculos antes de remuestrear", kIconoError, "Mensaje de Error");
+    EsperarMensaje(F().diseno.bRemuestrear, "Efectuar cálculos antes de remuestrear", kIconoError, "Mensaje de Error");
     Recibir(LeerColumna("rao_hamed_tippecanoe.csv"));
-    EXPECT_EQ(F().grdCandidatos.Rows(), 30);
-    Elegir(F().cmbOrden, "Anderson-Darling");
+    EXPECT_EQ(F().candidatos.grdCandidatos.Rows(), 30);
+    Elegir(F().candidatos.cmbOrden, "Anderson-Darling");
     for (int f = 2; f < 27; ++f) {
-        EXPECT_LE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 4)), std::stod(F().grdCandidatos.TextMatrix(f, 4)));
+        EXPECT_LE(std::stod(F().candidatos.grdCandidatos.TextMatrix(f - 1, 4)),
+                  std::stod(F().candidatos.grdCandidatos.TextMatrix(f, 4)));
     }
-    const std::string primero = F().grdCandidatos.TextMatrix(1, 0);
+    const std::string primero = F().candidatos.grdCandidatos.TextMatrix(1, 0);
     // A heading is an order too, one without figures is none; the design table follows, and has orders of its own.
     const auto pulsar = [this](FlexGrid& grid, int columna) {
         app.Despachar([&] { grid.Presionar(kBotonIzquierdo, 0, columna); });
     };
-    pulsar(F().grdCandidatos, 6);
-    pulsar(F().grdCandidatos, 12);
-    EXPECT_EQ(F().cmbOrden.Text(), "Correlación");
-    EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(1, 6)), std::stod(F().grdCandidatos.TextMatrix(2, 6)));
+    pulsar(F().candidatos.grdCandidatos, 6);
+    pulsar(F().candidatos.grdCandidatos, 12);
+    EXPECT_EQ(F().candidatos.cmbOrden.Text(), "Correlación");
+    EXPECT_GE(std::stod(F().candidatos.grdCandidatos.TextMatrix(1, 6)),
+              std::stod(F().candidatos.grdCandidatos.TextMatrix(2, 6)));
     Ficha(2);
-    pulsar(F().grdDiseno, 13);
-    for (int f = 2; f < F().grdDiseno.Rows(); ++f) {
-        EXPECT_LE(std::stod(F().grdDiseno.TextMatrix(f - 1, 13)), std::stod(F().grdDiseno.TextMatrix(f, 13)));
+    pulsar(F().diseno.grdDiseno, 13);
+    for (int f = 2; f < F().diseno.grdDiseno.Rows(); ++f) {
+        EXPECT_LE(std::stod(F().diseno.grdDiseno.TextMatrix(f - 1, 13)),
+                  std::stod(F().diseno.grdDiseno.TextMatrix(f, 13)));
     }
-    Elegir(F().cmbOrden, "Anderson-Darling");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(1, 0), primero);
+    Elegir(F().candidatos.cmbOrden, "Anderson-Darling");
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(1, 0), primero);
     // The exponential and the Pareto have data beyond their ends, and come last.
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 4), "∞");
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(29, 11), "Hay datos más allá del extremo de la distribución");
-    EXPECT_EQ(F().Graph1.NumSets(), 2);
-    app.Pulsar(F().bRemuestrear);
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(29, 4), "∞");
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(29, 11), "Hay datos más allá del extremo de la distribución");
+    EXPECT_EQ(F().papel.Graph1.NumSets(), 2);
+    app.Pulsar(F().diseno.bRemuestrear);
     EsperarSilencio();
-    EXPECT_EQ(F().lblAvance.Caption(), "Límites del 90 % y significaciones por 1000 muestras, semilla 1");
-    const int normal = Fila(F().grdDiseno, "Normal, Momentos ordinarios");
-    EXPECT_EQ(F().grdDiseno.TextMatrix(normal + 1, 0), "   límite inferior 90 %");
+    EXPECT_EQ(F().diseno.lblAvance.Caption(), "Límites del 90 % y significaciones por 1000 muestras, semilla 1");
+    const int normal = Fila(F().diseno.grdDiseno, "Normal, Momentos ordinarios");
+    EXPECT_EQ(F().diseno.grdDiseno.TextMatrix(normal + 1, 0), "   límite inferior 90 %");
     for (int c = 1; c <= 13; ++c) {
-        const auto Q = [&](int fila) { return std::stod(F().grdDiseno.TextMatrix(fila, c)); };
+        const auto Q = [&](int fila) { return std::stod(F().diseno.grdDiseno.TextMatrix(fila, c)); };
         EXPECT_LT(Q(normal + 1), Q(normal));
         EXPECT_LT(Q(normal), Q(normal + 2));
     }
-    EXPECT_EQ(F().Graph1.NumSets(), 4) << "data, curve and two limits";
-    pulsar(F().grdCandidatos, 5);
+    EXPECT_EQ(F().papel.Graph1.NumSets(), 4) << "data, curve and two limits";
+    pulsar(F().candidatos.grdCandidatos, 5);
     for (int f = 2; f < 27; ++f) {
-        EXPECT_GE(std::stod(F().grdCandidatos.TextMatrix(f - 1, 5)), std::stod(F().grdCandidatos.TextMatrix(f, 5)));
+        EXPECT_GE(std::stod(F().candidatos.grdCandidatos.TextMatrix(f - 1, 5)),
+                  std::stod(F().candidatos.grdCandidatos.TextMatrix(f, 5)));
     }
-    Elegir(F().cmbCurva2, "Gumbel, Momentos lineales");
-    EXPECT_EQ(F().Graph1.NumSets(), 5);
+    Elegir(F().papel.cmbCurva2, "Gumbel, Momentos lineales");
+    EXPECT_EQ(F().papel.Graph1.NumSets(), 5);
     const std::vector<double> x = LeerColumna("rao_hamed_tippecanoe.csv");
     const double mayor = *std::max_element(x.begin(), x.end());
     // On log-normal paper the greatest of 48 has z of p = 47.6/48.2, 2.2430, and its decimal logarithm.
-    Elegir(F().cmbPapel, "Log-normal");
-    const GraficoModulo::Conjunto& datos = F().Graph1.Conjuntos()[0];
+    Elegir(F().papel.cmbPapel, "Log-normal");
+    const GraficoModulo::Conjunto& datos = F().papel.Graph1.Conjuntos()[0];
     EXPECT_TRUE(datos.sueltos);
     EXPECT_NEAR(datos.x.at(47)->valor(), 2.243009, 1e-6);
     EXPECT_NEAR(datos.y.at(47)->valor(), std::log10(mayor), 1e-9);
     // Another plotting position measures anew and takes the resampling away.
-    Elegir(F().cmbPosicion, "Weibull");
-    EXPECT_EQ(F().grdDiseno.TextMatrix(2, 0).find("límite"), std::string::npos);
-    EXPECT_EQ(F().lblAvance.Caption(), "");
+    Elegir(F().papel.cmbPosicion, "Weibull");
+    EXPECT_EQ(F().diseno.grdDiseno.TextMatrix(2, 0).find("límite"), std::string::npos);
+    EXPECT_EQ(F().diseno.lblAvance.Caption(), "");
 }
 
 TEST_F(VentanaComparacion, SalenLasTablas) {
@@ -133,8 +137,8 @@ TEST_F(VentanaComparacion, SalenLasTablas) {
     EXPECT_NE(sistema.TextoDelPortapapeles().find("Hay valores que no son mayores que 0"), std::string::npos);
     app.Pulsar(F().bReporte);
     app.Pulsar(F().bLimpiar);
-    EXPECT_EQ(F().grdCandidatos.TextMatrix(1, 0), "");
-    EXPECT_FALSE(F().Graph2.EsVisible());
+    EXPECT_EQ(F().candidatos.grdCandidatos.TextMatrix(1, 0), "");
+    EXPECT_FALSE(F().momentos.Graph2.EsVisible());
     EsperarSilencio();
 }
 
