@@ -19,8 +19,10 @@ class FormaEnUso : public testing::Test {
     explicit FormaEnUso(const std::string& nombre) { Abrir(nombre); }
 
     void Abrir(const std::string& nombre) {
-        nombre_ = nombre;
         app.Despachar([&] { app.ModuloAbrir(nombre); });
+        if (dynamic_cast<Forma*>(app.Cargada(nombre)) != nullptr) {
+            nombre_ = nombre;
+        }
     }
     Forma& F() { return dynamic_cast<Forma&>(*app.Cargada(nombre_)); }
 
