@@ -158,13 +158,6 @@ TEST_F(Archivos, Series) {
         fs::resize_file(ruta, static_cast<std::uintmax_t>(largo));  // zeros that take no room
         EXPECT_EQ(NumeroDeError([&] { return LectorSerie(ruta, 4).Registros(); }), error) << largo;
     }
-    const auto largo = fs::file_size(Guardar(ruta, bytes));
-    const DiscoDe disco(6);
-    EscritorSerie archivo(ruta, 1);
-    archivo.Escribir(valores);
-    archivo.Escribir(valores);
-    EXPECT_EQ(NumeroDeError([&] { archivo.Publicar(); }), 61);
-    EXPECT_EQ(fs::file_size(ruta), largo) << "a full disk leaves the old one";
 }
 
 }  // namespace

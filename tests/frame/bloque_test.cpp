@@ -12,29 +12,15 @@ TEST(BloqueTest, NumerosConCadaSignoDecimal) {
         const char* celda;
         const char *conPunto, *conComa;  ///< Empty: no number.
     };
+    // clang-format off
     static constexpr Caso kCasos[] = {
-        {"12", "12", "12"},
-        {"12.5", "12.5", ""},
-        {"12,5", "", "12.5"},
-        {"1.234", "1.234", "1234"},
-        {"1,234", "1234", "1.234"},
-        {"1.234,5", "", "1234.5"},
-        {"1,234,567.25", "1234567.25", ""},
-        {"1.234.567", "", "1234567"},
-        {"1 234,5", "", "1234.5"},
-        {"1\u00A0234\u202F567", "1234567", "1234567"},
-        {"12 34", "", ""},
-        {"1234,567", "", "1234.567"},
-        {"-.5", "-.5", ""},
-        {"+7,", "", "7."},
-        {"\u22123,2", "", "-3.2"},
-        {"1.5E+3", "1.5e+3", ""},
-        {"1e", "", ""},
-        {"", "", ""},
-        {".", "", ""},
-        {"n/d", "", ""},
-        {"2024-01-05", "", ""},
-    };
+        {"12", "12", "12"}, {"12.5", "12.5", ""}, {"12,5", "", "12.5"}, {"1.234", "1.234", "1234"},
+        {"1,234", "1234", "1.234"}, {"1.234,5", "", "1234.5"}, {"1,234,567.25", "1234567.25", ""},
+        {"1.234.567", "", "1234567"}, {"1 234,5", "", "1234.5"}, {"1\u00A0234\u202F567", "1234567", "1234567"},
+        {"12 34", "", ""}, {"1234,567", "", "1234.567"}, {"-.5", "-.5", ""}, {"+7,", "", "7."},
+        {"\u22123,2", "", "-3.2"}, {"1.5E+3", "1.5e+3", ""}, {"1e", "", ""}, {"", "", ""}, {".", "", ""},
+        {"n/d", "", ""}, {"2024-01-05", "", ""}};
+    // clang-format on
     for (const Caso& caso : kCasos) {
         EXPECT_EQ(LeerNumero(caso.celda, SignoDecimal::Punto).value_or(""), caso.conPunto) << caso.celda;
         EXPECT_EQ(LeerNumero(caso.celda, SignoDecimal::Coma).value_or(""), caso.conComa) << caso.celda;
@@ -55,17 +41,12 @@ TEST(BloqueTest, UnBloqueDejaUnaLecturaONo) {
         std::size_t encabezados;
         char signo;  ///< '?': both are possible.
     };
+    // clang-format off
     static constexpr Caso kCasos[] = {
-        {"Año\tQ\n(-)\t(m3/s)\n1998\t1.5\n", 2, '.'},
-        {"1.234\n2,5\n", 0, ','},
-        {"1,234\n2,500\n", 0, '?'},
-        {"1.234\n7\n", 0, '?'},
-        {"1.234,5\n1.234\n", 0, ','},
-        {"1\n2\n", 0, '.'},
-        {"n/d\nx\n", 0, '.'},
-        {"1.5\n2,5\n1.234\n", 0, '?'},
-        {"0,0\n", 0, ','},
-    };
+        {"Año\tQ\n(-)\t(m3/s)\n1998\t1.5\n", 2, '.'}, {"1.234\n2,5\n", 0, ','}, {"1,234\n2,500\n", 0, '?'},
+        {"1.234\n7\n", 0, '?'}, {"1.234,5\n1.234\n", 0, ','}, {"1\n2\n", 0, '.'}, {"n/d\nx\n", 0, '.'},
+        {"1.5\n2,5\n1.234\n", 0, '?'}, {"0,0\n", 0, ','}};
+    // clang-format on
     for (const Caso& caso : kCasos) {
         const LecturaBloque lectura = LeerBloque(SepararBloque(caso.texto));
         EXPECT_EQ(lectura.encabezados, caso.encabezados) << caso.texto;

@@ -13,6 +13,7 @@ class FormaConGrafico : public Formulario {
   public:
     explicit FormaConGrafico(Aplicacion& app) : Formulario(app, "frmGrafico", "Gráfico") {}
     GraficoModulo Graph1{*this, "Graph1"};
+    Label lblX{*this, "lblX"}, lblY{*this, "lblY"};
 };
 
 using Valores = std::vector<std::optional<Double>>;
@@ -47,13 +48,15 @@ TEST_F(GraficoTest, AutoIncRecorrePuntosYConjuntos) {
     EXPECT_EQ(X(1), (Valores{10, 20}));
     EXPECT_EQ(X(2), (Valores{30, std::nullopt}));
     EXPECT_EQ(Error([&] { G.PonerGraphData(7); }), 5) << "there is no fourth set";
-    G.PonerThisSet(2);
+    G.PonerThisSet(1);
     G.PonerThisPoint(2);
     for (const int y : {7, 8}) {
         G.PonerGraphData(y);
     }
-    EXPECT_EQ(Y(2), (Valores{3, 7})) << "it goes on from the point chosen";
-    EXPECT_EQ(Y(3), (Valores{8, 6}));
+    G.PonerXPosData(40);
+    EXPECT_EQ(Y(1), (Valores{1, 7})) << "it goes on from the point chosen";
+    EXPECT_EQ(Y(2), (Valores{8, 4}));
+    EXPECT_EQ(X(1), (Valores{10, 40}));
 }
 
 TEST_F(GraficoTest, SinAutoIncSeEscribeElPuntoElegido) {
@@ -72,8 +75,10 @@ TEST_F(GraficoTest, SinAutoIncSeEscribeElPuntoElegido) {
     }
     EXPECT_EQ(Error([&] { G.PonerNumPoints(0); }), 5);
     EXPECT_EQ(Error([&] { G.PonerNumSets(0); }), 5);
+    G.PonerLegendText("vieja");
     G.PonerNumPoints(2);
     G.PonerGraphData(5);
+    EXPECT_EQ(G.Conjuntos()[1].leyenda, "");
     EXPECT_EQ(Y(2), Valores(2)) << "writing the size empties, also when it stays the same";
     EXPECT_EQ(Y(1), (Valores{5, std::nullopt})) << "and begins at the first point";
 }
@@ -91,13 +96,14 @@ TEST_F(GraficoTest, UnConjuntoSinPosicionesTomaLasDelPrimeroOVaDe1AN) {
 }
 
 TEST_F(GraficoTest, UnaSecuenciaDibujaTodosLosGraficos) {
-    EXPECT_FALSE(G.Visible);
+    G.RotularEjes(forma.lblX, forma.lblY);
+    EXPECT_FALSE(G.Visible || forma.lblX.Visible);
     GraficoDibujar(G, {.tipo = kGraficoAreas, .estilo = kSimbolosSueltos, .fondo = 7, .conTrama = true, .titulo = "t"},
                    {{"Exp", {1, 2, 3}, {4, 5, 6}}, {"Ord", {7, 8, 9}, {10, 11, 12}}});
     EXPECT_EQ((std::vector{G.FontUse(), G.GraphType(), G.GraphStyle(), G.Background(), G.BorderStyle(), G.PatternData(),
                            G.AutoInc(), G.DrawMode(), G.NumPoints(), G.NumSets()}),
               (std::vector{4, 8, 1, 7, 1, 2, 1, 2, 3, 2}));
-    EXPECT_TRUE(G.Visible);
+    EXPECT_TRUE(G.Visible && forma.lblX.Visible && forma.lblY.Visible);
     EXPECT_EQ(G.BottomTitle(), "t");
     EXPECT_EQ(G.Conjuntos()[1].leyenda, "Ord");
     EXPECT_EQ(X(2), (Valores{7, 8, 9}));
@@ -109,7 +115,7 @@ TEST_F(GraficoTest, UnaSecuenciaDibujaTodosLosGraficos) {
     EXPECT_EQ(Error([&] { GraficoDibujar(G, {.puntos = 1}, {{"", {}, {3, 4}}}); }), 5) << "no room";
     G.LimpiarGrafico(7);
     EXPECT_EQ((std::vector{G.Background(), G.BorderStyle(), G.DrawMode()}), (std::vector{7, 0, 1}));
-    EXPECT_FALSE(G.Visible);
+    EXPECT_FALSE(G.Visible || forma.lblX.Visible || forma.lblY.Visible);
     G.LimpiarGrafico();
     EXPECT_EQ(G.Background(), 11);
 }

@@ -105,6 +105,7 @@ TEST_F(ReportesTest, CeldasYTablas) {
     for (const auto& [texto, ancho, blancos] : casos) {
         EXPECT_EQ(Relleno(texto, ancho).size(), blancos) << texto;
     }
+    EXPECT_EQ(CeldaBajo({" ab "})("12345", 1, 0), " 12345") << "too long, yet apart from the one before";
     EditorTextoRico documento;
     Formulario forma(app, "f", "f");
     FlexGrid grid(forma, "g");
@@ -142,7 +143,7 @@ TEST_F(ReportesTest, SeAcumulanDondeEstaElCursor) {
     EXPECT_EQ(Texto().Text(), "antes\n" + kVacio + kVacio + "despues");
 
     Elegir(Padre().mnuFileNew);
-    Teclear("nota\n");
+    Teclear("x\bnota\n");
     M().falla = true;
     Reportar();
     EXPECT_EQ(Texto().Text(), "nota\n" + kVacio.substr(0, kVacio.find("fin"))) << "what was written stays";

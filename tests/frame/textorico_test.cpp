@@ -157,13 +157,11 @@ TEST(EditorTextoRico, NoAbreLoQueTardaria) {
         }
         return todo;
     };
-    const std::string documento = "{\\rtf1{\\fonttbl{\\f0 A;}}";
     // clang-format off
     const std::pair<std::string, std::string> casos[] = {
-        {std::string(90'000, '\n'), "largo"}, {std::string(300'000, '\n'), "largo"},
-        {std::string(200'000, 'x'), "palabras"}, {documento + repetir("\\b a\\b0 a", 20'000), "formato"},
-        {documento + repetir("\\b a\\b0 a", 150'000), "largo"}, {documento + repetir("\\par", 300'000), "largo"},
-        {repetir("a\u0644", 25'000), "formato"}, {documento + repetir("{\\b{\\b0", 200'000), "largo"},
+        {std::string(90'000, '\n'), "largo"}, {std::string(200'000, 'x'), "palabras"},
+        {"{\\rtf1" + repetir("\\b a\\b0 a", 20'000), "formato"}, {repetir("a\u0644", 25'000), "formato"},
+        {"{\\rtf1" + repetir("\\b a\\b0 a", 150'000), "largo"}, {"{\\rtf1" + repetir("{\\b{\\b0", 200'000), "largo"},
         {"{\\rtf1{\\colortbl" + std::string(300'000, ';'), "largo"}};
     // clang-format on
     EditorTextoRico editor;

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "tests/hojas/fabrica.h"
 
 namespace cuencalia::pruebas {
@@ -76,13 +78,17 @@ TEST(Xls, TextosPartidosEntreRegistros) {
                               {0x003C, "\0\xEDo"s + "xx"},
                               {0x003C, "xxyyyy"},
                               {0x003C, "y"s + U16(3) + "\0fin"s}};
-    const Registros celdas = {{0x00FD, Celda(0, 0) + U32(0)},    {0x00FD, Celda(0, 1) + U32(1)},
-                              {0x00FD, Celda(0, 2) + U32(2)},    {0x0204, Celda(1, 0) + U16(4) + "\1a\0\x3D\xD8"s},
-                              {0x003C, "\1\x00\xDE"s},           {0x003C, "\0\xF1"s},
-                              {0x0006, Formula(1, 0, 0, 1)},     {0x0207, U16(4) + "\1\x3D\xD8"s},
-                              {0x003C, "\1\x3D\xD8o\0\x00\xDE"s}};
+    const Registros celdas = {{0x00FD, Celda(0, 0) + U32(0)},
+                              {0x00FD, Celda(0, 1) + U32(1)},
+                              {0x00FD, Celda(0, 2) + U32(2)},
+                              {0x0204, Celda(1, 0) + U16(4) + "\1a\0\x3D\xD8"s},
+                              {0x003C, "\1\x00\xDE"s},
+                              {0x003C, "\0\xF1"s},
+                              {0x0006, Formula(1, 0, 0, 1)},
+                              {0x0207, U16(5) + "\1\x3D\xD8"s},
+                              {0x003C, "\1\x3D\xD8o\0\x00\xDE\x3D\xD8"s}};
     EXPECT_EQ(Leer(LibroDe(celdas, textos), 3),
-              (Filas{{"abcd", "río", "fin"}, {"a😀ñ", "\ufffd\ufffdo\ufffd", kVacia}}));
+              (Filas{{"abcd", "río", "fin"}, {"a😀ñ", "\ufffd\ufffdo\ufffd\ufffd", kVacia}}));
 }
 
 TEST(Xls, LibroDeExcel5) {
@@ -109,6 +115,13 @@ TEST(Xls, LaPrimeraHojaDeCalculo) {
     const std::string otro = LibroBiff({{0, Numero(0, 2)}}) + std::string(5000, '\0');
     EXPECT_EQ(Leer(Ole({{"A", "x"}, {"MBD00/Workbook", otro}, {"Workbook", uno}}), 1), kUno);
     EXPECT_EQ(Leer(Ole({{"A/Workbook", uno}, {"WORKBOOK", otro}}), 1), Filas{{Double(2)}});
+    // The tree of the directory may go to either side.
+    std::string espejo = Ole({{"A", "x"}, {"Workbook", uno}});
+    const std::size_t raiz = espejo.find("R\0o\0o\0t\0"s);
+    for (std::size_t entrada = raiz; entrada < raiz + 3 * 128; entrada += 128) {
+        std::swap_ranges(&espejo[entrada + 68], &espejo[entrada + 72], &espejo[entrada + 72]);
+    }
+    EXPECT_EQ(Leer(espejo, 1), kUno);
 }
 
 TEST(Xls, Rechazos) {
