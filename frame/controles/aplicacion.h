@@ -23,7 +23,6 @@ struct Variables {
     int documentos = 0;         ///< Report documents made since the program started.
     /// What a form keeps beyond its own life, by its name.
     std::map<std::string, std::shared_ptr<void>> recuerdos;
-    int mensajes = 0;  ///< Message boxes shown since the program started.
 };
 
 /// The running program: its forms, the keyboard focus, and Despachar, through which every event comes in.
@@ -92,7 +91,6 @@ class Aplicacion {
     bool Terminada() const { return terminada_; }
 
     void MsgBox(const std::string& texto, Icono icono = kSinIcono, const std::string& titulo = {}) {
-        ++variables_.mensajes;
         plataforma_.MsgBox(texto, icono, titulo);
     }
     void MsgBox(const Aviso& aviso) { MsgBox(aviso.texto, aviso.icono, aviso.titulo); }

@@ -22,6 +22,10 @@ void Control::SetFocus() {
     App().PedirFoco(*this);
 }
 
+std::function<void()> Control::Recordar() {
+    return [this, visible = Visible()] { Visible = visible; };
+}
+
 bool Control::TieneFoco() const { return App().Foco() == this; }
 
 bool Control::EsVisible() const {

@@ -124,12 +124,23 @@ class Control {
     virtual bool MuestraPagina(int /*pagina*/) const { return true; }
     virtual void MostrarPagina(int /*pagina*/) {}
 
+    /// What puts the control back to how it stands now: whether it is shown, and the text or the choice that it holds.
+    virtual std::function<void()> Recordar();
+
     void PonerVista(VistaControl* vista) { vista_ = vista; }
     VistaControl* Vista() const { return vista_; }
     /// Tells the view that the control changed.
     void Notificar() const;
 
   protected:
+    /// Recordar for a control that holds a value besides.
+    template <typename T>
+    std::function<void()> RecordarCon(Propiedad<T>& propiedad) {
+        return [base = Control::Recordar(), &propiedad, valor = propiedad()] {
+            base();
+            propiedad = valor;
+        };
+    }
     /// For the form itself, which no control contains.
     Control(Formulario* propia, std::string nombre) : forma_(propia), nombre_(std::move(nombre)) {}
 

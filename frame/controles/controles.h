@@ -37,6 +37,7 @@ class TextBox : public Control {
     /// Replaces the selection by the character, or inserts it at the insertion point; Backspace, Delete and the arrow
     /// keys edit and move as usual. Ctrl+Z and Ctrl+Y undo and redo what the user wrote since the program set the text.
     void TeclaPorDefecto(int codigo, int caracter) override;
+    std::function<void()> Recordar() override { return RecordarCon(Text); }
     /// Replaces the selection by the first line of a copied text; a number with a decimal comma is written with a
     /// point.
     void Pegar(const std::string& texto);
@@ -85,6 +86,7 @@ class Label : public Control {
     Papel SuPapel() const { return papel_; }
 
     Propiedad<std::string> Caption{*this};
+    std::function<void()> Recordar() override { return RecordarCon(Caption); }
     /// Sets the control that the label names: the label's access key moves the focus to it.
     void Nombra(Control& control) { nombrado_ = &control; }
     Control* Nombrado() const { return nombrado_; }
@@ -117,6 +119,7 @@ class OptionButton : public Control {
 
     Propiedad<std::string> Caption{*this};
     Propiedad<bool> Value;
+    std::function<void()> Recordar() override { return RecordarCon(Value); }
 
     bool AceptaFoco() const override { return true; }
     void TeclaPorDefecto(int codigo, int caracter) override;
@@ -141,6 +144,7 @@ class ComboBox : public Control {
     int ListIndex() const;
     /// Picks an entry as if the user did: sets Text and fires Click.
     void Elegir(int indice);
+    std::function<void()> Recordar() override { return RecordarCon(Text); }
 
     bool AceptaFoco() const override { return true; }
     void TeclaPorDefecto(int codigo, int caracter) override;

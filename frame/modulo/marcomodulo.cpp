@@ -13,6 +13,7 @@ constexpr const char* kVentanaReportes = "frmPadre";
 
 MarcoModulo::MarcoModulo(Aplicacion& app, std::string nombre, const std::string& titulo)
     : Formulario(app, std::move(nombre), titulo) {
+    DeclararInicio(calculado);
     bCalcular.Click.Conectar([this] { bCalcular_Click(); });
     bLimpiar.Click.Conectar([this] { bLimpiar_Click(); });
     bImprimir.Click.Conectar([this] { bImprimir_Click(); });
@@ -65,12 +66,8 @@ void MarcoModulo::AntesDeOrden() {
 }
 
 void MarcoModulo::bCalcular_Click() {
-    const int mensajes = App().Globales().mensajes;
     try {
-        Calcular();
-        if (App().Globales().mensajes == mensajes) {
-            AlCalcular();
-        }
+        EfectuarCalculo();
     } catch (const ErrorEjecucion& error) {
         if (const std::string consejo = Consejo(error); !consejo.empty()) {
             StatusBar1.PonerPanel(kPanelAvisos, consejo);
@@ -79,6 +76,13 @@ void MarcoModulo::bCalcular_Click() {
             throw;
         }
         AlFallar();
+    }
+}
+
+void MarcoModulo::EfectuarCalculo() {
+    if (Calcular()) {
+        calculado = true;
+        AlCalcular();
     }
 }
 
@@ -103,14 +107,29 @@ void MarcoModulo::bReporte_Click() {
     }
 }
 
-void MarcoModulo::LimpiarResultados() {
-    for (Tabla* tabla : tablas_) {
-        tabla->Iniciar();
+void MarcoModulo::Vaciar(Momento momento) {
+    for (const Limpieza& limpieza : limpiezas_) {
+        if (limpieza.momento == Momento::Siempre || limpieza.momento == momento) {
+            limpieza.accion();
+        }
     }
-    for (TextBox* caja : cajas_) {
-        caja->Text = "";
+}
+
+void MarcoModulo::DeclararLimpieza(std::function<void()> accion, Momento momento) {
+    limpiezas_.push_back({momento, std::move(accion)});
+}
+
+void MarcoModulo::DeclararTablas(const std::vector<Tabla*>& tablas) {
+    for (Tabla* tabla : tablas) {
+        tablas_.push_back(tabla);
+        DeclararLimpieza([tabla] { tabla->Iniciar(); });
     }
-    LimpiarOtros();
+}
+
+void MarcoModulo::DeclararGraficos(const std::vector<GraficoModulo*>& graficos, int fondo) {
+    for (GraficoModulo* grafico : graficos) {
+        DeclararLimpieza([grafico, fondo] { grafico->LimpiarGrafico(fondo); });
+    }
 }
 
 void MarcoModulo::DeclararResultados(const std::vector<TextBox*>& cajas) {
@@ -120,8 +139,16 @@ void MarcoModulo::DeclararResultados(const std::vector<TextBox*>& cajas) {
     }
 }
 
-void MarcoModulo::DeclararEntradas(const std::vector<TextBox*>& cajas) {
-    cajas_.insert(cajas_.end(), cajas.begin(), cajas.end());
+void MarcoModulo::DeclararEntradas(const std::vector<TextBox*>& cajas, Momento momento) {
+    for (TextBox* caja : cajas) {
+        DeclararLimpieza([caja] { caja->Text = ""; }, momento);
+    }
+}
+
+void MarcoModulo::DeclararInicio(const std::vector<Control*>& controles) {
+    for (Control* control : controles) {
+        DeclararLimpieza(control->Recordar());
+    }
 }
 
 std::vector<BotonConImagen> MarcoModulo::BotonesResultados() {

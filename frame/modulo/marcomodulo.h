@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "frame/controles/aplicacion.h"
 #include "frame/modulo/avisos.h"
 #include "frame/modulo/tabla.h"
+#include "frame/reportes/grafico.h"
 #include "frame/reportes/reporte.h"
 
 namespace cuencalia {
@@ -36,7 +38,9 @@ class MarcoModulo : public Formulario {
     CommandButton bReporte{*this, "bReporte", "&Reporte", "Generar reporte"};
     CommandButton bCalculadora{*this, "bCalculadora", "Calculadora", "Calculadora científica"};
 
-    bool calculado = false;  ///< Whether results exist for the commands that need them; each module sets it.
+    /// Whether results exist for the commands that need them: set by a calculation that succeeded, gone with the
+    /// results.
+    bool calculado = false;
 
     void Form_Load() override;
 
@@ -53,10 +57,34 @@ class MarcoModulo : public Formulario {
     /// Writes the module's report from its heading on.
     virtual void GenerarReporte(Reporte& reporte) = 0;
 
-    /// Empties the window as if it had just been opened.
-    virtual void LimpiarModulo() { LimpiarResultados(); }
-    /// Empties the result tables and boxes, and whatever else the module clears before it loads data.
-    virtual void LimpiarResultados();
+    /// When something that was declared is emptied.
+    enum class Momento {
+        Siempre,    ///< With the results.
+        AlLimpiar,  ///< When the user empties the window, but not when data are loaded.
+        AlCargar    ///< When data are loaded, but not when the user empties the window.
+    };
+
+    /// Empties the window for the user, and its results before data are loaded: all that the window and its groups of
+    /// controls have declared below, in the order in which they did.
+    virtual void LimpiarModulo() { Vaciar(Momento::AlLimpiar); }
+    virtual void LimpiarResultados() { Vaciar(Momento::AlCargar); }
+
+    /// Declares result tables: their headings are built when the form loads, and they are emptied with the results.
+    void DeclararTablas(const std::vector<Tabla*>& tablas);
+    /// Declares charts: they are hidden with the results, on a background of that colour.
+    void DeclararGraficos(const std::vector<GraficoModulo*>& graficos, int fondo = kFondoPapel);
+    /// Declares boxes that show results: the user cannot edit them, and they are emptied with the results.
+    void DeclararResultados(const std::vector<TextBox*>& cajas);
+    /// Declares boxes that the user fills.
+    void DeclararEntradas(const std::vector<TextBox*>& cajas, Momento momento = Momento::Siempre);
+    /// Declares what goes back with the results to how it stands now: controls, or a variable of the module.
+    void DeclararInicio(const std::vector<Control*>& controles);
+    template <typename T>
+    void DeclararInicio(T& variable) {
+        DeclararLimpieza([&variable, inicio = variable] { variable = inicio; });
+    }
+    /// Declares anything else that is done then.
+    void DeclararLimpieza(std::function<void()> accion, Momento momento = Momento::Siempre);
 
     /// Shows the lit picture of the button, or the normal one.
     void EfectoBoton(CommandButton& boton, bool encendido);
@@ -67,21 +95,16 @@ class MarcoModulo : public Formulario {
     /// Says in the status bar which box holds a text that is not read whole.
     void AntesDeOrden() override;
 
-    virtual void Calcular() = 0;
-    /// Called when Calcular has ended without an error or a message.
+    /// Calculates and shows the results. Returns whether they are those of the data on the window: false when the data
+    /// were refused, after the user was told why.
+    virtual bool Calcular() = 0;
+    /// Runs Calcular, and sets `calculado` when it succeeds.
+    void EfectuarCalculo();
+    /// Called when Calcular has succeeded.
     virtual void AlCalcular() {}
     /// What the user can do about a run-time error that stopped Calcular; empty when nothing is known.
     virtual std::string Consejo(const ErrorEjecucion& /*error*/) const { return {}; }
-    /// Clears what the module has besides result tables and result boxes.
-    virtual void LimpiarOtros() {}
-
-    /// Declares the module's result tables: their headings are built when the form loads, and they are emptied with the
-    /// results.
-    void DeclararTablas(std::vector<Tabla*> tablas) { tablas_ = std::move(tablas); }
-    /// Declares boxes that show results: the user cannot edit them, and they are emptied with the results.
-    void DeclararResultados(const std::vector<TextBox*>& cajas);
-    /// Declares boxes that the user fills; they are emptied with the results too.
-    void DeclararEntradas(const std::vector<TextBox*>& cajas);
+    void Vaciar(Momento momento);
     /// Sets the message shown for a run-time error in Calcular. Without it the error goes on to the program's own
     /// handler.
     void AvisarFallos(Aviso aviso) { fallo_ = std::move(aviso); }
@@ -114,7 +137,11 @@ class MarcoModulo : public Formulario {
     std::vector<BotonNumerado> botones_;
     std::vector<Disposicion> botonesAccion_;
     std::vector<Tabla*> tablas_;
-    std::vector<TextBox*> cajas_;
+    struct Limpieza {
+        Momento momento;
+        std::function<void()> accion;
+    };
+    std::vector<Limpieza> limpiezas_;
     std::optional<Aviso> fallo_;
 };
 

@@ -12,7 +12,9 @@ ModuloCalculo::ModuloCalculo(Aplicacion& app, std::string nombre, DescripcionMod
     : MarcoModulo(app, std::move(nombre), descripcion.titulo),
       datos(*this, StatusBar1, std::move(descripcion.datos)),
       archivos(*this, descripcion.archivo),
-      filasMax_(descripcion.filasMax) {}
+      filasMax_(descripcion.filasMax) {
+    DeclararInicio(calculadaCon_);
+}
 
 void ModuloCalculo::Form_Load() {
     datos.IniciarGrid();
@@ -47,11 +49,6 @@ int ModuloCalculo::FilasMax() const {
         filas = std::min(filas, std::visit([](const auto* matriz) { return matriz->UBound(); }, columna));
     }
     return filas;
-}
-
-void ModuloCalculo::LimpiarResultados() {
-    MarcoModulo::LimpiarResultados();
-    calculadaCon_.reset();
 }
 
 void ModuloCalculo::AntesDeOrden() {
@@ -94,7 +91,7 @@ std::string ModuloCalculo::Consejo(const ErrorEjecucion& error) const {
 
 void ModuloCalculo::LimpiarModulo() {
     datos.IniciarGrid();
-    LimpiarResultados();
+    MarcoModulo::LimpiarModulo();
 }
 
 std::vector<BotonConImagen> ModuloCalculo::BotonesResultados() {

@@ -38,7 +38,6 @@ class ModuloCalculo : public MarcoModulo {
     /// Reads the grid into the module's arrays and sets `n`. Error 9 when the rows exceed an array.
     virtual void CargarMatrices();
     void LimpiarModulo() override;
-    void LimpiarResultados() override;
     void AntesDeOrden() override;
     void DespuesDeEvento() override;
     /// Whether there are data that were neither loaded nor stored as they stand.

@@ -23,6 +23,7 @@ void Tabla::Iniciar(int filas) {
     if (!d.unidades.empty()) {
         PonerFila(1, d.unidades);
     }
+    PonerColumna(0, d.rotulos);
     PonerRowHeight(0, d.altoEncabezado);
     BorderStyle = d.borde;
 }

@@ -18,6 +18,7 @@ struct DescripcionTabla {
     std::vector<ColumnaTabla> columnas;
     int columnasFijas = 0;
     std::vector<std::string> unidades = {};  ///< Second line of headings; empty when there is none.
+    std::vector<std::string> rotulos = {};   ///< Labels of the first rows, in the first column.
     int altoEncabezado = 340;                ///< Twips.
     int borde = 1;
 };

@@ -7,6 +7,12 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoLHV{.valores = 3,
+                                   .rotuloCrear = "Trio valores L,h,v",
+                                   .rotuloAccesar = "Trio valores L,h,V",
+                                   .extension = "*.LHV",
+                                   .registrosDeCola = 1,
+                                   .filasDeCabeza = 1};
 constexpr int kFilasMax = 49;
 constexpr const char* kPatron = "0.0###";
 
@@ -50,21 +56,17 @@ frmAforoCorren::frmAforoCorren(Aplicacion& app)
     txtV.NombreAccesible = "Velocidad";
     Picture1.NombreAccesible = lblEsquema.Caption();
     Graph1.RotularEjes(lblEjeX, lblEjeY);
-    LimpiarOtros();
+    txtho.Text = "0";
+    txtvo.Text = "0";
+    fraVelocidad.Visible = false;
+    optNo.Value = true;
+    DeclararInicio({&txtho, &txtvo, &fraVelocidad, &optNo});
+    DeclararGraficos({&Graph1});
 }
 
 void frmAforoCorren::Form_Load() {
     ModuloCalculo::Form_Load();
     Marcar(txtho);
-}
-
-void frmAforoCorren::LimpiarOtros() {
-    calculado = false;
-    txtho.Text = "0";
-    txtvo.Text = "0";
-    fraVelocidad.Visible = false;
-    optNo.Value = true;
-    Graph1.LimpiarGrafico();
 }
 
 void frmAforoCorren::CargarMatrices() {
@@ -96,7 +98,7 @@ void frmAforoCorren::CalcularPromAltyVel() {
     }
 }
 
-void frmAforoCorren::Calcular() {
+bool frmAforoCorren::Calcular() {
     CargarMatrices();
     CalcularPromAltyVel();
     for (int i = 1; i <= n; ++i) {
@@ -105,10 +107,10 @@ void frmAforoCorren::Calcular() {
     }
     if (Qtotal == 0) {
         App().MsgBox("Ingresar valores adecuados antes de realizar cálculos");
-        return;
+        return false;
     }
     txtQ.Text = Format(Qtotal, kPatron);
-    calculado = true;
+    return true;
 }
 
 void frmAforoCorren::bVelocidad_Click() {

@@ -56,8 +56,7 @@ class frmAforoCorren : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Cuerpo() override;
 
   private:

@@ -38,7 +38,6 @@ class FichaI {
     /// Shows the data grid, as a file is to be loaded into it.
     virtual void MostrarDatos() {}
     /// Clears what the page has besides tables and boxes.
-    virtual void LimpiarOtros() {}
     /// The arrays of the data columns.
     virtual std::vector<ArregloBase<Double>*> Columnas() = 0;
     virtual std::vector<Tabla*> Tablas() { return {}; }

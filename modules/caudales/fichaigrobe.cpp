@@ -6,6 +6,8 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoXMaximas{
+    .rotuloCrear = "Valores de X", .rotuloAccesar = "Valores de X", .extension = "*.X"};
 const std::vector<int> kDuraciones{15, 30, 60, 120, 180, 240};  // minutes
 
 /// An equation fitted to the intensities of short durations of a series of daily maxima.

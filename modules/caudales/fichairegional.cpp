@@ -30,7 +30,6 @@ class FichaIRegional : public FichaI {
     TextBox txtecuacioni;
 
     void MostrarDatos() override;
-    void LimpiarOtros() override { MostrarEcuacion(false); }
     std::vector<ArregloBase<Double>*> Columnas() override { return {&trios.T, &trios.D, &trios.I}; }
     void Reportar(Reporte& reporte) override;
     const char* TituloResultados() const override { return "Resultados de los cálculos:"; }
@@ -71,6 +70,7 @@ FichaIRegional::FichaIRegional(ModuloCalculo& modulo, FichaQ& destino)
     modulo.datos.grdt.Visible = false;
     MostrarEtiquetas(false);
     MostrarEcuacion(false);
+    modulo.DeclararLimpieza([this] { MostrarEcuacion(false); });
     optProvincias.Click.Conectar([this] { optProvincias_Click(); });
     optRegistros.Click.Conectar([this] { optRegistros_Click(); });
 }

@@ -48,15 +48,16 @@ std::vector<std::string> FichaQ::TextosDeDatos() const {
     return textos;
 }
 
-void FichaQ::Calcular() {
+bool FichaQ::Calcular() {
     if (!Exigir(C.caja, Falta("C")) || !Exigir(A.caja, Falta("el área")) || !Exigir(I.caja, Falta("la Imáx")) ||
         (S && !Exigir(S->caja, Falta("la pendiente")))) {
-        return;
+        return false;
     }
     const Double Q = formula_.caudal(Val(C.caja.Text()), Val(I.caja.Text()), Val(A.caja.Text()),
                                      S ? Val(S->caja.Text()) : Double(0));
     Qmax.caja.Text = Format(Q, "0.##0");
     calculadaCon_ = TextosDeDatos();
+    return true;
 }
 
 void FichaQ::Limpiar() {

@@ -25,7 +25,7 @@ class FichaQ {
     Frame fraResultadoQ;
     Campo Qmax;
 
-    void Calcular();
+    bool Calcular();
     void Limpiar();
     /// The three results as they stand, in one line.
     std::string Resumen() const;

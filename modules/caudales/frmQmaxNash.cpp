@@ -29,7 +29,7 @@ frmQmaxNash::frmQmaxNash(Aplicacion& app)
                                   "para un período de retorno de ",
                     .TMinimo = 1,
                     .annosMinimos = 3}) {
-    DeclararTablas({&grddis, &grdTablaQX});
+    DeclararTablas({&grdTablaQX});
     DeclararResultados({&txtSQ, &txtSX, &txtSQX, &txtSQ2, &txtSX2});
     lblSQ.Nombra(txtSQ);
     lblSX.Nombra(txtSX);

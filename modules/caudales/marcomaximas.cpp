@@ -9,6 +9,11 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoQ{.rotuloCrear = "Valores de Q",
+                                 .rotuloAccesar = "Valores Q",
+                                 .extension = "*.Q",
+                                 .registrosDeCola = 1,
+                                 .conHoja = false};
 constexpr const char* kPatron = "#####0.0###";
 
 DescripcionTabla Resultados(const std::vector<ColumnaTabla>& parametros) {
@@ -36,6 +41,7 @@ MarcoMaximas::MarcoMaximas(Aplicacion& app, std::string nombre, DescripcionMaxim
     LeerEn({&x});
     DeclararBotones({});
     DeclararTablas({&grddis});
+    DeclararInicio({&lblIntervalo});
     DeclararEntradas({&txtTdato});
     AvisarFallos(kDatosInadecuados);
     SoloNumero(txtanno, Cifras::Enteras);
@@ -63,10 +69,10 @@ void MarcoMaximas::LeerCola(const std::vector<Registro>& registros) {
     datos.RenumerarGrid();
 }
 
-void MarcoMaximas::Calcular() {
+bool MarcoMaximas::Calcular() {
     if (!Exigir(txtTdato, {"Ingresar el valor correspondiente del período de retorno", kIconoInformacion,
                            "Error por no ingresar T"})) {
-        return;
+        return false;
     }
     CargarMatrices();
     const Estimacion estimacion = Estimar(Val(txtTdato.Text()));
@@ -83,6 +89,7 @@ void MarcoMaximas::Calcular() {
     const std::string desde = Format(Qinf, "0.0#"), hasta = Format(Qsup, "0.0#");
     lblIntervalo.Caption =
         intervalo == desde + " - " + hasta ? "" : "El intervalo va de " + desde + " a " + hasta + " m3/s";
+    return true;
 }
 
 std::string MarcoMaximas::Consejo(const ErrorEjecucion& error) const {

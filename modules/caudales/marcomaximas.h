@@ -61,8 +61,7 @@ class MarcoMaximas : public ModuloCalculo {
     /// The discharge of T years by the n values that CargarMatrices has read.
     virtual Estimacion Estimar(Double T) = 0;
 
-    void Calcular() override;
-    void LimpiarOtros() override { lblIntervalo.Caption = ""; }
+    bool Calcular() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
     std::vector<Disposicion> ZonaResultados() override;
     Disposicion Cuerpo() override;

@@ -30,10 +30,9 @@ class ModuloQmax : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override { fichaQ.Calcular(); }
+    bool Calcular() override { return fichaQ.Calcular(); }
     void AlCalcular() override {}  // the discharge does not come from the grid by itself
     std::string Consejo(const ErrorEjecucion& /*error*/) const override { return {}; }
-    void LimpiarOtros() override { fichaI->LimpiarOtros(); }
     Disposicion Cuerpo() override;
 
   private:

@@ -101,6 +101,8 @@ FichaCandidatos::FichaCandidatos(MarcoModulo& modulo)
                                   {"Observación", 5000},
                                   {"Parámetros", 3400}},
                      .columnasFijas = 1}) {
+    modulo.DeclararTablas({&grdCandidatos});
+    modulo.DeclararInicio({&lblCautela});
     cmbOrden.Editable = false;
     cmbOrden.Text = kOrdenes[0].nombre;
     lblOrden.Nombra(cmbOrden);

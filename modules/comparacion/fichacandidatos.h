@@ -21,7 +21,6 @@ class FichaCandidatos {
     /// Chooses the order by a column of the design discharges; by the name for column 0.
     void OrdenarPorCaudal(int columna);
     void Mostrar(const Comparacion& c);
-    void Limpiar() { lblCautela.Caption = ""; }
     void Reportar(Reporte& reporte);
     /// `ordenes` are buttons beside the list.
     Disposicion Zona(const std::vector<CommandButton*>& ordenes);

@@ -46,6 +46,8 @@ FichaDiseno::FichaDiseno(MarcoModulo& modulo, Comparacion& comparacion)
                 {.filas = 2, .columnas = ColumnasDeDiseno(), .columnasFijas = 1}),
       modulo_(modulo),
       comparacion_(comparacion) {
+    modulo.DeclararTablas({&grdDiseno});
+    modulo.DeclararLimpieza([this] { Limpiar(); });
     cmbNivel.Editable = false;
     cmbNivel.Text = "90";
     txtSemilla.Text = "1";

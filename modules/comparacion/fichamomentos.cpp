@@ -19,6 +19,7 @@ FichaMomentos::FichaMomentos(MarcoModulo& modulo)
       lblTau3(modulo, "lblTau3", "Asimetría lineal tau3 = L3/L2"),
       Graph2(modulo, "Graph2", "Diagrama de momentos lineales") {
     Graph2.RotularEjes(lblTau3, lblTau4);
+    modulo.DeclararGraficos({&Graph2});
 }
 
 void FichaMomentos::Dibujar(const Comparacion& c) {

@@ -45,6 +45,13 @@ FichaPapel::FichaPapel(MarcoModulo& modulo, const Comparacion& comparacion)
         lista->Editable = false;
     }
     Graph1.RotularEjes(lblEjeX, lblEjeY);
+    modulo.DeclararLimpieza([this] {
+        for (ComboBox* lista : {&cmbCurva, &cmbCurva2}) {
+            lista->List = std::vector<std::string>{};
+            lista->Text = "";
+        }
+    });
+    modulo.DeclararGraficos({&Graph1});
     for (ComboBox* lista : {&cmbPapel, &cmbCurva, &cmbCurva2}) {
         lista->Change.Conectar([this] { Dibujar(); });
     }
@@ -67,14 +74,6 @@ void FichaPapel::OfrecerAjustes() {
     };
     elegir(cmbCurva, 1);
     elegir(cmbCurva2, 0);
-}
-
-void FichaPapel::Limpiar() {
-    for (ComboBox* lista : {&cmbCurva, &cmbCurva2}) {
-        lista->List = std::vector<std::string>{};
-        lista->Text = "";
-    }
-    Graph1.LimpiarGrafico();
 }
 
 std::optional<std::size_t> FichaPapel::Elegido(const ComboBox& lista) const {

@@ -25,7 +25,6 @@ class FichaPapel {
     /// Offers the fits of the calculation. A fit that was chosen stays; else the first one is drawn alone.
     void OfrecerAjustes();
     void Dibujar();
-    void Limpiar();
     Disposicion Zona();
 
   private:

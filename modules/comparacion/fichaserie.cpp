@@ -12,11 +12,14 @@ constexpr const char* kSinSerie = "Serie:";
 
 }  // namespace
 
-FichaSerie::FichaSerie(MarcoModulo& modulo)
+FichaSerie::FichaSerie(MarcoModulo& modulo, Comparacion& comparacion)
     : lblSerie(modulo, "lblSerie", kSinSerie, Papel::Nota),
       grdSerie(modulo, "grdSerie", "Serie", {.filas = 2, .columnas = {{"N°", 700}, {"X", 1200}, {"Ordenada", 1200}}}),
       grdPruebas(modulo, "grdPruebas", "Pruebas de la serie",
                  {.filas = 6, .columnas = {{"Prueba", 2800}, {"Estadístico", 1200}, {"p", 900}, {"Resultado", 6500}}}) {
+    modulo.DeclararTablas({&grdSerie, &grdPruebas});
+    modulo.DeclararInicio({&lblSerie});
+    modulo.DeclararInicio(comparacion);
 }
 
 void FichaSerie::Mostrar(const Comparacion& c) {
@@ -31,8 +34,6 @@ void FichaSerie::Mostrar(const Comparacion& c) {
         grdPruebas.PonerFila(++fila, {p.nombre, Numero(p.estadistico, "0.0000"), Numero(p.p, "0.0000"), p.sentencia});
     }
 }
-
-void FichaSerie::Limpiar() { lblSerie.Caption = kSinSerie; }
 
 void FichaSerie::Reportar(Reporte& reporte) {
     reporte.ReporteLinea(lblSerie.Caption());

@@ -8,13 +8,13 @@ namespace cuencalia {
 /// The page of the series: as it came and in order, and the tests of whether it is fit for a frequency analysis.
 class FichaSerie {
   public:
-    explicit FichaSerie(MarcoModulo& modulo);
+    /// The window forgets `comparacion` with its results.
+    FichaSerie(MarcoModulo& modulo, Comparacion& comparacion);
 
     Label lblSerie;
     Tabla grdSerie, grdPruebas;
 
     void Mostrar(const Comparacion& c);
-    void Limpiar();
     void Reportar(Reporte& reporte);
     Disposicion Zona();
 };

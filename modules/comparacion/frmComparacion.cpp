@@ -10,7 +10,6 @@ namespace cuencalia {
 
 frmComparacion::frmComparacion(Aplicacion& app) : MarcoModulo(app, "frmComparacion", "Comparación de ajustes") {
     SSTab1.NombreAccesible = "Partes de la comparación";
-    DeclararTablas(Tablas());
     DeclararBotones({}, {{&bCrearExcel, "crear_excel"}});
     diseno.alRemuestrear = [this] {
         Ordenar();
@@ -21,7 +20,7 @@ frmComparacion::frmComparacion(Aplicacion& app) : MarcoModulo(app, "frmComparaci
     diseno.bRemuestrear.Click.Conectar([this] { bRemuestrear_Click(); });
     papel.cmbPosicion.Change.Conectar([this] {
         if (calculado) {
-            Calcular();
+            EfectuarCalculo();
         }
     });
     bCrearExcel.Click.Conectar([this] { bCrearExcel_Click(); });
@@ -32,34 +31,25 @@ void frmComparacion::RecibirSerie(const std::string& origen, std::vector<double>
     LimpiarResultados();
     comparacion_.origen = origen;
     comparacion_.serie = std::move(suya);
-    Calcular();
+    EfectuarCalculo();
 }
 
-void frmComparacion::LimpiarOtros() {
-    calculado = false;
-    serie.Limpiar();
-    candidatos.Limpiar();
-    diseno.Limpiar();
-    comparacion_ = {};
-    papel.Limpiar();
-    momentos.Graph2.LimpiarGrafico();
-}
-
-void frmComparacion::Calcular() {
+bool frmComparacion::Calcular() {
     if (comparacion_.serie.empty()) {
         App().MsgBox("No hay serie: abrir la comparación desde la ventana de un ajuste con datos", kIconoInformacion,
                      "Comparación de ajustes");
-        return;
+        return false;
     }
     diseno.Limpiar();
     comparacion_.ordenada = comparacion_.serie;
     std::sort(comparacion_.ordenada.begin(), comparacion_.ordenada.end());
     comparacion_.comparados = Comparar(comparacion_.ordenada, papel.Posicion());
     serie.Mostrar(comparacion_);
-    calculado = true;
+    calculado = true;  // the order asks for it
     Ordenar();
     papel.OfrecerAjustes();
     momentos.Dibujar(comparacion_);
+    return true;
 }
 
 void frmComparacion::Ordenar() {

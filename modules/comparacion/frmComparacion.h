@@ -22,7 +22,7 @@ class frmComparacion : public MarcoModulo, public RecibeSerie {
   public:
     SSTab SSTab1{
         *this, "SSTab1", {"Serie", "Candidatos", "Caudales de diseño", "Papel de probabilidad", "Momentos lineales"}};
-    FichaSerie serie{*this};
+    FichaSerie serie{*this, comparacion_};
     FichaCandidatos candidatos{*this};
     FichaDiseno diseno{*this, comparacion_};
     FichaPapel papel{*this, comparacion_};
@@ -37,8 +37,7 @@ class frmComparacion : public MarcoModulo, public RecibeSerie {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Cuerpo() override;
 
   private:

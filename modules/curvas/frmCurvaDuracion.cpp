@@ -8,6 +8,8 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoCD{
+    .rotuloCrear = "Valores de caudales Q", .rotuloAccesar = "Valores de caudales Q", .extension = "*.CD"};
 constexpr int kFilasMax = 499;
 const Aviso kPInadecuada{"Ingresar un valor adecuado para la probabilidad", kIconoInformacion,
                          "Error de ingreso de dato"};
@@ -36,6 +38,8 @@ frmCurvaDuracion::frmCurvaDuracion(Aplicacion& app)
     Label8.Nombra(txtxq);
     fraTipoGrafico.Visible = false;
     LimpiarEtiqueta();
+    DeclararInicio({&fraTipoGrafico, &lblPorcentaje, &lblQ, &lblQQm});
+    DeclararGraficos({&Graph1});
 }
 
 void frmCurvaDuracion::LimpiarEtiqueta() {
@@ -44,14 +48,7 @@ void frmCurvaDuracion::LimpiarEtiqueta() {
     }
 }
 
-void frmCurvaDuracion::LimpiarOtros() {
-    fraTipoGrafico.Visible = false;
-    calculado = false;
-    LimpiarEtiqueta();
-    Graph1.LimpiarGrafico();
-}
-
-void frmCurvaDuracion::Calcular() {
+bool frmCurvaDuracion::Calcular() {
     CargarMatrices();
     Qord = Q;
     const Double Qm = Media(Q, n);
@@ -67,7 +64,7 @@ void frmCurvaDuracion::Calcular() {
             i, {Format(curva.Q(i), "#####0.0###"), Format(Qadi(i), "#####0.0###"), Format(curva.Prob(i), "#####0.0#")},
             2);
     }
-    calculado = true;
+    return true;
 }
 
 void frmCurvaDuracion::bQ_Click() {

@@ -45,8 +45,7 @@ class frmCurvaDuracion : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:

@@ -8,6 +8,8 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoVE{
+    .rotuloCrear = "Valores mensuales de X", .rotuloAccesar = "Valores mensuales de X", .extension = "*.VE"};
 constexpr int kMeses = 12;
 
 /// The probabilities of the table, with their names in the chart.
@@ -32,15 +34,11 @@ frmVariacionEsta::frmVariacionEsta(Aplicacion& app)
     DeclararBotones({{&bGraficar, "graficar"}});
     DeclararTablas({&grddis});
     DeclararResultados({&txtnanos});
+    DeclararGraficos({&Graph1}, kFondoGris);
     AvisarFallos(kDatosInadecuados);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     Label4.Nombra(txtnanos);
     Graph1.RotularEjes(lblEjeX, lblEjeY);
-}
-
-void frmVariacionEsta::LimpiarOtros() {
-    calculado = false;
-    Graph1.LimpiarGrafico(kFondoGris);
 }
 
 void frmVariacionEsta::CargarMatrices() {
@@ -71,7 +69,7 @@ bool frmVariacionEsta::TodosPositivos() const {
     return true;
 }
 
-void frmVariacionEsta::Calcular() {
+bool frmVariacionEsta::Calcular() {
     // After a refused series the calculation goes on with the last complete one. Without one there are no years, and
     // the mean of the logarithms fails.
     CargarMatrices();
@@ -81,7 +79,7 @@ void frmVariacionEsta::Calcular() {
     if (!TodosPositivos()) {
         App().MsgBox({"Los valores de la serie no pueden ser iguales a 0, ¡Revisar y corregir valores¡",
                       kIconoInformacion, "Mensaje de error"});
-        return;
+        return false;
     }
     std::array<LogNormalMensual, kMeses> ajustes;
     for (std::size_t m = 0; m < kMeses; ++m) {
@@ -99,7 +97,8 @@ void frmVariacionEsta::Calcular() {
         }
         grddis.PonerFila(mes, fila);
     }
-    calculado = true;
+    calculado = true;  // of the last complete series, too
+    return n == nAnos * kMeses;
 }
 
 void frmVariacionEsta::bGraficar_Click() {

@@ -46,8 +46,7 @@ class frmVariacionEsta : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:

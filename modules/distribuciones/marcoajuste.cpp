@@ -14,7 +14,6 @@ constexpr int kFilasTabla = 500;
 constexpr int kRondasGamma = 1200;  // Gammainversa counts one more when it ends without having settled
 constexpr const char* kPatronParametro = "#####0.0###";
 constexpr const char* kPatronProbabilidad = "#####0.0##0";
-constexpr const char* kAjusteEnReposo = "Ajuste:";
 constexpr const char* kTituloAviso = "Mensaje de Error";
 constexpr const char* kPatronCaudal = "#####0.#0";
 
@@ -64,6 +63,9 @@ MarcoAjuste::MarcoAjuste(Aplicacion& app, std::string nombre, DescripcionAjuste 
                     {{&bQ, "evaluar"}, {&bT, "evaluar"}, {&bPmayor, "evaluar"}, {&bPmenor, "evaluar"}});
     DeclararEntradas({&txtxt, &txtxq});
     DeclararResultados({&txtxp});
+    DeclararGraficos({&Graph1});
+    DeclararInicio({&lblmensaje, &lblDelta5, &lblAjuste});
+    DeclararInicio(advertencia_);
     lblT.Nombra(txtxt);
     lblQ.Nombra(txtxq);
     lblP.Nombra(txtxp);
@@ -86,26 +88,17 @@ void MarcoAjuste::DeclararParametros(ParametrosDeAjuste ordinarios, ParametrosDe
     }
 }
 
-void MarcoAjuste::LimpiarOtros() {
-    calculado = false;
-    lblmensaje.Caption = "";
-    lblDelta5.Caption = "";
-    advertencia_.clear();
-    lblAjuste.Caption = kAjusteEnReposo;
-    Graph1.LimpiarGrafico();
-}
-
-void MarcoAjuste::Calcular() {
+bool MarcoAjuste::Calcular() {
     CargarMatrices();
     if (!AdmiteDatos()) {
-        return;
+        return false;
     }
     for (int i = 1; i <= n; ++i) {
         xo(i) = x(i);
     }
     OrdenarPorSeleccion(xo, n);
     if (!AdmiteSerie()) {
-        return;
+        return false;
     }
     for (int i = 1; i <= n; ++i) {
         PX(i) = PosicionWeibull(i, n);
@@ -115,7 +108,7 @@ void MarcoAjuste::Calcular() {
         MostrarParametros();
     }
     if (!AdmiteParametros()) {
-        return;
+        return false;
     }
     lblAjuste.Caption = Ordinario() ? "Ajuste con momentos ordinarios:" : "Ajuste con momentos lineales:";
     const Probabilidades& teorica = Ordinario() ? Gord : Glin;
@@ -131,10 +124,10 @@ void MarcoAjuste::Calcular() {
     MostrarDelta5();
     datosAjustados_ = n;
     advertencia_.clear();
-    calculado = true;
     if (StatusBar1.Panel(kPanelAvisos) == avisoPuntos_) {
         StatusBar1.PonerPanel(kPanelAvisos, "");
     }
+    return true;
 }
 
 void MarcoAjuste::MostrarParametros() {

@@ -109,8 +109,7 @@ class MarcoAjuste : public ModuloCalculo {
     virtual std::pair<const ArregloBase<Double>&, const ArregloBase<Double>&> Teoricas() const { return {Gord, Glin}; }
     virtual void EscribirVeredicto(Double deltaTeorico, Double deltaTabular, const char* nivel);
 
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:

@@ -8,6 +8,7 @@ namespace cuencalia {
 frmDistriFre::frmDistriFre(Aplicacion& app)
     : ModuloSerie(app, "frmDistriFre", "Cálculo de la distribución de frecuencia de una muestra") {
     DeclararTablas({&grddis});
+    DeclararGraficos({&Graph1});
     DeclararBotones({{&orden.bOrdenar, "ordenar"}, {&bGraficar, "graficar"}});
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     optDensidad.Click.Conectar([this] { optDensidad_Click(); });
@@ -16,13 +17,7 @@ frmDistriFre::frmDistriFre(Aplicacion& app)
     Graph1.RotularEjes(lblMarcaClase, lblFuncion, &lblPorcentaje);
 }
 
-void frmDistriFre::LimpiarOtros() {
-    ModuloSerie::LimpiarOtros();
-    Graph1.LimpiarGrafico();
-    calculado = false;
-}
-
-void frmDistriFre::Calcular() {
+bool frmDistriFre::Calcular() {
     CargarMatrices();
     OrdenarCopia();
     clases = FormarClases(xo, n);
@@ -40,7 +35,7 @@ void frmDistriFre::Calcular() {
             i, {Format(clases.LCI(i), "0.0#"), Format(clases.MCL(i), "0.0#"), Format(clases.LCS(i), "0.0#"),
                 Format(clases.FA(i), "##0"), Format(FR(i), "0.###0"), Format(FD(i), "0.###0"), Format(FAc(i), "0.#0")});
     }
-    calculado = true;
+    return true;
 }
 
 void frmDistriFre::bGraficar_Click() {

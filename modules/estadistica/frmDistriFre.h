@@ -34,8 +34,7 @@ class frmDistriFre : public ModuloSerie {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:

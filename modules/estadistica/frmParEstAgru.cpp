@@ -12,7 +12,7 @@ frmParEstAgru::frmParEstAgru(Aplicacion& app)
     DeclararTablas({&grddis, &grdParam});
 }
 
-void frmParEstAgru::Calcular() {
+bool frmParEstAgru::Calcular() {
     CargarMatrices();
     OrdenarCopia();
     clases = FormarClases(xo, n);
@@ -26,6 +26,7 @@ void frmParEstAgru::Calcular() {
         grddis.PonerFila(i, {Format(clases.LCI(i), "0.0#"), Format(clases.MCL(i), "0.0#"),
                              Format(clases.LCS(i), "0.0#"), Format(clases.FA(i), "##0")});
     }
+    return true;
 }
 
 void frmParEstAgru::GenerarReporte(Reporte& reporte) {

@@ -19,7 +19,7 @@ class frmParEstAgru : public ModuloSerie {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 };
 

@@ -33,12 +33,12 @@ frmParamEsta::frmParamEsta(Aplicacion& app)
     lblL4.Nombra(txtL4);
 }
 
-void frmParamEsta::Calcular() {
+bool frmParamEsta::Calcular() {
     CargarMatrices();
     if (n <= 1) {
         App().MsgBox("Para el cálculo de los parámetros se requieren por lo menos dos datos", kIconoError, "Error");
         datos.MenorQue2Celdas();
-        return;
+        return false;
     }
     // All results are computed before any is shown, so that an error leaves the window unchanged.
     const std::vector<std::string> pm = Textos(ParametrosMuestrales(x, n));
@@ -55,6 +55,7 @@ void frmParamEsta::Calcular() {
     grdParam.PonerColumna(1, pm);
     grdParam.PonerColumna(2, pp);
     grdParam.PonerColumna(3, pl);
+    return true;
 }
 
 void frmParamEsta::GenerarReporte(Reporte& reporte) {

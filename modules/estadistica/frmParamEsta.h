@@ -20,7 +20,7 @@ class frmParamEsta : public ModuloSerie {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 };
 

@@ -9,7 +9,7 @@ ListaOrdenada::ListaOrdenada(Formulario& forma)
       lblOrdenado(forma, "lblOrdenado", "Datos ordenados:", Papel::Encabezado),
       grdorden(forma, "grdorden", "Datos ordenados",
                {.filas = 1, .columnas = {{"N°", 700}, {"X", 1800}}, .columnasFijas = 1}) {
-    OcultarGrid();
+    PonerVisible(false);
 }
 
 void ListaOrdenada::PonerVisible(bool visible) {

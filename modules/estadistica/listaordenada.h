@@ -17,7 +17,6 @@ class ListaOrdenada {
     Tabla grdorden;
 
     void MostrarGrid() { PonerVisible(true); }
-    void OcultarGrid() { PonerVisible(false); }
     /// Fills the list with the first n values of the sorted series.
     void Llenar(const ArregloBase<Double>& ordenada, int n);
 

@@ -8,6 +8,7 @@ ModuloSerie::ModuloSerie(Aplicacion& app, std::string nombre, std::string titulo
     : ModuloCalculo(app, std::move(nombre),
                     {.titulo = std::move(titulo), .datos = {.encabezados = {"N°", "X"}}, .archivo = &kArchivoX}) {
     LeerEn({&x});
+    DeclararInicio({&orden.grdorden, &orden.lblOrdenado});
     orden.bOrdenar.Click.Conectar([this] { bOrdenar_Click(); });
 }
 

@@ -21,8 +21,6 @@ class ModuloSerie : public ModuloCalculo {
     void bOrdenar_Click();
 
   protected:
-    void LimpiarOtros() override { orden.OcultarGrid(); }
-
     /// Sorts a copy of the series that CargarMatrices read last.
     void OrdenarCopia();
 };

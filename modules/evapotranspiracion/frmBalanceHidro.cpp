@@ -6,12 +6,19 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoTP{.valores = 2,
+                                  .rotuloCrear = "Temperaturas y precipitación TP",
+                                  .rotuloAccesar = "Temperaturas y precipitación TP",
+                                  .extension = "*.TP"};
 constexpr int kFilas = 7;  // of results; the table has room for more
 constexpr int kColumnaAno = 13;
 constexpr int kReglaDatos = 65, kReglaBalance = 165;  // dashes
 
 DescripcionTabla TablaDelBalance() {
-    DescripcionTabla tabla{.filas = 15, .columnas = {{"", 900}}, .columnasFijas = 1};
+    DescripcionTabla tabla{.filas = 15,
+                           .columnas = {{"", 900}},
+                           .columnasFijas = 1,
+                           .rotulos = {"T (ºC)", "i", "ETosc(mm)", "facCorrec", "ETo (mm)", "P (mm)", "P-e (mm)"}};
     for (int m = 1; m <= 12; ++m) {
         tabla.columnas.push_back({MesCorto(m), 800});
     }
@@ -47,27 +54,13 @@ frmBalanceHidro::frmBalanceHidro(Aplicacion& app)
     DeclararCorrecciones({&factorF});
     DeclararBotones({{&bGraficar, "graficar"}});
     DeclararResultados({&txta, &txtMesIni});
+    DeclararInicio(T);
+    DeclararInicio(P);
     lbla.Nombra(txta);
     lblMesIni.Nombra(txtMesIni);
 }
 
-void frmBalanceHidro::Form_Load() {
-    ModuloMensual::Form_Load();
-    RotularFilas();
-}
-
-void frmBalanceHidro::RotularFilas() {
-    grddis.PonerColumna(0, {"T (ºC)", "i", "ETosc(mm)", "facCorrec", "ETo (mm)", "P (mm)", "P-e (mm)"});
-}
-
-void frmBalanceHidro::LimpiarOtros() {
-    ModuloMensual::LimpiarOtros();
-    RotularFilas();
-    T = {};
-    P = {};
-}
-
-void frmBalanceHidro::Calcular() {
+bool frmBalanceHidro::Calcular() {
     ElegirLatitud();
     CargarMatrices();
     anual = CalcularThornthwaite(T, factorF.Meses());
@@ -82,7 +75,8 @@ void frmBalanceHidro::Calcular() {
                                 Format(factorF(m), "0.0#"), Format(anual.ETrMes(m), "0.0##"), Format(P(m), "0.0#"),
                                 Format(PmenosE(m), "0.0#")});
     }
-    calculado = true;
+    calculado = true;  // also when these months were refused, with those read before
+    return DatosLegibles();
 }
 
 std::vector<SerieGrafico> frmBalanceHidro::Curvas() const {

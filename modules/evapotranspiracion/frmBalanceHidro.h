@@ -18,18 +18,13 @@ class frmBalanceHidro : public ModuloMensual {
     Thornthwaite anual;
     DoceSingle PmenosE;  ///< mm
 
-    void Form_Load() override;
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     std::vector<SerieGrafico> Curvas() const override;
     std::string RotuloDeMes(int mes) const override { return std::to_string(mes); }
     Disposicion Contenido() override;
-
-  private:
-    void RotularFilas();
 };
 
 }  // namespace cuencalia

@@ -9,6 +9,10 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoTB{.rotuloCrear = "Temperaturas mensuales TB",
+                                  .rotuloAccesar = "Temperaturas mensuales TB",
+                                  .extension = "*.TB",
+                                  .patronArchivo = "0.0#"};
 struct Cultivo {
     const char *nombre, *Kc;
 };
@@ -63,6 +67,10 @@ frmBlaneyCriddle::frmBlaneyCriddle(Aplicacion& app)
     Alternar(OptMedido, fraClimaMedido, fraClimaEstimado, txtcn);
     Alternar(optKcEstimado, fraKcEstimado, fraKcTabla, cobKc);
     Alternar(optKcTabla, fraKcTabla, fraKcEstimado, txtKcTabla);
+    DeclararEntradas({&txtcn, &txtchrmin, &txtcv, &txtKcTabla}, Momento::AlLimpiar);
+    for (ComboBox* lista : {&cobLatitud, &cobLatitudNS, &cobInsolacion, &cobHumedad, &cobViento, &cobKc}) {
+        DeclararLimpieza([lista] { lista->Text = ""; }, Momento::AlLimpiar);
+    }
     fraClimaMedido.Visible = false;
     fraKcTabla.Visible = false;
     EncadenarEnter({&txtcn, &txtchrmin, &txtcv}, bCalcular);
@@ -82,16 +90,6 @@ void frmBlaneyCriddle::Alternar(OptionButton& opcion, Frame& marco, Frame& otro,
         marco.Visible = true;
         primero.SetFocus();
     });
-}
-
-void frmBlaneyCriddle::LimpiarModulo() {
-    ModuloMensual::LimpiarModulo();
-    for (TextBox* caja : {&txtcn, &txtchrmin, &txtcv, &txtKcTabla}) {
-        caja->Text = "";
-    }
-    for (ComboBox* lista : {&cobLatitud, &cobLatitudNS, &cobInsolacion, &cobHumedad, &cobViento, &cobKc}) {
-        lista->Text = "";
-    }
 }
 
 bool frmBlaneyCriddle::LeerClima() {
@@ -137,11 +135,11 @@ RectaFao frmBlaneyCriddle::RectaDelMes(int mes) const {
     return RectaDelClima(Estimado() ? insolacion_ : ClaseDeInsolacion(horas_ / Nmax(mes)), humedad_, viento_);
 }
 
-void frmBlaneyCriddle::Calcular() {
+bool frmBlaneyCriddle::Calcular() {
     ElegirLatitud();
     CargarMatrices();
     if (!LeerClima() || !LeerKc()) {
-        return;
+        return false;
     }
     for (int m = 1; m <= 12; ++m) {
         ETo(m) = EToBlaneyCriddle(T(m), pMes(m), RectaDelMes(m));
@@ -152,7 +150,8 @@ void frmBlaneyCriddle::Calcular() {
         grddis.PonerFila(m, {nombreMes(m), Format(T(m), "0.0#"), Format(pMes(m), "0.0#"), Format(ETo(m), "0.0##"),
                              Format(ETr(m), "0.0##"), Format(ETrMes(m), "0.0#")});
     }
-    calculado = true;
+    calculado = true;  // also when these months were refused, with those read before
+    return DatosLegibles();
 }
 
 void frmBlaneyCriddle::GenerarReporte(Reporte& reporte) {

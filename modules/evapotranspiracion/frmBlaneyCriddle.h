@@ -44,10 +44,9 @@ class frmBlaneyCriddle : public ModuloMensual {
     Double Kc;
 
     void GenerarReporte(Reporte& reporte) override;
-    void LimpiarModulo() override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     std::vector<SerieGrafico> Curvas() const override { return {CurvaMensual(ETr)}; }
     Disposicion Contenido() override;
 

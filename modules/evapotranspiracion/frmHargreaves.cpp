@@ -18,6 +18,7 @@ frmHargreaves::frmHargreaves(Aplicacion& app)
            {{"txtETc", "Etc:", "mm/día", " Evapotranspiración del cultivo: ETc = "}, &ResultadoHargreaves::ETc}}) {
     DeclararEntradas(temperaturas.Cajas());
     DeclararResultados(resultados.Cajas());
+    DeclararLimpieza([this] { InicializarDatosKc(); });
     lblKcTabla.Nombra(txtKcTabla);
     optKcEstimado.Click.Conectar([this] { MostrarFuenteKc(true); });
     optKcTabla.Click.Conectar([this] { MostrarFuenteKc(false); });
@@ -87,37 +88,33 @@ bool frmHargreaves::LeerKc() {
     return true;
 }
 
-void frmHargreaves::Calcular() {
+bool frmHargreaves::Calcular() {
     const std::optional<Double> lat = LeerLatitud();
     if (!lat) {
-        return;
+        return false;
     }
     lat_ = *lat;
     TextBox &min = temperaturas.Caja(0), &max = temperaturas.Caja(1);
     if (!Exigir(min, Ingresar("para la temperatura mínima")) || !Exigir(max, Ingresar("para la temperatura máxima"))) {
-        return;
+        return false;
     }
     const Double Tmin = Val(min.Text()), Tmax = Val(max.Text());
     if (!(Tmin < Tmax)) {
         App().MsgBox({"El valor de la temperatura máxima debe ser mayor que el de la temperatura mínima",
                       kIconoInformacion, "Mensaje de error"});
         max.SetFocus();
-        return;
+        return false;
     }
     if (!LeerKc()) {
-        return;
+        return false;
     }
     const Double Ra = InsolacionDe(lat_, Mes()).Ra;
     const Double ETo = EToHargreaves(Ra, Tmin, Tmax);
     resultados.Mostrar({Ra, ETo, Kc * ETo}, "0.0#");
+    return true;
 }
 
 std::string frmHargreaves::Consejo(const ErrorEjecucion& /*error*/) const { return ConsejoDelSol(lat_); }
-
-void frmHargreaves::LimpiarOtros() {
-    MarcoRadiacion::LimpiarOtros();
-    InicializarDatosKc();
-}
 
 void frmHargreaves::GenerarReporte(Reporte& reporte) {
     reporte.ReporteLinea("Datos: ");

@@ -43,9 +43,8 @@ class frmHargreaves : public MarcoRadiacion {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
-    void LimpiarOtros() override;
     Disposicion Cuerpo() override;
 
   private:

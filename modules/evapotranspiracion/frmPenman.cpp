@@ -131,12 +131,13 @@ void frmPenman::LeerDatos() {
     }
 }
 
-void frmPenman::Calcular() {
+bool frmPenman::Calcular() {
     LeerDatos();
     const ResultadoPenman r = EToPenman(datos_);
     for (CamposDe<ResultadoPenman>* grupo : resultados_) {
         grupo->Mostrar(r, kPatron);
     }
+    return true;
 }
 
 std::string frmPenman::Consejo(const ErrorEjecucion& /*error*/) const {

@@ -28,7 +28,7 @@ class frmPenman : public MarcoRadiacion {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
     Disposicion Cuerpo() override;
 

@@ -4,6 +4,15 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoTM{.rotuloCrear = "Temperaturas mensuales TM",
+                                  .rotuloAccesar = "Temperaturas mensuales TM",
+                                  .extension = "*.TM",
+                                  .patronArchivo = "0.0#"};
+
+}  // namespace
+
 frmThornthwaite::frmThornthwaite(Aplicacion& app)
     : ModuloMensual(app, "frmThornthwaite",
                     {.modulo = {.titulo = "Cálculo de la evapotranspiración potencial por el método de Thornthwaite",
@@ -29,7 +38,7 @@ frmThornthwaite::frmThornthwaite(Aplicacion& app)
     lbla.Nombra(txta);
 }
 
-void frmThornthwaite::Calcular() {
+bool frmThornthwaite::Calcular() {
     ElegirLatitud();
     CargarMatrices();
     anual = CalcularThornthwaite(T, factorF.Meses());
@@ -40,7 +49,8 @@ void frmThornthwaite::Calcular() {
             m, {nombreMes(m), Format(T(m), "0.0#"), Format(anual.iMes(m), "0.0##"), Format(anual.ETo(m), "0.0##"),
                 Format(factorF(m), "0.0#"), Format(anual.ETrMes(m), "0.0##"), Format(anual.ETrDia(m), "0.0#")});
     }
-    calculado = true;
+    calculado = true;  // also when these months were refused, with those read before
+    return DatosLegibles();
 }
 
 void frmThornthwaite::GenerarReporte(Reporte& reporte) {

@@ -18,7 +18,7 @@ class frmThornthwaite : public ModuloMensual {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     std::vector<SerieGrafico> Curvas() const override { return {CurvaMensual(anual.ETrDia)}; }
     Disposicion Contenido() override;
 };

@@ -33,6 +33,8 @@ MarcoRadiacion::MarcoRadiacion(Aplicacion& app, std::string nombre, const std::s
         combo->Editable = false;
         combo->Elegir(0);
     }
+    DeclararInicio({&cobNS, &cobMes});
+    DeclararLimpieza([this] { txtLatitud.SetFocus(); });
     txtLatitud.Text = "10";
     lblLatitud.Nombra(txtLatitud);
     lblMes.Nombra(cobMes);
@@ -56,12 +58,6 @@ std::optional<Double> MarcoRadiacion::LeerLatitud() {
 
 std::string MarcoRadiacion::ConsejoDelSol(Double lat) const {
     return SaleYSePone(lat, SolEn(Mes()).declinacion) ? "" : "A esa latitud el sol no sale o no se pone en ese mes";
-}
-
-void MarcoRadiacion::LimpiarOtros() {
-    cobNS.Elegir(0);
-    cobMes.Elegir(0);
-    txtLatitud.SetFocus();
 }
 
 Disposicion MarcoRadiacion::TablaDeDatos(Campos& otros) {

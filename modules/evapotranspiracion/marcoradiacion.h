@@ -38,7 +38,6 @@ class MarcoRadiacion : public MarcoModulo {
     std::string ConsejoDelSol(Double lat) const;
     void Avisar(const std::string& aviso) { StatusBar1.PonerPanel(kPanelAvisos, aviso); }
 
-    void LimpiarOtros() override;
     /// The place and the month, then the other boxes: caption, box and unit of all in one table.
     Disposicion TablaDeDatos(Campos& otros);
 

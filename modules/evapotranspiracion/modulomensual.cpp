@@ -11,6 +11,7 @@ ModuloMensual::ModuloMensual(Aplicacion& app, std::string nombre, DescripcionMen
       faltanMeses_(std::move(descripcion.faltanMeses)),
       fondo_(descripcion.fondo) {
     DeclararTablas({&grddis});
+    DeclararGraficos({&Graph1});
     AvisarFallos(kDatosInadecuados);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     cobLatitud.Text = "10";
@@ -76,11 +77,6 @@ std::string ModuloMensual::Consejo(const ErrorEjecucion& error) const {
     }
     const std::string falta = FaltaEnTablas();
     return falta.empty() ? ModuloCalculo::Consejo(error) : falta;
-}
-
-void ModuloMensual::LimpiarOtros() {
-    calculado = false;
-    Graph1.LimpiarGrafico();
 }
 
 std::string ModuloMensual::RotuloDeMes(int mes) const { return MesCorto(mes); }

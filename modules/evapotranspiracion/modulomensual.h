@@ -56,7 +56,6 @@ class ModuloMensual : public ModuloCalculo {
     Disposicion Latitud();
     Disposicion Grafico();
 
-    void LimpiarOtros() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
 
   private:

@@ -6,6 +6,8 @@ namespace cuencalia {
 
 namespace {
 
+constexpr FormatoSerie kArchivoTH{
+    .valores = 2, .rotuloCrear = "Pares valores T,H", .rotuloAccesar = "Pares valores T,H", .extension = "*.TH"};
 constexpr int kParesMax = 198;  ///< Rows of grdecua below its two headings.
 
 }  // namespace
@@ -23,25 +25,17 @@ frmAnalisisTor::frmAnalisisTor(Aplicacion& app)
     DeclararBotones({{&bGraficar, "graficar"}});
     DeclararTablas({&grdecua});
     DeclararResultados({&txtvI, &txtvD});
+    DeclararGraficos({&Graph1});
     Label6.Nombra(txtvI);
     Label7.Nombra(txtvD);
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     optHistograma.Click.Conectar([this] { optHistograma_Click(); });
     optCurvamasa.Click.Conectar([this] { optCurvamasa_Click(); });
-    OcultarEtiGra();
-}
-
-void frmAnalisisTor::OcultarEtiGra() {
-    lblTiempo.Visible = false;
-    lblPrecipitacion.Visible = false;
-    lblIntensidad.Visible = false;
-    fraTipoGra.Visible = false;
-}
-
-void frmAnalisisTor::LimpiarOtros() {
-    calculado = false;
-    Graph1.Visible = false;
-    OcultarEtiGra();
+    const std::vector<Control*> delGrafico{&lblTiempo, &lblPrecipitacion, &lblIntensidad, &fraTipoGra};
+    for (Control* control : delGrafico) {
+        control->Visible = false;
+    }
+    DeclararInicio(delGrafico);
 }
 
 void frmAnalisisTor::CargarMatrices() {
@@ -49,14 +43,14 @@ void frmAnalisisTor::CargarMatrices() {
     tormenta = AnalizarTormenta(Tpar, Ppar, n);
 }
 
-void frmAnalisisTor::Calcular() {
+bool frmAnalisisTor::Calcular() {
     CargarMatrices();
     if (n <= 1) {
         App().MsgBox("Para el cálculo ingrese por lo menos dos pares de datos", kIconoInformacion, "Error");
         datos.MenorQue2Celdas();
         // A chart then tells that there are too few points, and no longer that there was no calculation.
         calculado = true;
-        return;
+        return false;
     }
     for (int i = 1; i <= n; ++i) {
         grdecua.PonerFila(i + 1, {CStr(i), CStr(Tpar(i)), CStr(tormenta.Tacum(i)), CStr(Ppar(i)),
@@ -64,7 +58,7 @@ void frmAnalisisTor::Calcular() {
     }
     txtvI.Text = Format(tormenta.Imax, "0.0#");
     txtvD.Text = CStr(tormenta.Dmax);
-    calculado = true;
+    return true;
 }
 
 void frmAnalisisTor::bGraficar_Click() {

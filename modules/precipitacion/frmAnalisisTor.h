@@ -44,12 +44,10 @@ class frmAnalisisTor : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:
-    void OcultarEtiGra();
     /// Shows the legend of that axis, reads the grid and returns whether there is something to draw; when not, tells
     /// the user why.
     bool PrepararGrafico(Label& ordenada, Label& otra);

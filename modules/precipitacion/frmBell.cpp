@@ -25,9 +25,9 @@ frmBell::frmBell(Aplicacion& app)
                                      "20 y 50 años"}) {
     DeclararBotones({{&diseno.bGraficar, "graficar"}},
                     {{&bContinuar, "evaluar"}, {&diseno.bImax, "evaluar"}, {&diseno.bCalPreviosIDT, "tabla"}});
-    DeclararTablas({&grdDuracion, &grdImax, &diseno.grdecua, &diseno.grdImaxTD});
-    DeclararEntradas({&txtP2410, &txtPD60T10, &diseno.txtvT, &diseno.txtvD});
-    DeclararResultados({&diseno.txtvI});
+    DeclararTablas({&grdDuracion, &grdImax});
+    DeclararEntradas({&txtP2410, &txtPD60T10});
+    DeclararLimpieza([this] { txtP2410.SetFocus(); });
     SSTab1.NombreAccesible = "Datos y resultados";
     AvisarFallos(kDatosInadecuados);
     lblP2410.Nombra(txtP2410);
@@ -51,24 +51,19 @@ void frmBell::bContinuar_Click() {
     SSTab1.Tab = SSTab1.Tab() + 1;
 }
 
-void frmBell::Calcular() {
+bool frmBell::Calcular() {
     P6010 = CSng(Val(txtPD60T10.Text()));
     if (P6010 == 0) {
         App().MsgBox("Ingresar un valor de la precipitación para D = 60 min y T = 10 años");
         txtPD60T10.SetFocus();
-        return;
+        return false;
     }
     const int n = static_cast<int>(kPeriodos.size());
     const IntensidadesBell bell = CalcularBell(P6010, kDuraciones, kPeriodos);
     const auto rotulo = [](int i) { return CStr(kPeriodos[static_cast<std::size_t>(i - 1)]); };
     LlenarDuraciones(grdDuracion, n, rotulo, bell.P);
     LlenarDuraciones(grdImax, n, rotulo, bell.I);
-    diseno.Ajustar(bell.puntos);
-}
-
-void frmBell::LimpiarOtros() {
-    diseno.Limpiar();
-    txtP2410.SetFocus();
+    return diseno.Ajustar(bell.puntos);
 }
 
 void frmBell::GenerarReporte(Reporte& reporte) {

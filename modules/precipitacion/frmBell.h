@@ -39,8 +39,7 @@ class frmBell : public MarcoModulo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
     Disposicion Cuerpo() override;
 };
 

@@ -23,14 +23,12 @@ frmDyckPeschkeImax::frmDyckPeschkeImax(Aplicacion& app)
       diseno(*this, {}) {
     LeerEn({&P24});
     DeclararBotones({{&diseno.bGraficar, "graficar"}}, {{&diseno.bImax, "evaluar"}, {&diseno.bCalPreviosIDT, "tabla"}});
-    DeclararTablas({&grdDuracion, &grdImax, &grdImaxOrdT, &diseno.grdecua, &diseno.grdImaxTD});
-    DeclararEntradas({&diseno.txtvT, &diseno.txtvD});
-    DeclararResultados({&diseno.txtvI});
+    DeclararTablas({&grdDuracion, &grdImax, &grdImaxOrdT});
     SSTab1.NombreAccesible = "Datos y resultados";
     AvisarFallos(kDatosInadecuados);
 }
 
-void frmDyckPeschkeImax::Calcular() {
+bool frmDyckPeschkeImax::Calcular() {
     CargarMatrices();
     const IntensidadesGrobe grobe = CalcularGrobe(P24, n, kDuraciones);
     LlenarDuraciones(
@@ -42,7 +40,7 @@ void frmDyckPeschkeImax::Calcular() {
     if (n == 0) {
         throw ErrorEjecucion(kDesbordamiento);  // the mean of no logarithms, 0/0
     }
-    diseno.Ajustar(grobe.puntos);
+    return diseno.Ajustar(grobe.puntos);
 }
 
 void frmDyckPeschkeImax::GenerarReporte(Reporte& reporte) {

@@ -29,8 +29,7 @@ class frmDyckPeschkeImax : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override { diseno.Limpiar(); }
+    bool Calcular() override;
     Disposicion Cuerpo() override;
 };
 

@@ -18,16 +18,13 @@ frmIntensidadMax::frmIntensidadMax(Aplicacion& app)
                      .reglaImaxTD = 90}) {
     LeerEn({&trios.T, &trios.D, &trios.I});
     DeclararBotones({{&diseno.bGraficar, "graficar"}}, {{&diseno.bImax, "evaluar"}, {&diseno.bCalPreviosIDT, "tabla"}});
-    DeclararTablas({&diseno.grdecua, &diseno.grdImaxTD});
-    DeclararEntradas({&diseno.txtvT, &diseno.txtvD});
-    DeclararResultados({&diseno.txtvI});
     SSTab1.NombreAccesible = "Datos y resultados";
     AvisarFallos(
         {"Ingresó valores para T, D ó Imax iguales a 0 ó negativos. Estos valores no permiten la correlación "
          "potencial. ¡Hacer la corrección correspondiente!"});
 }
 
-void frmIntensidadMax::Calcular() {
+bool frmIntensidadMax::Calcular() {
     CargarMatrices();
     trios.n = n;
     if (n <= 3) {
@@ -37,9 +34,10 @@ void frmIntensidadMax::Calcular() {
         // The refused fit counts as made: the last equation, or one of intensity 0, can be applied.
         calculado = true;
     } else if (!diseno.Ajustar(trios)) {
-        return;
+        return false;
     }
     diseno.txtvT.SetFocus();
+    return n > 3;
 }
 
 void frmIntensidadMax::GenerarReporte(Reporte& reporte) {

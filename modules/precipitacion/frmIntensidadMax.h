@@ -18,8 +18,7 @@ class frmIntensidadMax : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
-    void LimpiarOtros() override { diseno.Limpiar(); }
+    bool Calcular() override;
     Disposicion Cuerpo() override;
 };
 

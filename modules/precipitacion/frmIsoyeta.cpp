@@ -6,6 +6,16 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoIA{.valores = 2,
+                                  .rotuloCrear = "Pares valores I, A",
+                                  .rotuloAccesar = "Pares valores I, A",
+                                  .extension = "*.IA",
+                                  .registrosDeCola = 1};
+
+}  // namespace
+
 frmIsoyeta::frmIsoyeta(Aplicacion& app)
     : MarcoLluviaMedia(app, "frmIsoyeta",
                        {.metodo = "de las isoyetas",
@@ -33,11 +43,10 @@ void frmIsoyeta::LeerCola(const std::vector<Registro>& registros) {
     txtUltimaIsoyeta.Text = Format(registros[0][0], kPatronEdicionA);
 }
 
-void frmIsoyeta::Calcular() {
-    if (Exigir(txtUltimaIsoyeta,
-               {"Ingresar un valor adecuado para la última isoyeta", kIconoInformacion, "Mensaje de error"})) {
-        MarcoLluviaMedia::Calcular();
-    }
+bool frmIsoyeta::Calcular() {
+    return Exigir(txtUltimaIsoyeta,
+                  {"Ingresar un valor adecuado para la última isoyeta", kIconoInformacion, "Mensaje de error"}) &&
+           MarcoLluviaMedia::Calcular();
 }
 
 Double frmIsoyeta::Promediar() { return PromedioPorAreas(Pm, area, n); }

@@ -29,7 +29,7 @@ class frmIsoyeta : public MarcoLluviaMedia {
 
   protected:
     Double Promediar() override;
-    void Calcular() override;
+    bool Calcular() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
     Disposicion Cuerpo() override;
 };

@@ -4,6 +4,13 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoP{
+    .rotuloCrear = "Valores de precipitación P", .rotuloAccesar = "Valores de precipitación P", .extension = "*.P"};
+
+}  // namespace
+
 frmPromArit::frmPromArit(Aplicacion& app)
     : MarcoLluviaMedia(app, "frmPromArit",
                        {.metodo = "del promedio aritmético",

@@ -4,6 +4,13 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoPA{
+    .valores = 2, .rotuloCrear = "Pares valores P, A", .rotuloAccesar = "Pares valores P, A", .extension = "*.PA"};
+
+}  // namespace
+
 frmThiessen::frmThiessen(Aplicacion& app)
     : MarcoLluviaMedia(app, "frmThiessen",
                        {.metodo = "de Thiessen",

@@ -41,6 +41,12 @@ IntensidadDiseno::IntensidadDiseno(MarcoModulo& modulo, const DescripcionIntensi
     Label6.Nombra(txtvT);
     Label3.Nombra(txtvD);
     Graph1.RotularEjes(lblEjeX, lblEjeY);
+    modulo.DeclararTablas({&grdecua, &grdImaxTD});
+    modulo.DeclararEntradas({&txtvT, &txtvD});
+    modulo.DeclararResultados({&txtvI});
+    modulo.DeclararGraficos({&Graph1});
+    modulo.DeclararInicio({&lblEcuacion});
+    modulo.DeclararInicio(previos);
     SoloNumero(txtvT);
     SoloNumero(txtvD);
     EncadenarEnter({&txtvT, &txtvD}, bImax);
@@ -60,7 +66,6 @@ bool IntensidadDiseno::Ajustar(const PuntosIDT& puntos) {
     ecuacion = ajuste->ecuacion;
     grdecua.PonerAjuste(*ajuste, puntos);
     lblEcuacion.Caption = grdecua.TextoDe(ecuacion);
-    modulo_.calculado = true;
     return true;
 }
 
@@ -119,13 +124,6 @@ void IntensidadDiseno::bGraficar_Click() {
     }
     Graph1.TraerAlFrente();
     GraficoDibujar(Graph1, {.conTrama = true}, curvas);
-}
-
-void IntensidadDiseno::Limpiar() {
-    lblEcuacion.Caption = "";
-    modulo_.calculado = false;
-    previos = false;
-    Graph1.LimpiarGrafico();
 }
 
 void IntensidadDiseno::ReportarImaxTD(Reporte& reporte) {

@@ -18,14 +18,15 @@ MarcoLluviaMedia::MarcoLluviaMedia(Aplicacion& app, std::string nombre, Descripc
     lblPprom.Nombra(txtPprom);
 }
 
-void MarcoLluviaMedia::Calcular() {
+bool MarcoLluviaMedia::Calcular() {
     CargarMatrices();
     if (n == 0) {
         App().MsgBox({descripcion_.avisoVacio, kIconoInformacion, "Mensaje de error"});
         datos.grdt.SetFocus();
-        return;
+        return false;
     }
     txtPprom.Text = Format(Promediar(), "#0.0##");
+    return true;
 }
 
 void MarcoLluviaMedia::GenerarReporte(Reporte& reporte) {

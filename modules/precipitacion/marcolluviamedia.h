@@ -34,7 +34,7 @@ class MarcoLluviaMedia : public ModuloCalculo {
     /// The mean of the n rows that CargarMatrices has read.
     virtual Double Promediar() = 0;
 
-    void Calcular() override;
+    bool Calcular() override;
     Disposicion Contenido() override;
 
   private:

@@ -33,6 +33,11 @@ AplicarEcuacion::AplicarEcuacion(MarcoModulo& modulo, Descripcion descripcion)
         AlPulsarEnter(cajas[i], [this, i] { cajas[i + 1].SetFocus(); });
     }
     AlPulsarEnter(cajas.back(), [this] { opciones.front().Value = true; });
+    // The choice of an equation goes with the value typed for it: with no value it stays, until data are loaded.
+    modulo.DeclararEntradas(Cajas());
+    modulo.DeclararResultados({&txtvyy});
+    modulo.DeclararLimpieza([this] { lblCalculoY.Caption = "Ecuación:"; });
+    modulo.DeclararLimpieza([this] { ApagarOpciones(); }, MarcoModulo::Momento::AlCargar);
     bLimpiarDatos.Click.Conectar([this] { bLimpiarDatos_Click(); });
 }
 

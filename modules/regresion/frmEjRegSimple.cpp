@@ -7,7 +7,8 @@
 namespace cuencalia {
 
 frmEjRegSimple::frmEjRegSimple(Aplicacion& app)
-    : MarcoRegreSimple(app, "frmEjRegSimple", "Cálculos con ecuaciones de Regresión Simple", 3),
+    : MarcoRegreSimple(app, "frmEjRegSimple", "Cálculos con ecuaciones de Regresión Simple", 3,
+                       {"Lineal", "Exponencial", "Potencial"}),
       aplicar(*this, {.rotulo = "Ecuación:",
                       .cajas = {{"txtvxx", "Label6", "Valor de X:"}},
                       .opciones = {{"optLineal", "con ecuación Lineal", "Ecuación Lineal",
@@ -18,32 +19,9 @@ frmEjRegSimple::frmEjRegSimple(Aplicacion& app)
                                     [this](const auto& v) { return Elevar(v[0], bPot) * aPot; }}},
                       .faltaX = "Ingresar un valor adecuado para X"}) {
     DeclararBotones({{&bGraficar, "graficar"}}, {{&aplicar.bLimpiarDatos, "limpiar"}});
-    DeclararEntradas(aplicar.Cajas());
-    DeclararResultados({&aplicar.txtvyy});
     AvisarFallos(
         {"Ingresó valores para X ó Y iguales a 0 ó negativos. Estos valores no permiten la correlación exponencial ni "
          "potencial. ¡Hacer la corrección correspondiente!"});
-}
-
-void frmEjRegSimple::Form_Load() {
-    MarcoRegreSimple::Form_Load();
-    RotularFilas();
-}
-
-void frmEjRegSimple::LimpiarOtros() {
-    MarcoRegreSimple::LimpiarOtros();
-    RotularFilas();
-    aplicar.lblCalculoY.Caption = "Ecuación:";
-}
-
-void frmEjRegSimple::LimpiarModulo() {
-    datos.IniciarGrid();
-    MarcoRegreSimple::LimpiarResultados();
-}
-
-void frmEjRegSimple::LimpiarResultados() {
-    MarcoRegreSimple::LimpiarResultados();
-    aplicar.ApagarOpciones();
 }
 
 void frmEjRegSimple::Ajustar() {

@@ -16,19 +16,11 @@ class frmEjRegSimple : public MarcoRegreSimple {
     Double aExp, bExp;  ///< Y = aExp·bExp^X, of the last fit; 0 when there was none.
     Double aPot, bPot;  ///< Y = aPot·X^bPot, alike.
 
-    void Form_Load() override;
-    /// The choice of an equation goes with the value typed for it: with no value it stays, until data are loaded.
-    void LimpiarModulo() override;
-    void LimpiarResultados() override;
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
     void Ajustar() override;
-    void LimpiarOtros() override;
     Disposicion Contenido() override;
-
-  private:
-    void RotularFilas() { grdecua.PonerColumna(0, {"Lineal", "Exponencial", "Potencial"}); }
 };
 
 }  // namespace cuencalia

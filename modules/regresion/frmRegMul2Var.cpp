@@ -2,6 +2,13 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoXYZ{
+    .valores = 3, .rotuloCrear = "Trio valores X,Y,Z", .rotuloAccesar = "Trio valores X,Y,Z", .extension = "*.XYZ"};
+
+}  // namespace
+
 frmRegMul2Var::frmRegMul2Var(Aplicacion& app)
     : MarcoRegMultiple(
           app, "frmRegMul2Var",

@@ -2,6 +2,15 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoXSY{.valores = 4,
+                                   .rotuloCrear = "Cuartetos valores XS,Y",
+                                   .rotuloAccesar = "Cuartetos valores XS,Y",
+                                   .extension = "*.XSY"};
+
+}  // namespace
+
 frmRegMul3Var::frmRegMul3Var(Aplicacion& app)
     : MarcoRegMultiple(
           app, "frmRegMul3Var",

@@ -39,24 +39,7 @@ MarcoRegMultiple::MarcoRegMultiple(Aplicacion& app, std::string nombre, Descripc
     LeerEn(std::move(columnas));
     bLimpiar.Caption = "Limpiar Pan&talla";
     DeclararBotones({}, {{&aplicar.bLimpiarDatos, "limpiar"}});
-    DeclararEntradas(aplicar.Cajas());
-    DeclararResultados({&aplicar.txtvyy});
     AvisarFallos({descripcion_.fallo});
-}
-
-void MarcoRegMultiple::LimpiarOtros() {
-    calculado = false;
-    aplicar.lblCalculoY.Caption = "Ecuación:";
-}
-
-void MarcoRegMultiple::LimpiarModulo() {
-    datos.IniciarGrid();
-    MarcoRegresion::LimpiarResultados();
-}
-
-void MarcoRegMultiple::LimpiarResultados() {
-    MarcoRegresion::LimpiarResultados();
-    aplicar.ApagarOpciones();
 }
 
 bool MarcoRegMultiple::Ajustar() {

@@ -36,14 +36,10 @@ class MarcoRegMultiple : public MarcoRegresion {
     std::vector<Double> aL;  ///< Coefficients of the last linear fit; 0 when there was none.
     std::vector<Double> aP;  ///< Factor and exponents of the last power fit, alike.
 
-    /// The choice of an equation goes with the values typed for it: with none it stays, until data are loaded.
-    void LimpiarModulo() override;
-    void LimpiarResultados() override;
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
     bool Ajustar() override;
-    void LimpiarOtros() override;
     Disposicion Contenido() override;
 
   private:

@@ -18,18 +18,14 @@ MarcoRegPolinomial::MarcoRegPolinomial(Aplicacion& app, std::string nombre, Desc
     DeclararBotones({{&bGraficar, "graficar"}}, {{&bCalY, "evaluar"}});
     DeclararEntradas({&txtvxx1});
     DeclararResultados({&txtvyy});
+    DeclararGraficos({&Graph1});
+    DeclararLimpieza([this] { lblCalculoY.Caption = "Ecuación:"; });
     txtvxx1.Change.Conectar([this] { txtvyy.Text = ""; });
     bCalY.Click.Conectar([this] { bCalY_Click(); });
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     Graph1.NombrarEjes("X", "Y");
     Label6.Nombra(txtvxx1);
     Label7.Nombra(txtvyy);
-}
-
-void MarcoRegPolinomial::LimpiarOtros() {
-    calculado = false;
-    lblCalculoY.Caption = "Ecuación:";
-    Graph1.Visible = false;
 }
 
 std::vector<Double> MarcoRegPolinomial::Potencias(Double valor) const {

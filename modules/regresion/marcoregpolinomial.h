@@ -40,7 +40,6 @@ class MarcoRegPolinomial : public MarcoRegresion {
 
   protected:
     bool Ajustar() override;
-    void LimpiarOtros() override;
     Disposicion Contenido() override;
 
   private:

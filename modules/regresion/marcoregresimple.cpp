@@ -8,6 +8,13 @@
 
 namespace cuencalia {
 
+namespace {
+
+constexpr FormatoSerie kArchivoXY{
+    .valores = 2, .rotuloCrear = "Pares valores X,Y", .rotuloAccesar = "Pares valores X,Y", .extension = "*.XY"};
+
+}  // namespace
+
 DescripcionModulo ModuloDePares(std::string titulo) {
     return {.titulo = std::move(titulo),
             .datos = {.encabezados = {"Par", "X", "Y"},
@@ -16,23 +23,21 @@ DescripcionModulo ModuloDePares(std::string titulo) {
             .archivo = &kArchivoXY};
 }
 
-MarcoRegreSimple::MarcoRegreSimple(Aplicacion& app, std::string nombre, const std::string& titulo, int ecuaciones)
+MarcoRegreSimple::MarcoRegreSimple(Aplicacion& app, std::string nombre, const std::string& titulo, int ecuaciones,
+                                   std::vector<std::string> rotulos)
     : ModuloCalculo(app, std::move(nombre), ModuloDePares(titulo)),
       grdecua(*this, "grdecua", ecuaciones == 1 ? "Ecuación de ajuste" : "Ecuaciones de ajuste",
               {.filas = ecuaciones + 1,
-               .columnas = {{"Correlación", 1050}, {"Ecuación", 3000}, {"R", 1050}, {"R2", 1050}}}) {
+               .columnas = {{"Correlación", 1050}, {"Ecuación", 3000}, {"R", 1050}, {"R2", 1050}},
+               .rotulos = std::move(rotulos)}) {
     LeerEn({&x, &y});
     DeclararTablas({&grdecua});
+    DeclararGraficos({&Graph1});
     bGraficar.Click.Conectar([this] { bGraficar_Click(); });
     Graph1.NombrarEjes("X", "Y");
 }
 
-void MarcoRegreSimple::LimpiarOtros() {
-    calculado = false;
-    Graph1.Visible = false;
-}
-
-void MarcoRegreSimple::Calcular() {
+bool MarcoRegreSimple::Calcular() {
     CargarMatrices();
     if (n <= 1) {
         App().MsgBox("Para el ajuste a la ecuación se requiere por lo menos dos puntos", kIconoError, "Error");
@@ -43,6 +48,7 @@ void MarcoRegreSimple::Calcular() {
     // The refused fit still sets `calculado`: the user can go on evaluating the equation of the last fit, or one with
     // coefficients 0 if there was none.
     calculado = true;
+    return n > 1;
 }
 
 std::vector<std::string> MarcoRegreSimple::AjustarLinea(const char* patron) {

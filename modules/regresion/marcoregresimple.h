@@ -14,7 +14,9 @@ DescripcionModulo ModuloDePares(std::string titulo);
 /// Curves fitted by the least-squares line through pairs of numbers, or through their logarithms.
 class MarcoRegreSimple : public ModuloCalculo {
   public:
-    MarcoRegreSimple(Aplicacion& app, std::string nombre, const std::string& titulo, int ecuaciones);
+    /// `rotulos` are those of the rows of the table of equations before anything is fitted.
+    MarcoRegreSimple(Aplicacion& app, std::string nombre, const std::string& titulo, int ecuaciones,
+                     std::vector<std::string> rotulos = {});
 
     Tabla grdecua;
     CommandButton bGraficar{*this, "bGraficar", "&Graficar", "Mostrar gráfico"};
@@ -37,8 +39,7 @@ class MarcoRegreSimple : public ModuloCalculo {
     /// A row of the table: name, equation, R and R².
     static std::vector<std::string> FilaDeCurva(const char* nombre, const std::string& ecuacion, Double R);
 
-    void Calcular() override;
-    void LimpiarOtros() override;
+    bool Calcular() override;
 };
 
 }  // namespace cuencalia

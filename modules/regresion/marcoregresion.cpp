@@ -28,7 +28,7 @@ MarcoRegresion::MarcoRegresion(Aplicacion& app, std::string nombre, DescripcionM
     DeclararTablas({&grdecua});
 }
 
-void MarcoRegresion::Calcular() {
+bool MarcoRegresion::Calcular() {
     CargarMatrices();
     if (n < regresion_.k + 2) {
         App().MsgBox(regresion_.rechazo, kIconoError);
@@ -39,10 +39,11 @@ void MarcoRegresion::Calcular() {
         }
     } else if (!Ajustar()) {
         App().MsgBox(kInfinitasSoluciones);
-        return;
+        return false;
     }
     // As with the line, the refused fit sets `calculado` too: the coefficients of the last fit, or 0, can be applied.
     calculado = true;
+    return n >= regresion_.k + 2;
 }
 
 std::vector<std::string> MarcoRegresion::FilaDeEcuacion(const std::string& nombre, const std::string& ecuacion,

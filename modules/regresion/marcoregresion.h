@@ -40,7 +40,7 @@ class MarcoRegresion : public ModuloCalculo {
     /// Writes the data, between rules of `reglaDatos` dashes, and the table of equations.
     void ReportarTablas(Reporte& reporte, const RotulosTabla& rotulosDatos, int reglaDatos,
                         const RotulosTabla& rotulosEcuaciones);
-    void Calcular() override;
+    bool Calcular() override;
     /// The table of equations, which are long, above all the rest.
     Disposicion Cuerpo() override { return Columna({grdecua, ModuloCalculo::Cuerpo().Estira(1)}); }
 

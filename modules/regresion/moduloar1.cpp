@@ -85,6 +85,7 @@ ModuloAR1::ModuloAR1(Aplicacion& app, std::string nombre, const std::string& tit
     datos.lbl1.Visible = false;  // the frame around the grid says the same
     DeclararBotones({{&bGraficar, "graficar"}}, {{&bCrearExcel, "crear_excel"}});
     DeclararTablas({&grdGenerada});
+    DeclararGraficos({&Graph1, &Graph2});
     for (const Campos& campos : {historica.todos, {&c0, &c1, &ro1, &Se}, generada.todos}) {
         DeclararResultados(CajasDe(campos));
     }
@@ -119,27 +120,21 @@ bool ModuloAR1::LeerSerie() {
     return true;
 }
 
-void ModuloAR1::LimpiarOtros() {
-    calculado = false;
-    Graph1.LimpiarGrafico();
-    Graph2.LimpiarGrafico();
-}
-
-void ModuloAR1::Calcular() {
+bool ModuloAR1::Calcular() {
     Avisar("");
     if (!Exigir(txtNgen, {"Para generar la serie sintética debe ingresar el número de años a generar",
                           kIconoInformacion, "Error de datos faltantes"})) {
-        return;
+        return false;
     }
     const bool completa = LeerSerie();
     if (n <= 3) {
         App().MsgBox("Para el cálculo de los parámetros se requieren por lo menos cuatro datos", kIconoError,
                      "Error en número de datos");
         datos.MenorQue4Celdas();
-        return;
+        return false;
     }
     if (!completa) {
-        return;
+        return false;
     }
     const ParametrosEstadisticos muestrales = ParametrosMuestrales(X, n);
     historica.Mostrar(Format(CSng(muestrales.media), kPatronMedia), muestrales);
@@ -155,10 +150,10 @@ void ModuloAR1::Calcular() {
     }
     const ParametrosEstadisticos deGenerada = ParametrosMuestrales(Xgen, Ngen);
     generada.Mostrar(Format(deGenerada.media, kPatronMedia), deGenerada);
-    calculado = true;
     if (!grdGenerada.TextMatrix(Ngen + 1, 0).empty()) {
         Avisar("Se generaron " + std::to_string(Ngen) + " valores: las filas que siguen son de una serie anterior");
     }
+    return true;
 }
 
 std::string ModuloAR1::Consejo(const ErrorEjecucion& error) const {

@@ -78,9 +78,8 @@ class ModuloAR1 : public ModuloCalculo {
     void GenerarReporte(Reporte& reporte) override;
 
   protected:
-    void Calcular() override;
+    bool Calcular() override;
     std::string Consejo(const ErrorEjecucion& error) const override;
-    void LimpiarOtros() override;
     Disposicion Cuerpo() override;
 
   private:

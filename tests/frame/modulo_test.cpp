@@ -54,13 +54,12 @@ class ModuloFichas : public ModuloCalculo {
     void LeerCabeza(const Hoja& hoja) override { txtMargen.Text = Format(std::get<Double>(hoja.Cells(1, 1)), "0.0"); }
 
   protected:
-    void Calcular() override {
+    bool Calcular() override {
         CargarMatrices();
         tabla.PonerFila(2, {"1", Format(1 / Double(t(1)), "0.0")});
         txtr.Text = "listo";
-        calculado = true;
+        return true;
     }
-    void LimpiarOtros() override { calculado = false; }
     Disposicion Cuerpo() override {
         return Fichas(SSTab1, {Columna({txta, txtb, txtr, txtMargen, bExtra, bOtro, tabla}), datos.Zona()});
     }
@@ -85,7 +84,10 @@ class ModuloColumnas : public ModuloCalculo {
     void GenerarReporte(Reporte&) override {}
 
   protected:
-    void Calcular() override { CargarMatrices(); }
+    bool Calcular() override {
+        CargarMatrices();
+        return true;
+    }
 };
 
 class MenuPrueba : public Formulario {

@@ -48,7 +48,7 @@ class ModuloConReporte : public ModuloCalculo {
     }
 
   protected:
-    void Calcular() override {}
+    bool Calcular() override { return true; }
 };
 
 template <typename Forma>

@@ -46,9 +46,10 @@ class FormaGuion : public ModuloCalculo {
 
   protected:
     /// Fails after its first statement.
-    void Calcular() override {
+    bool Calcular() override {
         lblDato.Caption = "antes";
         lblDato.Caption = Double(1) / Double(0) > 0 ? "después" : "nunca";
+        return true;
     }
     Disposicion Contenido() override {
         return Columna({txtDigitos, txtFijo, lblDato, Grupo(FrameO, {opt1, opt2}), cbLatitud, cbFijo, bOculto, bGris,
