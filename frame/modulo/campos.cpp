@@ -47,8 +47,20 @@ void Campos::AgregarA(std::vector<Disposicion>& celdas, int vacias) {
 
 Disposicion Campos::Tabla(int columnas) {
     std::vector<Disposicion> celdas;
-    AgregarA(celdas);
+    if (columnas == 2) {
+        for (Campo& campo : campos_) {
+            celdas.insert(celdas.end(), {campo.rotulo, campo.caja});
+        }
+    } else {
+        AgregarA(celdas);
+    }
     return Pares(columnas, std::move(celdas));
+}
+
+void Campos::Reportar(Reporte& reporte) const {
+    for (const Campo& campo : campos_) {
+        reporte.ReporteLinea(campo.Renglon());
+    }
 }
 
 }  // namespace cuencalia

@@ -8,6 +8,7 @@
 #include "frame/base/textos.h"
 #include "frame/controles/controles.h"
 #include "frame/controles/disposicion.h"
+#include "frame/reportes/reporte.h"
 
 namespace cuencalia {
 
@@ -45,8 +46,10 @@ class Campos {
     std::vector<TextBox*> Cajas();
     /// Caption, box and unit of each, and `vacias` empty cells, behind the cells that a table has already.
     void AgregarA(std::vector<Disposicion>& celdas, int vacias = 0);
-    /// Captions, boxes and units in three columns, or in a multiple of three.
+    /// Captions, boxes and units in three columns, or in a multiple of three; two columns go without units.
     Disposicion Tabla(int columnas = 3);
+    /// The lines of all of them.
+    void Reportar(Reporte& reporte) const;
 
   private:
     std::deque<Campo> campos_;  ///< A control stays where it was made.
@@ -60,17 +63,20 @@ class CamposDe : public Campos {
     struct Fila {
         DescripcionCampo campo;
         Miembro valor;
+        const char* patron = nullptr;  ///< Null: as all the others.
     };
 
     CamposDe(Formulario& forma, const std::vector<Fila>& tabla) : Campos(forma, Descripciones(tabla)) {
         for (const Fila& fila : tabla) {
-            valores_.push_back(fila.valor);
+            valores_.push_back(fila);
         }
     }
 
-    void Mostrar(const Resultado& resultado, const char* patron) {
+    void Mostrar(const Resultado& resultado, const char* patron = "") {
         for (std::size_t i = 0; i < valores_.size(); ++i) {
-            Caja(i).Text = std::visit([&](auto valor) { return Format(resultado.*valor, patron); }, valores_[i]);
+            const Fila& fila = valores_[i];
+            const char* suyo = fila.patron == nullptr ? patron : fila.patron;
+            Caja(i).Text = std::visit([&](auto valor) { return Format(resultado.*valor, suyo); }, fila.valor);
         }
     }
 
@@ -84,7 +90,7 @@ class CamposDe : public Campos {
         return descripciones;
     }
 
-    std::vector<Miembro> valores_;
+    std::vector<Fila> valores_;
 };
 
 }  // namespace cuencalia

@@ -8,35 +8,14 @@ namespace cuencalia {
 
 namespace {
 
-using Campos = std::vector<CampoResultado*>;
-
 constexpr const char* kPatronMedia = "0.##00";
 constexpr int kMenosGenerados = 4;   // fewer have no kurtosis
 constexpr int kMasGenerados = 2950;  // with the warm-up 3000, for which there is room
 
-std::vector<TextBox*> CajasDe(const Campos& campos) {
-    std::vector<TextBox*> cajas;
-    for (CampoResultado* campo : campos) {
-        cajas.push_back(&campo->caja);
-    }
-    return cajas;
-}
-
-Disposicion ParesDe(const Campos& campos) {
-    std::vector<Disposicion> celdas;
-    for (CampoResultado* campo : campos) {
-        celdas.emplace_back(campo->etiqueta);
-        celdas.emplace_back(campo->caja);
-    }
-    return Pares(2, std::move(celdas));
-}
-
 void ReportarCampos(Reporte& reporte, const char* titulo, int regla, const Campos& campos) {
     reporte.Titulo(titulo);
     reporte.LineaDeGuiones(regla);
-    for (const CampoResultado* campo : campos) {
-        reporte.ReporteLinea(campo->enReporte + campo->caja.Text());
-    }
+    campos.Reportar(reporte);
     reporte.ReporteBlanco();
 }
 
@@ -52,27 +31,20 @@ SerieGrafico EnOrdenDeAnos(const Serie& serie, int n) {
 
 }  // namespace
 
-CampoResultado::CampoResultado(Formulario& forma, const std::string& nombre, const char* rotulo, const char* texto)
-    : etiqueta(forma, "lbl" + nombre, rotulo), caja(forma, nombre), enReporte(texto) {
-    etiqueta.Nombra(caja);
-}
-
 CamposParametros::CamposParametros(Formulario& forma, const std::array<const char*, 6>& nombres,
                                    const char* rotuloDesviacion)
-    : media(forma, nombres[0], "Media:", "Media =  "),
-      varianza(forma, nombres[1], "Varianza:", "Varianza = "),
-      desviacion(forma, nombres[2], rotuloDesviacion, "Desviación estandar =  "),
-      Cv(forma, nombres[3], "Coeficiente Variación:", "Coeficiente de variación =  "),
-      sesgo(forma, nombres[4], "Sesgo:", "Sesgo =  "),
-      curtosis(forma, nombres[5], "Curtosis:", "Curtosis =  ") {}
+    : CamposDe(
+          forma,
+          {{{nombres[0], "Media:", "", "Media =  "}, &ParametrosEstadisticos::media, kPatronMedia},
+           {{nombres[1], "Varianza:", "", "Varianza = "}, &ParametrosEstadisticos::varianza, "0.0###"},
+           {{nombres[2], rotuloDesviacion, "", "Desviación estandar =  "}, &ParametrosEstadisticos::desviacion},
+           {{nombres[3], "Coeficiente Variación:", "", "Coeficiente de variación =  "}, &ParametrosEstadisticos::Cv},
+           {{nombres[4], "Sesgo:", "", "Sesgo =  "}, &ParametrosEstadisticos::Cs},
+           {{nombres[5], "Curtosis:", "", "Curtosis =  "}, &ParametrosEstadisticos::Ck}}) {}
 
 void CamposParametros::Mostrar(const std::string& textoMedia, const ParametrosEstadisticos& p) {
-    media.caja.Text = textoMedia;
-    varianza.caja.Text = Format(p.varianza, "0.0###");
-    desviacion.caja.Text = Format(p.desviacion, "0.##00");
-    Cv.caja.Text = Format(p.Cv, "0.##00");
-    sesgo.caja.Text = Format(p.Cs, "0.##00");
-    curtosis.caja.Text = Format(p.Ck, "0.##00");
+    CamposDe::Mostrar(p, "0.##00");
+    Caja(0).Text = textoMedia;
 }
 
 ModuloAR1::ModuloAR1(Aplicacion& app, std::string nombre, const std::string& titulo,
@@ -86,8 +58,9 @@ ModuloAR1::ModuloAR1(Aplicacion& app, std::string nombre, const std::string& tit
     DeclararBotones({{&bGraficar, "graficar"}}, {{&bCrearExcel, "crear_excel"}});
     DeclararTablas({&grdGenerada});
     DeclararGraficos({&Graph1, &Graph2});
-    for (const Campos& campos : {historica.todos, {&c0, &c1, &ro1, &Se}, generada.todos}) {
-        DeclararResultados(CajasDe(campos));
+    for (Campos* campos :
+         {static_cast<Campos*>(&historica), static_cast<Campos*>(&modelo), static_cast<Campos*>(&generada)}) {
+        DeclararResultados(campos->Cajas());
     }
     DeclararEntradas({&txtNgen});
     Label3.Nombra(txtNgen);
@@ -138,12 +111,9 @@ bool ModuloAR1::Calcular() {
     }
     const ParametrosEstadisticos muestrales = ParametrosMuestrales(X, n);
     historica.Mostrar(Format(CSng(muestrales.media), kPatronMedia), muestrales);
-    const ModeloAR1 modelo = transformacion_.ajustar(X, n);
-    c0.caja.Text = Format(modelo.c0, "0.###0");
-    c1.caja.Text = Format(modelo.c1, "0.###0");
-    ro1.caja.Text = Format(modelo.ro1, "0.###0");
-    Se.caja.Text = Format(modelo.Se, "0.###0");
-    Generar(modelo, CInt(Val(txtNgen.Text())));
+    const ModeloAR1 ajustado = transformacion_.ajustar(X, n);
+    modelo.Mostrar(ajustado, "0.###0");
+    Generar(ajustado, CInt(Val(txtNgen.Text())));
     for (int i = 1; i <= Ngen; ++i) {
         grdGenerada.PonerTextMatrix(i, 0, Str(i));
         grdGenerada.PonerTextMatrix(i, 1, Format(Xgen(i), "0.###0"));
@@ -174,12 +144,12 @@ void ModuloAR1::Sembrar() {
     }
 }
 
-void ModuloAR1::Generar(const ModeloAR1& modelo, Integer cuantos) {
+void ModuloAR1::Generar(const ModeloAR1& ajustado, Integer cuantos) {
     const int total = (cuantos + kCalentamiento).valor();
     Arreglo<Double, 1, 3000> Z, Xtotal;
     Sembrar();
     GenerarNormalEstandar(Z, total);
-    GenerarAR1(modelo, Z, total, Xtotal);
+    GenerarAR1(ajustado, Z, total, Xtotal);
     for (int i = 1; i <= cuantos.valor(); ++i) {
         Xtotal(i) = transformacion_.volver(Xtotal(i + kCalentamiento.valor()));
     }
@@ -211,20 +181,18 @@ void ModuloAR1::GenerarReporte(Reporte& reporte) {
     constexpr int kRegla = 45;
     const std::vector<std::string> encabezados{" N°", " X"};
     reporte.EscribirTabla(TablaDeSerie("Serie de datos históricos X:", encabezados, kRegla), datos.grdt, datos.Filas());
-    ReportarCampos(reporte, "Parámetros estadísticos muestrales:", 55, historica.todos);
-    ReportarCampos(reporte, "Parámetros del modelo autorregresivo AR(1):", 65, {&c0, &c1, &ro1, &Se});
+    ReportarCampos(reporte, "Parámetros estadísticos muestrales:", 55, historica);
+    ReportarCampos(reporte, "Parámetros del modelo autorregresivo AR(1):", 65, modelo);
     Reporte::Tabla generados = TablaDeSerie("Serie de datos generados:", encabezados, kRegla);
     generados.reglaFinal = 50;
     reporte.EscribirTabla(generados, grdGenerada, Ngen);
-    ReportarCampos(reporte, "Parámetros estadísticos serie generada:", 60, generada.todos);
+    ReportarCampos(reporte, "Parámetros estadísticos serie generada:", 60, generada);
 }
 
 Disposicion ModuloAR1::Cuerpo() {
     Disposicion ingreso = Grupo(Frame4, {datos.Zona().Estira(1), Label3, txtNgen});
-    Disposicion muestra = Columna(
-        {Grupo(Frame2, {ParesDe(historica.todos)}), Grupo(Frame8, {ParesDe({&c0, &c1, &ro1, &Se})}), Espacio()});
-    Disposicion sintetica =
-        Columna({Grupo(Frame3, {ParesDe(generada.todos)}), Grupo(Frame5, {bCrearExcel}), Espacio()});
+    Disposicion muestra = Columna({Grupo(Frame2, {historica.Tabla(2)}), Grupo(Frame8, {modelo.Tabla(2)}), Espacio()});
+    Disposicion sintetica = Columna({Grupo(Frame3, {generada.Tabla(2)}), Grupo(Frame5, {bCrearExcel}), Espacio()});
     Disposicion generacion =
         Grupo(Frame1, {Fila({Columna({Label23, Disposicion(grdGenerada).Estira(1)}), std::move(sintetica)}).Estira(1)});
     return Fichas(SSTab1,

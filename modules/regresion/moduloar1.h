@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "frame/modulo/campos.h"
 #include "frame/modulo/modulocalculo.h"
 #include "frame/reportes/grafico.h"
 #include "modules/estadistica/momentos.h"
@@ -11,25 +12,13 @@
 
 namespace cuencalia {
 
-/// A result of a module: its label on the window, its box, and the words before it in the report.
-struct CampoResultado {
-    CampoResultado(Formulario& forma, const std::string& nombre, const char* rotulo, const char* enReporte);
-
-    Label etiqueta;
-    TextBox caja;
-    const char* enReporte;
-};
-
 /// The boxes of the six sample parameters of one series.
-struct CamposParametros {
+class CamposParametros : public CamposDe<ParametrosEstadisticos> {
+  public:
     /// `nombres` are those of the boxes.
     CamposParametros(Formulario& forma, const std::array<const char*, 6>& nombres, const char* rotuloDesviacion);
-
     /// `textoMedia` is the mean of `p` as it is shown: that of a series of Singles is a Single with its own digits.
     void Mostrar(const std::string& textoMedia, const ParametrosEstadisticos& p);
-
-    CampoResultado media, varianza, desviacion, Cv, sesgo, curtosis;
-    std::vector<CampoResultado*> todos{&media, &varianza, &desviacion, &Cv, &sesgo, &curtosis};
 };
 
 /// Stochastic generation: fits a first-order autoregressive model to an annual series and generates a synthetic series
@@ -47,8 +36,11 @@ class ModuloAR1 : public ModuloCalculo {
                                {"txtMedia", "txtVarianza", "txtDesviacion", "txtCVar", "txtSesgo", "txtCurtosis"},
                                "Desviación Estandar:"};
     Frame Frame8{*this, "Frame8", "Parámetros para el modelo AR(1):"};
-    CampoResultado c0{*this, "txtc0", "c0:", "c0 = "}, c1{*this, "txtc1", "c1:", "c1 = "};
-    CampoResultado ro1{*this, "txtro1", "ro1:", "ro1 = "}, Se{*this, "txts2e", "Se:", "Se = "};
+    CamposDe<ModeloAR1> modelo{*this,
+                               {{{"txtc0", "c0:", "", "c0 = "}, &ModeloAR1::c0},
+                                {{"txtc1", "c1:", "", "c1 = "}, &ModeloAR1::c1},
+                                {{"txtro1", "ro1:", "", "ro1 = "}, &ModeloAR1::ro1},
+                                {{"txts2e", "Se:", "", "Se = "}, &ModeloAR1::Se}}};
     Frame Frame1{*this, "Frame1", "Generación de serie sintética con modelo AR(1):"};
     Label Label23{*this, "Label23", "Serie generada:", Papel::Encabezado};
     Tabla grdGenerada{*this,
@@ -91,7 +83,7 @@ class ModuloAR1 : public ModuloCalculo {
     /// Seeds the generator by the clock.
     void Sembrar();
     /// Generates `cuantos` values into Xgen. Error 9 for more than 2950, with the warm-up 3000.
-    void Generar(const ModeloAR1& modelo, Integer cuantos);
+    void Generar(const ModeloAR1& ajustado, Integer cuantos);
 
     const TransformacionAR1& transformacion_;
     std::optional<Single> semilla_;
