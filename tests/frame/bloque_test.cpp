@@ -44,7 +44,7 @@ TEST(BloqueTest, UnBloqueDejaUnaLecturaONo) {
     // clang-format off
     static constexpr Caso kCasos[] = {
         {"Año\tQ\n(-)\t(m3/s)\n1998\t1.5\n", 2, '.'}, {"1.234\n2,5\n", 0, ','}, {"1,234\n2,500\n", 0, '?'},
-        {"1.234\n7\n", 0, '?'}, {"1.234,5\n1.234\n", 0, ','}, {"1\n2\n", 0, '.'}, {"n/d\nx\n", 0, '.'},
+        {"1.234\n7\n", 0, '?'}, {"1.234,5\n1.234\n", 0, ','}, {"1\nn/d\n2\n", 0, '.'}, {"n/d\nx\n", 0, '.'},
         {"1.5\n2,5\n1.234\n", 0, '?'}, {"0,0\n", 0, ','}};
     // clang-format on
     for (const Caso& caso : kCasos) {

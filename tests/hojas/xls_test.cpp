@@ -145,7 +145,7 @@ TEST(Xls, Rechazos) {
     // clang-format off
     const std::pair<std::string, std::string> casos[] = {
         {Dato("protegido.xls"), kProtegido}, {Ole({{"EncryptedPackage", "x"}, {"EncryptionInfo", "y"}}), kProtegido},
-        {Ole({{"WordDocument", "x"}}), kNoEsLibro},
+        {Ole({{"WordDocument", "x"}}), kNoEsLibro}, {Ole({{"Workbook/x", "x"}}), kNoEsLibro},
         {Ole({{"MBD00/Workbook", LibroBiff({{0, Numero(0, 1)}})}}), kNoEsLibro}, {enCirculo, kNoEsLibro},
         {sinFin, kDanado},
         {LibroDe({}, {}, 0x0400), "Formato de libro que no se lee; guárdelo como .xlsx o .xls (97-2003)"},
