@@ -1,4 +1,3 @@
-#include "modules/caudales/cuenca.h"
 #include "modules/caudales/intensidadregional.h"
 #include "modules/caudales/macmath.h"
 #include "modules/caudales/moduloqmax.h"
@@ -41,19 +40,6 @@ TEST(IntensidadRegional, SeisEcuaciones) {
         EXPECT_NEAR(ecuacion.Evaluar(25, 30).valor(), std::stod(esperadas[i][1]), 5e-5) << ecuacion.lugar;
         EXPECT_EQ(NumeroDeError([&] { return ecuacion.Evaluar(25, 1); }), ecuacion.logDeLog ? 5 : 0);
     }
-}
-
-TEST(Cuenca, TiempoYPonderacion) {
-    // (1000³/100)^0.385 = 10^2.695 = 495.4502
-    EXPECT_NEAR(TiempoKirpich(1000, 100).valor(), 9.6612786, 1e-6);
-    EXPECT_EQ(NumeroDeError([] { return TiempoKirpich(1000, 0); }), 11);
-    // Each pair has a half as its third digit, and areas that no Single holds.
-    ArregloBase<GrupoSuelo> grupos(1, 2);
-    grupos(1) = {10.1F, 0.35F};
-    grupos(2) = {10.1F, 0.5F};
-    const Ponderacion p = PonderarC(grupos, 2);
-    EXPECT_NEAR(p.C.valor(), 0.425, 1e-15);
-    EXPECT_NEAR(p.area.valor(), 20.2, 1e-14);
 }
 
 class GruposTest : public pruebas::FormaEnUso<ModuloQmax> {

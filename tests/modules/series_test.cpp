@@ -51,8 +51,11 @@ TEST_F(Series, LoQueNoEsFilaVaAlFinalDelArchivo) {
     using Caso = std::tuple<const char*, int, std::vector<float>, Cajas, const char*>;
     const CarpetaTemporal carpeta;
     for (const auto& [forma, porRegistro, valores, cajas, segunda] :
-         {Caso{
-              "frmAforoCorren", 3, {2, 0.75, 0, 4, 1, 0.5, 0, 1.5, 0.25}, {{"txtho", "1.5"}, {"txtvo", "0.25"}}, "4.0"},
+         {Caso{"frmAforoCorren",
+               3,
+               {2, 0.75, 0, 4, 1, 0.5, 0, 1.25, 0.75},
+               {{"txtho", "1.25"}, {"txtvo", "0.75"}},
+               "4.0"},
           Caso{"frmIsoyeta", 2, {10, 0.5, 30, 12.5, 7, 0}, {{"txtUltimaIsoyeta", "7.0"}}, "30.0"},
           Caso{"frmQmaxNash", 1, {100, 250.5, 1998}, {{"txtanno", "1998"}}, "250.5"}}) {
         SCOPED_TRACE(forma);

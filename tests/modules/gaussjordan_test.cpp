@@ -1,7 +1,6 @@
+#include "modules/regresion/gaussjordan.h"
+
 #include "frame/base/textos.h"
-#include "modules/regresion/ecuacionesnormales.h"
-#include "modules/regresion/regresionlineal.h"
-#include "tests/datos_publicados.h"
 #include "tests/numero_de_error.h"
 
 namespace cuencalia {
@@ -40,17 +39,6 @@ TEST(GaussJordan, SolucionesYBusquedaDelPivote) {
         EXPECT_EQ(Resolver(ecuaciones, celdas, BusquedaPivote::EnFila), enFila) << testing::PrintToString(celdas);
         EXPECT_EQ(Resolver(ecuaciones, celdas, BusquedaPivote::EnColumna), enColumna) << testing::PrintToString(celdas);
     }
-}
-
-// Equal x have no line. Equal y have one, but no correlation: 0 / 0, or the root of a Syy that rounding has made
-// -6.9E-18 (recomputed with Python).
-TEST(RegresionLineal, ValoresIguales) {
-    const auto ajustar = [](const std::vector<double>& x, const std::vector<double>& y) {
-        return AjustarRecta(EnSerie(x), EnSerie(y), 3);
-    };
-    EXPECT_EQ(NumeroDeError([&] { return ajustar({2, 2, 2}, {1, 5, 3}); }), 6);
-    EXPECT_EQ(NumeroDeError([&] { return CoeficienteCorrelacion(ajustar({1, 2, 3}, {4, 4, 4})); }), 6);
-    EXPECT_EQ(NumeroDeError([&] { return CoeficienteCorrelacion(ajustar({1, 2, 3}, {0.1, 0.1, 0.1})); }), 5);
 }
 
 }  // namespace
