@@ -160,10 +160,6 @@ void Ventana::Soltar() {
 }
 
 void Ventana::closeEvent(QCloseEvent* evento) {
-    if (forma_ != nullptr && anfitrion_.App().Sistema().Bloqueada()) {
-        evento->ignore();
-        return;
-    }
     if (forma_ != nullptr) {
         anfitrion_.App().CerrarVentana(*forma_);
     }

@@ -11,6 +11,7 @@ TEST_F(Controles, UnaPropiedadSeVeEnElControl) {
         {[](auto& f) { f.txt1.Enabled = false; }, "txt1", "enabled", false},
         {[](auto& f) { f.txt1.Visible = false; }, "txt1", "visible", false},
         {[](auto& f) { f.txt1.ToolTipText = "Qué es"; }, "txt1", "toolTip", "Qué es"},
+        {[](auto& f) { f.txt1.ToolTipText = "Otra"; }, "txt1", "toolTip", "Otra"},
         {[](auto& f) { f.txt1.NombreAccesible = "Media"; }, "txt1", "accessibleName", "Media"},
         {[](auto& f) { f.lbl1.Caption = "a < b"; }, "lbl1", "text", "a < b"},
         {[](auto&) {}, "lbl1", "textFormat", "PlainText"},
@@ -33,6 +34,7 @@ TEST_F(Controles, UnaPropiedadSeVeEnElControl) {
             F().StatusBar1.PonerPanel(i, std::to_string(i));
         }
         F().mnuUno.Enabled = false;
+        F().mnuDos.Visible = false;
         F().btn1.ConColor = true;
         F().btn1.BackColor = Color{75, 115, 166};
         F().btn1.Picture = "calcular";
@@ -44,7 +46,8 @@ TEST_F(Controles, UnaPropiedadSeVeEnElControl) {
         paneles += panel->text();
     }
     EXPECT_EQ(paneles, "123");
-    EXPECT_FALSE(Ventana()->menuBar()->actions()[0]->menu()->actions()[0]->isEnabled());
+    EXPECT_FALSE(AccionDe(F().mnuUno)->isEnabled());
+    EXPECT_FALSE(AccionDe(F().mnuDos)->isVisible());
     auto& boton = Widget<QAbstractButton>(F().btn1);
     EXPECT_NEAR(boton.grab().toImage().pixelColor(7, boton.height() / 2).hue(), QColor(75, 115, 166).hue(), 3);
     EXPECT_FALSE(boton.icon().isNull());
@@ -75,7 +78,9 @@ TEST_F(Controles, UnaTeclaLlegaConSuCodigoYSuCaracter) {
     Tecla(Qt::Key_unknown, {}, "😀");
     Tecla(Qt::Key_E, Qt::ControlModifier | Qt::AltModifier, "€");
     Tecla(Qt::Key_X, Qt::ControlModifier, "\x18");
-    EXPECT_EQ(llega, (std::vector{46, 0, -0xf1, 0, -0x1f600, 69, -0x20ac})) << "AltGr writes, Control gives orders";
+    Tecla(Qt::Key_X, Qt::AltModifier, "x");
+    EXPECT_EQ(llega, (std::vector{46, 0, -0xf1, 0, -0x1f600, 69, -0x20ac}))
+        << "AltGr writes, Control and Alt give orders";
 }
 
 TEST_F(Controles, UnaCajaFiltraCaracteresYSeMuevePorSiMisma) {

@@ -53,16 +53,7 @@ TEST_F(Grid, UnaColumnaTieneElAnchoQueDiceOElDeSuEncabezado) {
     });
     EXPECT_GE(Tabla().columnWidth(0), 200);  // 3000 twips of 15 to a pixel
     EXPECT_GT(Tabla().columnWidth(1), Tabla().fontMetrics().horizontalAdvance(largo));
-    // In a grid of few rows a text that would be cut has the spare width before the others get their share.
-    const int sobra = Tabla().columnWidth(2) - 40;
-    ASSERT_GT(sobra, 100);
-    Hacer([&] {
-        G().PonerRows(3);
-        G().PonerColWidth(3, 600);
-        G().PonerTextMatrix(1, 3,
-                            std::string(static_cast<std::size_t>(3 * sobra / Tabla().fontMetrics().height()), 'm'));
-    });
-    EXPECT_GT(Tabla().columnWidth(2), Tabla().fontMetrics().horizontalAdvance(Texto(0, 2))) << sobra;
+    EXPECT_EQ(Tabla().horizontalHeader()->length(), Tabla().viewport()->width()) << "no empty strip";
     Tabla().window()->resize(1000, 600);
     QCoreApplication::processEvents();
     EXPECT_LT(Tabla().columnWidth(0), 200) << "width that no number needs is given up before the table is scrolled";
@@ -75,7 +66,7 @@ TEST_F(Grid, LasFilasALaVistaVanEnAmbosSentidos) {
     Hacer([this] { G().PonerTopRow(10); });
     EXPECT_EQ(Tabla().rowAt(0), 9) << "the widget leaves the heading out of account";
     Rodar(*Tabla().viewport(), 1);
-    EXPECT_GT(G().TopRow(), 10);
+    EXPECT_EQ(G().TopRow(), 13) << "three rows";
     EXPECT_EQ(G().TopRow(), Tabla().rowAt(0) + 1);
     EXPECT_EQ(ruedas, 2) << "one by the program, one by the user";
     for (const int fila : {39, 1}) {
@@ -161,20 +152,9 @@ TEST_F(Grid, UnaTablaSeCopiaPorSuMenuYElDobleClicEdita) {
     EXPECT_TRUE(caja.Visible);
     for (const auto& [texto, marcada] : {std::pair{"7.5", false}, std::pair{"7,5", true}}) {
         Hacer([&, t = texto] { dynamic_cast<FlexGrid&>(*forma.Controls("grdt")).PonerTextMatrix(1, 1, t); });
-        EXPECT_EQ(datos.model()->index(0, 0).data(Qt::BackgroundRole).isValid(), marcada) << texto;
+        const QVariant fondo = datos.model()->index(0, 0).data(Qt::BackgroundRole);
+        EXPECT_EQ(fondo.isValid() && fondo.value<QColor>().lightness() > 128, marcada) << texto;
     }
-}
-
-TEST_F(Grid, UnPegadoSeCancelaConSuPregunta) {
-    Abrir("frmParamEsta");
-    auto& datos = dynamic_cast<FlexGrid&>(*Forma("frmParamEsta").Controls("grdt"));
-    for (const char* texto : {"1.234", "1.5"}) {
-        Volver("frmParamEsta");
-        QApplication::clipboard()->setText(texto);
-        Tecla(Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(datos.TextMatrix(1, 1), texto == std::string("1.5") ? "1.5" : "");
-    }
-    EXPECT_EQ(vigia_.mensajes.size(), 1U);
 }
 
 TEST_F(Grid, LaCajaEstaSobreLaCeldaActual) {

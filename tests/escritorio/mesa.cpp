@@ -20,7 +20,9 @@ void Vigia::Mirar() {
     }
     auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (auto* caja = qobject_cast<QMessageBox*>(dialogo)) {
-        mensajes.push_back({caja->text(), caja->windowTitle(), caja->icon(), caja->textFormat()});
+        const QString omision = caja->defaultButton() == nullptr ? QString() : caja->defaultButton()->text();
+        mensajes.push_back(
+            {caja->text(), caja->windowTitle(), omision, caja->icon(), caja->textFormat(), caja->parentWidget()});
     } else if (dialogo != nullptr) {
         otrosDialogos << dialogo->windowTitle();
         if (auto* archivo = qobject_cast<QFileDialog*>(dialogo); archivo != nullptr && elegir) {

@@ -29,9 +29,10 @@ class Vigia : public QObject {
     ~Vigia() override;
 
     struct Mensaje {
-        QString texto, titulo;
+        QString texto, titulo, omision;
         QMessageBox::Icon icono;
         Qt::TextFormat formato;
+        QWidget* padre;
     };
     std::vector<Mensaje> mensajes;
     /// Titles of the dialogs that were no message boxes; they are cancelled.

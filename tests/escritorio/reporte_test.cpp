@@ -174,6 +174,10 @@ TEST_F(Reportes, LaBarraDaFormatoDeshaceYBusca) {
         Tecla(Qt::Key_Return);
         EXPECT_EQ(Caja().Leer().SelStart(), donde);
     }
+    for (const int donde : {0, 8}) {  // and back, round the start
+        Tecla(Qt::Key_F3, Qt::ShiftModifier);
+        EXPECT_EQ(Caja().Leer().SelStart(), donde);
+    }
     Tecla(Qt::Key_Escape);
     EXPECT_TRUE(Editor().hasFocus());
 }
