@@ -40,7 +40,7 @@ class VistaFichas : public Vista {
         widget_->tabBar()->installEventFilter(this);
         connect(widget_, &QTabWidget::currentChanged, this, [this](int pagina) {
             if (pagina >= 0 && pagina != fichas_.Tab) {
-                anfitrion_.App().Despachar([&] { Elegir(pagina); });
+                anfitrion_.App().Despachar([&] { fichas_.Tab = pagina; });
             }
         });
     }
@@ -54,16 +54,6 @@ class VistaFichas : public Vista {
     }
 
   private:
-    void Elegir(int pagina) {
-        fichas_.Tab = pagina;
-        // The control with the focus may be on the page that is no longer in front.
-        const Control* foco = anfitrion_.App().Foco();
-        const auto* vista = foco == nullptr ? nullptr : static_cast<Vista*>(foco->Vista());
-        if (vista != nullptr && !vista->Widget()->isVisible()) {
-            fichas_.SetFocus();
-        }
-    }
-
     SSTab& fichas_;
     QTabWidget* widget_;
 };

@@ -248,9 +248,11 @@ TEST_F(Grafico, SeCopiaYSeGuardaComoSeVeEnOscuroSobreBlanco) {
         }
         EXPECT_GT(oscuros, 100);
     }
+    elegir(1, "");
+    const QImage todo = QGuiApplication::clipboard()->image();
     Rodar(Lienzo(), -1);
     elegir(1, "");
-    EXPECT_NE(QGuiApplication::clipboard()->image(), copia) << "the part that is shown";
+    EXPECT_NE(QGuiApplication::clipboard()->image(), todo) << "the part that is shown";
     estilo::Aplicar(*qApp, estilo::Esquema::Claro);
 }
 

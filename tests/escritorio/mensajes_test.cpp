@@ -1,6 +1,7 @@
 #include <QPrinterInfo>
 #include <new>
 
+#include "escritorio/programa/traduccion.h"
 #include "escritorio/servicios/manual.h"
 #include "frame/base/hojas.h"
 #include "shell/formas.h"
@@ -24,6 +25,9 @@ TEST_F(Mensajes, UnMensajeSeVeComoEs) {
         EXPECT_EQ(vigia_.mensajes.back().omision == "&Sí", si);
     }
     EXPECT_EQ(escritorio_->PreguntarOCancelar("¿?", ""), std::nullopt);
+    const TraduccionRestante restante;
+    EXPECT_EQ(restante.translate("QPrintSettingsOutput", "Off", nullptr, 0), "No");
+    EXPECT_EQ(restante.translate("Otro", "Off", nullptr, 0), QString());
     vigia_.mensajes.clear();
     if (QPrinterInfo::defaultPrinter().isNull()) {
         escritorio_->ImprimirForma(F());
@@ -32,12 +36,15 @@ TEST_F(Mensajes, UnMensajeSeVeComoEs) {
 }
 
 TEST_F(Mensajes, BajoUnMensajeNoCorreNingunaOrden) {
-    QTimer::singleShot(0, [this] {
-        Ventana()->close();
-        escritorio_->App().Pulsar(F().btn1);
-    });
     QMenu menu(Ventana());
     menu.popup({});
+    QCoreApplication::processEvents();
+    QTimer::singleShot(0, [this] {
+        QCloseEvent cierre;
+        QCoreApplication::sendEvent(Ventana(), &cierre);
+        EXPECT_FALSE(cierre.isAccepted());
+        escritorio_->App().Pulsar(F().btn1);
+    });
     escritorio_->MsgBox("abierta", kSinIcono, "");
     ASSERT_NE(Ventana(), nullptr);
     EXPECT_EQ(vigia_.mensajes[0].padre, Ventana()) << "a menu goes before the box does";
