@@ -135,10 +135,10 @@ TEST(Rtf, FormatosDeCaracter) {
         {"\\b\\i\\ulw\\strike\\b0\\i0", [](F& f) { f.subrayado = f.tachado = true; }},
         {"\\ul\\strike\\ulnone\\strike0\\ul\\ul0\\ulc1", [](F&) {}}, {"\\cf3\\cb-1", [](F&) {}},
         {"\\cf1\\highlight2", [](F& f) { f.color = 0xFF0010, f.fondo = 0xFF0002; }},
-        {"\\chcbpat1", [](F& f) { f.fondo = 0xFF0010; }}, {"\\cf1\\cf0\\chcbpat1\\highlight0", [](F&) {}},
+        {"\\chcbpat1", [](F& f) { f.fondo = 0xFF0010; }}, {"\\cf1\\cf0\\chcbpat1\\highlight0\\sub\\sub0", [](F&) {}},
         {"\\super", [](F& f) { f.posicion = PosicionVertical::kSuperindice; }},
         {"\\dn6", [](F& f) { f.posicion = PosicionVertical::kSubindice; }},
-        {"\\sub\\sub0\\super\\nosupersub{\\b\\f0{\\i}}\\b\\f2\\cf1\\plain", [](F&) {}}};
+        {"\\super\\nosupersub{\\b\\f0{\\i}}\\b\\f2\\cf1\\plain", [](F&) {}}};
     // clang-format on
     for (const auto& [rtf, cambio] : casos) {
         F esperado{"Tímes", 24, false, false, false, false, PosicionVertical::kNormal, {}, {}};
