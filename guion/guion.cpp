@@ -5,11 +5,10 @@
 #include <ostream>
 #include <stdexcept>
 
+#include "frame/base/json.h"
 #include "frame/base/textos.h"
 #include "frame/controles/controles.h"
 #include "frame/controles/flexgrid.h"
-#include "frame/reportes/grafico.h"
-#include "frame/reportes/richtextbox.h"
 
 namespace cuencalia {
 
@@ -19,31 +18,6 @@ namespace {
 struct Rechazo : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
-
-std::string Json(const std::string& texto) {
-    static constexpr char kHex[] = "0123456789abcdef";
-    std::string json = "\"";
-    for (const char c : texto) {
-        const auto codigo = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\') {
-            json += '\\';
-            json += c;
-        } else if (c == '\n') {
-            json += "\\n";
-        } else if (c == '\t') {
-            json += "\\t";
-        } else if (codigo < 0x20) {
-            json += "\\u00";
-            json += kHex[codigo >> 4];
-            json += kHex[codigo & 15];
-        } else {
-            json += c;
-        }
-    }
-    return json + '"';
-}
-
-const char* Json(bool valor) { return valor ? "true" : "false"; }
 
 /// Splits a line into words separated by blanks. A word with blanks is written in double quotes, where \" \\ and \n
 /// stand for a quote, a backslash and a line end.
@@ -108,93 +82,6 @@ int CodigoDeTecla(int caracter) {
         }
     }
     return letraODigito || control ? caracter : 0;
-}
-
-std::string TextoDe(Control& control) {
-    if (auto* c = dynamic_cast<TextBox*>(&control)) {
-        return c->Text;
-    }
-    if (auto* c = dynamic_cast<ComboBox*>(&control)) {
-        return c->Text;
-    }
-    if (auto* c = dynamic_cast<Label*>(&control)) {
-        return c->Caption;
-    }
-    if (auto* c = dynamic_cast<CommandButton*>(&control)) {
-        return c->Caption;
-    }
-    if (auto* c = dynamic_cast<OptionButton*>(&control)) {
-        return c->Caption;
-    }
-    if (auto* c = dynamic_cast<Frame*>(&control)) {
-        return c->Caption;
-    }
-    if (auto* c = dynamic_cast<Menu*>(&control)) {
-        return c->Caption;
-    }
-    if (auto* c = dynamic_cast<StatusBar*>(&control)) {
-        return c->Panel(1);
-    }
-    if (auto* c = dynamic_cast<Formulario*>(&control)) {
-        return c->Caption;
-    }
-    throw Rechazo("no tiene texto: " + control.Nombre());
-}
-
-std::string FilasDe(const FlexGrid& grid) {
-    std::string filas = "[";
-    for (int f = 0; f < grid.Rows(); ++f) {
-        filas += f == 0 ? "[" : ",[";
-        for (int c = 0; c < grid.Cols(); ++c) {
-            filas += (c == 0 ? "" : ",") + Json(grid.TextMatrix(f, c));
-        }
-        filas += "]";
-    }
-    return filas + "]";
-}
-
-std::string Json(const std::vector<std::optional<Double>>& valores) {
-    std::string lista = "[";
-    for (const auto& valor : valores) {
-        lista += lista.size() > 1 ? "," : "";
-        // Shortest digits that read back as the same number.
-        char cifras[32];
-        const auto fin = valor ? std::to_chars(cifras, std::end(cifras), valor->valor()).ptr : cifras;
-        lista += valor ? std::string(cifras, fin) : "null";
-    }
-    return lista + "]";
-}
-
-std::string DatosDe(const GraficoModulo& grafico) {
-    std::string datos = std::string(",\"visible\":") + Json(grafico.EsVisible());
-    const auto entero = [&](const char* nombre, int valor) {
-        datos += std::string(",\"") + nombre + "\":" + std::to_string(valor);
-    };
-    entero("GraphType", grafico.GraphType);
-    entero("GraphStyle", grafico.GraphStyle);
-    entero("Background", grafico.Background);
-    entero("NumPoints", grafico.NumPoints());
-    entero("NumSets", grafico.NumSets());
-    datos += ",\"BottomTitle\":" + Json(grafico.BottomTitle()) + ",\"sets\":[";
-    const char* coma = "";
-    for (const GraficoModulo::Conjunto& conjunto : grafico.Conjuntos()) {
-        datos += std::string(coma) + "{\"LegendText\":" + Json(conjunto.leyenda) + ",\"x\":" + Json(conjunto.x) +
-                 ",\"y\":" + Json(conjunto.y) + "}";
-        coma = ",";
-    }
-    return datos + "]";
-}
-
-std::string DatosDe(RichTextBox& documento) {
-    const EditorTextoRico& editor = documento.Leer();
-    std::string datos =
-        ",\"titulo\":" + Json(documento.Forma().Caption()) + ",\"texto\":" + Json(editor.Text()) + ",\"alineacion\":[";
-    const char* coma = "";
-    for (const int alineacion : editor.Alineaciones()) {
-        datos += coma + std::to_string(alineacion);
-        coma = ",";
-    }
-    return datos + "]";
 }
 
 }  // namespace
@@ -266,12 +153,16 @@ void Guion::Ejecutar(const std::string& linea) {
 
 void Guion::Rechazar(const std::string& motivo) {
     huboRechazo_ = true;
-    salida_ << "{\"rechazo\":" << Json(motivo) << ",\"linea\":" << linea_ << "}\n";
+    EscritorJson json;
+    json.Abrir('{').Clave("rechazo").Texto(motivo).Clave("linea").Entero(linea_);
+    salida_ << json.Cerrar('}').Tomar() << '\n';
 }
 
 void Guion::MostrarErrores() {
     for (const ErrorEjecucion& error : plataforma_->errores) {
-        salida_ << "{\"error\":" << error.Numero() << ",\"texto\":" << Json(error.Texto()) << "}\n";
+        EscritorJson json;
+        json.Abrir('{').Clave("error").Entero(error.Numero()).Clave("texto").Texto(error.Texto());
+        salida_ << json.Cerrar('}').Tomar() << '\n';
     }
     plataforma_->errores.clear();
 }
@@ -523,54 +414,34 @@ void Guion::OrdenReloj(const Palabras& p) { plataforma_->reloj = Val(p[1]); }
 
 void Guion::OrdenVer(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {
-        Control& control = Buscar(p[i]);
-        std::string datos;
-        if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
-            datos = ",\"filas\":" + FilasDe(*grid);
-        } else if (const auto* grafico = dynamic_cast<GraficoModulo*>(&control)) {
-            datos = DatosDe(*grafico);
-        } else if (const auto* barra = dynamic_cast<StatusBar*>(&control);
-                   barra != nullptr && barra->Nombre() == "StatusBar1") {
-            // The report window's bar shows the clock, which a script does not print.
-            datos = ",\"paneles\":[";
-            for (int panel = 1; panel <= barra->Paneles(); ++panel) {
-                datos += (panel == 1 ? "" : ",") + Json(barra->Panel(panel));
-            }
-            datos += "]";
-        } else if (auto* documento = dynamic_cast<RichTextBox*>(&control)) {
-            datos = DatosDe(*documento);
-        } else {
-            datos = ",\"texto\":" + Json(TextoDe(control));
+        EscritorJson json;
+        json.Abrir('{').Clave("control").Texto(p[i]);
+        if (!Buscar(p[i]).Describir(json)) {
+            throw Rechazo("no tiene texto: " + p[i]);
         }
-        salida_ << "{\"control\":" << Json(p[i]) << datos << "}\n";
+        salida_ << json.Cerrar('}').Tomar() << '\n';
     }
 }
 
 void Guion::OrdenEstado(const Palabras& p) {
     for (std::size_t i = 1; i < p.size(); ++i) {
         Control& control = Buscar(p[i]);
-        salida_ << "{\"control\":" << Json(p[i]) << ",\"visible\":" << Json(control.EsVisible())
-                << ",\"habilitado\":" << Json(control.EsHabilitado());
-        if (const auto* opcion = dynamic_cast<OptionButton*>(&control)) {
-            salida_ << ",\"valor\":" << Json(opcion->Value());
-        }
-        salida_ << ",\"foco\":" << Json(control.TieneFoco());
-        if (const auto* grid = dynamic_cast<FlexGrid*>(&control)) {
-            salida_ << ",\"Row\":" << grid->Row() << ",\"Col\":" << grid->Col() << ",\"TopRow\":" << grid->TopRow();
-        }
-        salida_ << "}\n";
+        EscritorJson json;
+        json.Abrir('{').Clave("control").Texto(p[i]);
+        json.Clave("visible").Logico(control.EsVisible()).Clave("habilitado").Logico(control.EsHabilitado());
+        control.DescribirEstado(json);
+        salida_ << json.Cerrar('}').Tomar() << '\n';
     }
 }
 
 void Guion::OrdenMensajes(const Palabras&) {
-    salida_ << "{\"mensajes\":[";
-    const char* coma = "";
+    EscritorJson json;
+    json.Abrir('{').Clave("mensajes").Abrir('[');
     for (const Mensaje& mensaje : plataforma_->mensajes) {
-        salida_ << coma << "{\"texto\":" << Json(mensaje.texto) << ",\"icono\":" << mensaje.icono
-                << ",\"titulo\":" << Json(mensaje.titulo) << "}";
-        coma = ",";
+        json.Abrir('{').Clave("texto").Texto(mensaje.texto).Clave("icono").Entero(mensaje.icono);
+        json.Clave("titulo").Texto(mensaje.titulo).Cerrar('}');
     }
-    salida_ << "]}\n";
+    salida_ << json.Cerrar(']').Cerrar('}').Tomar() << '\n';
     plataforma_->mensajes.clear();
 }
 

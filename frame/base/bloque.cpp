@@ -147,4 +147,21 @@ LecturaBloque LeerBloque(const Bloque& bloque) {
     return lectura;
 }
 
+Pegado LeerPegado(const Bloque& bloque, std::size_t encabezados, SignoDecimal signo, std::size_t columnas) {
+    Pegado pegado;
+    for (std::size_t i = encabezados; i < bloque.size(); ++i) {
+        std::vector<std::string>& fila = pegado.celdas.emplace_back();
+        for (const std::string& celda : bloque[i]) {
+            if (fila.size() == columnas) {
+                pegado.sobrantes += celda.empty() ? 0 : 1;
+                continue;
+            }
+            const auto numero = LeerNumero(celda, signo);
+            pegado.ajenas += numero || celda.empty() ? 0 : 1;
+            fila.push_back(numero.value_or(celda));
+        }
+    }
+    return pegado;
+}
+
 }  // namespace cuencalia

@@ -34,4 +34,13 @@ struct LecturaBloque {
 };
 LecturaBloque LeerBloque(const Bloque& bloque);
 
+/// The cells of a block as they go into a grid.
+struct Pegado {
+    Bloque celdas;      ///< Below the headings, as Val reads them, as many in a row as the grid has columns for.
+    int ajenas = 0;     ///< Texts among them that are no number and no blank.
+    int sobrantes = 0;  ///< Cells with a text for which there is no column.
+};
+/// Reads the block for that many columns.
+Pegado LeerPegado(const Bloque& bloque, std::size_t encabezados, SignoDecimal signo, std::size_t columnas);
+
 }  // namespace cuencalia

@@ -1,5 +1,6 @@
 #include "frame/controles/control.h"
 
+#include "frame/base/json.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/controles.h"
 #include "frame/controles/formulario.h"
@@ -20,6 +21,13 @@ void Control::SetFocus() {
     }
     TraerAlFrente();
     App().PedirFoco(*this);
+}
+
+void Control::DescribirEstado(EscritorJson& json) { json.Clave("foco").Logico(TieneFoco()); }
+
+bool Control::DescribirTexto(EscritorJson& json, const std::string& texto) {
+    json.Clave("texto").Texto(texto);
+    return true;
 }
 
 std::function<void()> Control::Recordar() {

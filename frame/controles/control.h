@@ -10,6 +10,7 @@ namespace cuencalia {
 
 class Aplicacion;
 class Control;
+class EscritorJson;
 class Formulario;
 
 /// What shows a control on a screen. It is told that its control changed, but not what changed: it reads the whole
@@ -124,6 +125,11 @@ class Control {
     virtual bool MuestraPagina(int /*pagina*/) const { return true; }
     virtual void MostrarPagina(int /*pagina*/) {}
 
+    /// Writes what the control shows as members of a JSON object (docs/guion.md tells them all); false: it shows
+    /// nothing that could be told.
+    virtual bool Describir(EscritorJson& /*json*/) { return false; }
+    /// The same of its state: whether it has the focus, and what its kind adds.
+    virtual void DescribirEstado(EscritorJson& json);
     /// What puts the control back to how it stands now: whether it is shown, and the text or the choice that it holds.
     virtual std::function<void()> Recordar();
 
@@ -133,6 +139,8 @@ class Control {
     void Notificar() const;
 
   protected:
+    /// Describir for a control that shows one text.
+    static bool DescribirTexto(EscritorJson& json, const std::string& texto);
     /// Recordar for a control that holds a value besides.
     template <typename T>
     std::function<void()> RecordarCon(Propiedad<T>& propiedad) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/base/bloque.h"
+#include "frame/base/json.h"
 #include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 #include "frame/controles/formulario.h"
@@ -151,6 +152,11 @@ void OptionButton::TeclaPorDefecto(int, int caracter) {
     }
 }
 
+void OptionButton::DescribirEstado(EscritorJson& json) {
+    json.Clave("valor").Logico(Value);
+    Control::DescribirEstado(json);
+}
+
 ComboBox::ComboBox(Formulario& forma, std::string nombre, std::vector<std::string> entradas,
                    std::string nombreAccesible)
     : Control(forma, std::move(nombre)) {
@@ -223,6 +229,18 @@ const std::string& StatusBar::Panel(int numero) const {
         throw ErrorEjecucion(kSubindiceFuera);
     }
     return textos_[static_cast<std::size_t>(numero - 1)];
+}
+
+bool StatusBar::Describir(EscritorJson& json) {
+    if (conHora_) {
+        return DescribirTexto(json, Panel(1));
+    }
+    json.Clave("paneles").Abrir('[');
+    for (const std::string& texto : textos_) {
+        json.Texto(texto);
+    }
+    json.Cerrar(']');
+    return true;
 }
 
 void StatusBar::PonerPanel(int numero, const std::string& texto) {

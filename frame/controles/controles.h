@@ -37,6 +37,7 @@ class TextBox : public Control {
     /// Replaces the selection by the character, or inserts it at the insertion point; Backspace, Delete and the arrow
     /// keys edit and move as usual. Ctrl+Z and Ctrl+Y undo and redo what the user wrote since the program set the text.
     void TeclaPorDefecto(int codigo, int caracter) override;
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Text); }
     std::function<void()> Recordar() override { return RecordarCon(Text); }
     /// Replaces the selection by the first line of a copied text; a number with a decimal comma is written with a
     /// point.
@@ -86,6 +87,7 @@ class Label : public Control {
     Papel SuPapel() const { return papel_; }
 
     Propiedad<std::string> Caption{*this};
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
     std::function<void()> Recordar() override { return RecordarCon(Caption); }
     /// Sets the control that the label names: the label's access key moves the focus to it.
     void Nombra(Control& control) { nombrado_ = &control; }
@@ -101,6 +103,7 @@ class CommandButton : public Control {
     CommandButton(Formulario& forma, std::string nombre, std::string caption, std::string toolTip = {});
 
     Propiedad<std::string> Caption{*this};  ///< `&` marks the access key.
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
     Propiedad<std::string> Picture{*this};  ///< Name of the picture shown on the button; empty for none.
     Propiedad<Color> BackColor{*this};
     Propiedad<bool> Cancel{*this};    ///< True: Escape presses the button, wherever the focus is in its window.
@@ -119,6 +122,8 @@ class OptionButton : public Control {
 
     Propiedad<std::string> Caption{*this};
     Propiedad<bool> Value;
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
+    void DescribirEstado(EscritorJson& json) override;
     std::function<void()> Recordar() override { return RecordarCon(Value); }
 
     bool AceptaFoco() const override { return true; }
@@ -144,6 +149,7 @@ class ComboBox : public Control {
     int ListIndex() const;
     /// Picks an entry as if the user did: sets Text and fires Click.
     void Elegir(int indice);
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Text); }
     std::function<void()> Recordar() override { return RecordarCon(Text); }
 
     bool AceptaFoco() const override { return true; }
@@ -156,6 +162,7 @@ class Frame : public Control {
     Frame(Formulario& forma, std::string nombre, std::string caption = {});
 
     Propiedad<std::string> Caption{*this};
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
 };
 
 /// A tab control: pages, each with a tab.
@@ -186,9 +193,13 @@ class StatusBar : public Control {
     const std::string& Panel(int numero) const;  ///< From 1. Error 9 for a panel that does not exist.
     void PonerPanel(int numero, const std::string& texto);
     int Paneles() const { return static_cast<int>(textos_.size()); }
+    /// Whether the panels beside the first show date and time, which are not told.
+    void PonerHora() { conHora_ = true; }
+    bool Describir(EscritorJson& json) override;
 
   private:
     std::vector<std::string> textos_;
+    bool conHora_ = false;
 };
 
 /// The names of the pictures that a form's buttons show, numbered from 1. Each button has two: the normal picture has
@@ -227,6 +238,7 @@ class Menu : public Control {
     Menu(Menu& padre, std::string nombre, std::string caption);
 
     Propiedad<std::string> Caption{*this};
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
     const std::vector<Menu*>& Entradas() const { return entradas_; }
     bool EsSeparador() const { return Caption() == "-"; }
     /// Fires Click unless the entry is greyed; returns whether it did.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/base/errores.h"
+#include "frame/base/json.h"
 #include "frame/base/textos.h"
 #include "frame/controles/aplicacion.h"
 
@@ -322,6 +323,24 @@ int FlexGrid::Marcadas() const {
         }
     }
     return cuantas;
+}
+
+bool FlexGrid::Describir(EscritorJson& json) {
+    json.Clave("filas").Abrir('[');
+    for (int f = 0; f < filas_; ++f) {
+        json.Abrir('[');
+        for (int c = 0; c < columnas_; ++c) {
+            json.Texto(TextMatrix(f, c));
+        }
+        json.Cerrar(']');
+    }
+    json.Cerrar(']');
+    return true;
+}
+
+void FlexGrid::DescribirEstado(EscritorJson& json) {
+    Control::DescribirEstado(json);
+    json.Clave("Row").Entero(fila_).Clave("Col").Entero(columna_).Clave("TopRow").Entero(filaSuperior_);
 }
 
 void FlexGrid::Presionar(BotonRaton boton, int fila, int columna) {

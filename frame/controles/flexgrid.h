@@ -90,6 +90,8 @@ class FlexGrid : public Control {
     bool EstaMarcada(int fila, int columna) const;
     int Marcadas() const;
 
+    bool Describir(EscritorJson& json) override;
+    void DescribirEstado(EscritorJson& json) override;
     bool AceptaFoco() const override { return true; }
     /// Arrows, page keys, Home and End move the current cell, with Control to the end of the data; with the capitals
     /// key they take the selection along. Control with A selects all, with C copies.

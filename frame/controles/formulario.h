@@ -17,6 +17,7 @@ class Formulario : public Control {
     ~Formulario() override;
 
     Propiedad<std::string> Caption;
+    bool Describir(EscritorJson& json) override { return DescribirTexto(json, Caption); }
 
     Aplicacion& App() const { return app_; }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "frame/base/bloque.h"
 #include "frame/controles/plataforma.h"
 
 namespace cuencalia {
@@ -11,6 +12,9 @@ enum PanelModulo : int { kPanelDigitar = 1, kPanelAvisos = 2, kPanelDatos = 3 };
 
 /// What the status bar says of a typed text that Val does not read whole; empty for a text that it does.
 std::string AvisoDeLectura(const std::string& texto);
+
+/// What the status bar says of cells that were pasted.
+std::string AvisoDePegado(const Pegado& pegado, SignoDecimal signo, bool conEncabezado);
 
 /// Messages that several modules give.
 inline const Aviso kGraficarSinCalculos{"Efectuar cálculos antes de graficar", kIconoError, "Mensaje de Error"};

@@ -18,6 +18,8 @@ constexpr const char* kMarcaEspera = "[?]";
 constexpr const char* kMarcaEntrada = "[->]";
 constexpr const char* kComoSeDigita = "Para introducir o modificar datos, digitarlos y luego presionar ENTER";
 
+std::size_t S(int n) { return static_cast<std::size_t>(n); }
+
 /// The history of a form's data outlives its window: the series of the last one can be brought back.
 std::shared_ptr<HistoriaGrid> RecuerdoDe(Formulario& forma) {
     std::shared_ptr<void>& recuerdo = forma.App().Globales().recuerdos[forma.Nombre()];
@@ -371,44 +373,25 @@ void GridDatos::Pegar(const std::string& texto) {
         }
         signo = *esPunto ? SignoDecimal::Punto : SignoDecimal::Coma;
     }
-    const int columna = grdt.Col(), primera = grdt.Row(), filas = static_cast<int>(bloque.size() - lectura.encabezados);
+    const int columna = grdt.Col(), primera = grdt.Row();
+    const Pegado pegado = LeerPegado(bloque, lectura.encabezados, signo, S(UltimaColumna() - columna + 1));
+    const int filas = static_cast<int>(pegado.celdas.size());
     const int nuevas = std::max(0, primera + filas - FilaEntrada());
-    int ajenas = 0, sobran = 0;
     grdt.PonerRows(grdt.Rows() + nuevas);
     for (int i = 0; i < filas; ++i) {
-        const std::vector<std::string>& celdas = bloque[static_cast<std::size_t>(i) + lectura.encabezados];
         const int fila = primera + i;
-        for (std::size_t k = 0; k < celdas.size(); ++k) {
-            const int c = columna + static_cast<int>(k);
-            if (c > UltimaColumna()) {
-                sobran += celdas[k].empty() ? 0 : 1;
-                continue;
-            }
-            const auto numero = LeerNumero(celdas[k], signo);
-            ajenas += numero || celdas[k].empty() ? 0 : 1;
-            grdt.PonerTextMatrix(fila, c, Format(Val(numero.value_or(celdas[k])), kPatronEdicionA));
+        int c = columna;
+        for (const std::string& celda : pegado.celdas[S(i)]) {
+            grdt.PonerTextMatrix(fila, c++, Format(Val(celda), kPatronEdicionA));
         }
-        for (int c = 1; fila >= FilaEntrada() - nuevas && c <= UltimaColumna(); ++c) {
+        for (c = 1; fila >= FilaEntrada() - nuevas && c <= UltimaColumna(); ++c) {
             grdt.PonerTextMatrix(fila, c, Format(Val(grdt.TextMatrix(fila, c)), kPatronEdicionB));
         }
     }
     RenumerarGrid();
     grdt.PonerCelda(std::min(primera + filas, FilaEntrada()), nuevas > 0 ? 1 : columna);
     Marcar(EnFilaEntrada() ? kMarcaEntrada : kMarcaEspera);
-    const auto cuantos = [](int cuenta, const char* una, const char* varias) {
-        return std::to_string(cuenta) + (cuenta == 1 ? una : varias);
-    };
-    std::string aviso = "Pegado: " + cuantos(filas, " fila", " filas");
-    aviso += signo == SignoDecimal::Coma ? ", con coma decimal" : "";
-    aviso += lectura.encabezados > 0 ? "; el encabezado quedó fuera" : "";
-    if (ajenas > 0) {
-        aviso += "; " + cuantos(ajenas, " celda que no es un número cuenta", " celdas que no son números cuentan") +
-                 " como 0";
-    }
-    if (sobran > 0) {
-        aviso += "; " + cuantos(sobran, " celda sin columna quedó", " celdas sin columna quedaron") + " fuera";
-    }
-    Avisar(aviso);
+    Avisar(AvisoDePegado(pegado, signo, lectura.encabezados > 0));
 }
 
 void GridDatos::AvanzarPorTabulador() {

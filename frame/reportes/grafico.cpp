@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "frame/base/json.h"
+
 namespace cuencalia {
 
 namespace {
@@ -102,6 +104,36 @@ std::vector<std::optional<Double>> GraficoModulo::Abscisas(int conjunto) const {
     return numeros;
 }
 
+bool GraficoModulo::Describir(EscritorJson& json) {
+    const auto entero = [&](const char* nombre, int valor) { json.Clave(nombre).Entero(valor); };
+    const auto valores = [&](const char* nombre, const std::vector<std::optional<Double>>& lista) {
+        json.Clave(nombre).Abrir('[');
+        for (const auto& valor : lista) {
+            if (valor) {
+                json.Numero(valor->valor());
+            } else {
+                json.Nulo();
+            }
+        }
+        json.Cerrar(']');
+    };
+    json.Clave("visible").Logico(EsVisible());
+    entero("GraphType", GraphType);
+    entero("GraphStyle", GraphStyle);
+    entero("Background", Background);
+    entero("NumPoints", NumPoints());
+    entero("NumSets", NumSets());
+    json.Clave("BottomTitle").Texto(BottomTitle()).Clave("sets").Abrir('[');
+    for (const Conjunto& conjunto : conjuntos_) {
+        json.Abrir('{').Clave("LegendText").Texto(conjunto.leyenda);
+        valores("x", conjunto.x);
+        valores("y", conjunto.y);
+        json.Cerrar('}');
+    }
+    json.Cerrar(']');
+    return true;
+}
+
 void GraficoModulo::RotularEjes(Label& x, Label& y, Label* unidadY) {
     rotuloX_ = &x;
     rotuloY_ = &y;
@@ -158,7 +190,10 @@ void GraficoDibujar(GraficoModulo& grafico, const DescripcionGrafico& descripcio
     grafico.BottomTitle = descripcion.titulo;
     grafico.NombresX = descripcion.nombres;
     grafico.AutoInc = descripcion.autoInc;
-    grafico.PonerNumPoints(descripcion.puntos.value_or(static_cast<int>(series.at(0).y.size())));
+    const auto mayor = std::max_element(series.begin(), series.end(),
+                                        [](const auto& a, const auto& b) { return a.y.size() < b.y.size(); });
+    const std::size_t puntos = mayor == series.end() ? 0 : mayor->y.size();
+    grafico.PonerNumPoints(descripcion.puntos.value_or(static_cast<int>(puntos)));
     const int dados = static_cast<int>(series.size());
     grafico.PonerNumSets(descripcion.conjuntos.value_or(dados));
     for (int c = 1; c <= dados; ++c) {

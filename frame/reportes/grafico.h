@@ -78,6 +78,7 @@ class GraficoModulo : public Control {
     /// does not exist.
     std::vector<std::optional<Double>> Abscisas(int conjunto) const;
 
+    bool Describir(EscritorJson& json) override;
     /// The chart takes the focus so that the keyboard can step through its points.
     bool AceptaFoco() const override { return true; }
 
@@ -126,7 +127,7 @@ struct DescripcionGrafico {
     std::string titulo{};                ///< Title under the x axis.
     std::vector<std::string> nombres{};  ///< Names of the points at the x axis.
     int autoInc = 1;
-    std::optional<int> puntos{};     ///< NumPoints, when it differs from the length of the first set.
+    std::optional<int> puntos{};     ///< NumPoints, when it differs from the length of the longest set.
     std::optional<int> conjuntos{};  ///< NumSets, when it differs from the number of series.
 };
 

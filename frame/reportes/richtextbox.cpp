@@ -1,6 +1,8 @@
 #include "frame/reportes/richtextbox.h"
 
+#include "frame/base/json.h"
 #include "frame/base/textos.h"
+#include "frame/controles/formulario.h"
 
 namespace cuencalia {
 
@@ -20,6 +22,16 @@ EditorTextoRico& RichTextBox::Editor() {
     ++version_;
     Notificar();
     return editor_;
+}
+
+bool RichTextBox::Describir(EscritorJson& json) {
+    const EditorTextoRico& editor = Leer();
+    json.Clave("titulo").Texto(Forma().Caption()).Clave("texto").Texto(editor.Text()).Clave("alineacion").Abrir('[');
+    for (const int alineacion : editor.Alineaciones()) {
+        json.Entero(alineacion);
+    }
+    json.Cerrar(']');
+    return true;
 }
 
 void RichTextBox::TeclaPorDefecto(int codigo, int caracter) {

@@ -21,6 +21,7 @@ class RichTextBox : public Control {
     /// The current text, for writing; the view shows it again afterwards.
     EditorTextoRico& Editor();
 
+    bool Describir(EscritorJson& json) override;
     bool AceptaFoco() const override { return true; }
     void TeclaPorDefecto(int codigo, int caracter) override;
 

@@ -41,7 +41,7 @@ void FichaMomentos::Dibujar(const Comparacion& c) {
         const PuntoL p = PuntoDeFamilia(familia);
         series.push_back({.leyenda = NombreFamilia(familia), .x = {p.tau3}, .y = {p.tau4}, .sueltos = true});
     }
-    GraficoDibujar(Graph2, {.puntos = kUltimo - kPrimero + 1}, series);
+    GraficoDibujar(Graph2, {}, series);
 }
 
 Disposicion FichaMomentos::Zona() {

@@ -137,11 +137,9 @@ void FichaPapel::Dibujar() {
     }
     lblEjeX.Caption = gumbel ? "Variable reducida de Gumbel, -ln(-ln P)" : "Variable normal estándar z";
     lblEjeY.Caption = logaritmos ? "Logaritmo decimal de Q (m3/s)" : "Q (m3/s)";
-    std::size_t puntos = 1;
-    for (const SerieGrafico& s : series) {
-        puntos = std::max(puntos, s.y.size());
-    }
-    GraficoDibujar(Graph1, {.puntos = static_cast<int>(puntos)}, series);
+    // A chart has at least one point, on a logarithmic paper without a positive value too.
+    const bool vacio = std::all_of(series.begin(), series.end(), [](const SerieGrafico& s) { return s.y.empty(); });
+    GraficoDibujar(Graph1, {.puntos = vacio ? std::optional(1) : std::nullopt}, series);
 }
 
 Disposicion FichaPapel::Zona() {

@@ -54,5 +54,13 @@ TEST(BloqueTest, UnBloqueDejaUnaLecturaONo) {
     }
 }
 
+TEST(BloqueTest, UnBloqueSePegaEnLasColumnasQueHay) {
+    const Pegado pegado =
+        LeerPegado(SepararBloque("Año\tQ\tNota\n1998\t1,5\tseca\n1999\tn/d\n\t\t\n2001"), 1, SignoDecimal::Coma, 2);
+    EXPECT_EQ(pegado.celdas, (Bloque{{"1998", "1.5"}, {"1999", "n/d"}, {"", ""}, {"2001"}}));
+    EXPECT_EQ(pegado.ajenas, 1) << "n/d; a blank is none";
+    EXPECT_EQ(pegado.sobrantes, 1) << "seca";
+}
+
 }  // namespace
 }  // namespace cuencalia
