@@ -185,7 +185,7 @@ TEST(LimpiarTest, UnaVentanaLimpiaEsUnaNueva) {
         EsperarIguales(nombre, usada, nueva, "calculada otra vez");
         ++ventanas;
     }
-    EXPECT_EQ(ventanas, 39);
+    EXPECT_GE(ventanas, 41);
 }
 
 }  // namespace
