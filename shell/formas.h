@@ -4,7 +4,7 @@
 
 namespace cuencalia {
 
-/// Every form of the program: a new module adds its line here.
+/// Every form of the program: its own and those of the windows that modules/CMakeLists.txt lists.
 TablaFormas FormasDelPrograma();
 
 }  // namespace cuencalia
