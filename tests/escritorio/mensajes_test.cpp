@@ -2,9 +2,7 @@
 #include <new>
 
 #include "escritorio/programa/traduccion.h"
-#include "escritorio/servicios/manual.h"
 #include "frame/base/hojas.h"
-#include "shell/formas.h"
 #include "tests/escritorio/mesa.h"
 
 namespace cuencalia::pruebas {
@@ -112,10 +110,6 @@ TEST_F(Mensajes, SePideUnArchivo) {
 }
 
 TEST_F(Mensajes, ElManualSeAbreEnLaVentanaDelFrente) {
-    for (const auto& [nombre, hacer] : FormasDelPrograma()) {
-        const QUrl lugar = LugarDelManual(Q(escritorio_->CarpetaInstalacion() + "/ayuda"), Q(nombre));
-        EXPECT_EQ(lugar.fragment(), Q(nombre));
-    }
     Abrir("frmParamEsta");
     Tecla(Qt::Key_F1);
     QFile salto(vigia_.abiertos.at(0).toLocalFile());

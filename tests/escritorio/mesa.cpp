@@ -41,7 +41,7 @@ FormaDePrueba::FormaDePrueba(Aplicacion& app) : Formulario(app, "frmPrueba", "Pr
     txtt.FlotarSobre(grd1);
     txtt.Visible = false;
     grd1.PonerRows(40);
-    grd1.PonerCols(columnas);
+    grd1.PonerCols(4);
     for (int i = 0; i < 160; ++i) {
         grd1.PonerTextMatrix(i / 4, i % 4, std::to_string(i / 4) + "," + std::to_string(i % 4));
     }

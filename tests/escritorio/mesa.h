@@ -55,8 +55,6 @@ class FormaDePrueba : public Formulario {
   public:
     explicit FormaDePrueba(Aplicacion& app);
 
-    static inline int columnas = 4;  ///< Of its grid.
-
     TextBox txt1{*this, "txt1", "Caja"}, txtt{*this, "txtt"}, txt2{*this, "txt2"}, txt3{*this, "txt3"};
     Label lbl1{*this, "lbl1", "&Texto:"};
     CommandButton btn1{*this, "btn1", "&Botón"};

@@ -52,12 +52,7 @@ TEST_F(Ventanas, CadaFormaDelProgramaEstaEntera) {
     }
 }
 
-TEST_F(Ventanas, UnaVentanaAbreConSitioParaSusTablasYCabeEnLaPantalla) {
-    Cerrar(F());
-    FormaDePrueba::columnas = 100;
-    Abrir("frmPrueba");
-    FormaDePrueba::columnas = 4;
-    EXPECT_LE(Ventana()->width(), Ventana()->screen()->availableSize().width());
+TEST_F(Ventanas, UnaVentanaAbreConSitioParaSusTablas) {
     Abrir("frmParamEsta");
     for (const char* grid : {"grdt", "grdParam"}) {
         const auto& tabla = Widget<QTableView>(*Forma("frmParamEsta").Controls(grid));
@@ -106,21 +101,6 @@ TEST_F(Ventanas, AbrenEnCascadaYUnaPantallaChicaLasMuestraPorPartes) {
     const QWidget& todo = *Ventana("frmDisNormal")->findChild<QScrollArea*>()->widget();
     EXPECT_GT(todo.height(), Ventana("frmDisNormal")->height());
     EXPECT_GE(todo.height(), todo.minimumSizeHint().height());
-}
-
-TEST_F(Ventanas, LoQueEstaJuntoAUnGraficoNoCambiaSinEl) {
-    Abrir("frmDistriFre");
-    Formulario& forma = Forma("frmDistriFre");
-    std::set<int> altos;
-    for (const bool visible : {true, false}) {
-        Hacer([&] {
-            forma.Controls("fraTipoGrafico")->Visible = true;
-            forma.Controls("Graph1")->Visible = visible;
-        });
-        QCoreApplication::processEvents();
-        altos.insert(Widget(*forma.Controls("fraTipoGrafico")).height());
-    }
-    EXPECT_EQ(altos.size(), 1U);
 }
 
 }  // namespace cuencalia::pruebas
