@@ -157,7 +157,9 @@ void FichaCandidatos::Reportar(Reporte& reporte) {
     for (std::size_t f = 0; f < parametros.size(); ++f) {
         const std::string& observacion = grdCandidatos.TextMatrix(static_cast<int>(f), kColumnaObservacion);
         const std::string& valores = grdCandidatos.TextMatrix(static_cast<int>(f), kColumnaParametros);
-        parametros[f].push_back(valores + (valores.empty() || observacion.empty() ? "" : ". ") + observacion);
+        std::string texto = valores;
+        texto += valores.empty() || observacion.empty() ? "" : ". ";
+        parametros[f].push_back(texto += observacion);
     }
     parametros[0].back() = "Parámetros y observación";
     ReportarFilas(reporte, "Parámetros de los candidatos:", parametros);

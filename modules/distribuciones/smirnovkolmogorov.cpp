@@ -39,8 +39,7 @@ Double MayorDelta(const ArregloBase<Double>& delta, int n) {
 }
 
 Double DeltaConParametrosAjustados(DistribucionExacta::Reducida reducida, bool lineales, int n) {
-    const auto columna =
-        static_cast<std::size_t>((reducida == DistribucionExacta::Reducida::Gumbel ? 2 : 0) + (lineales ? 1 : 0));
+    const std::size_t columna = (reducida == DistribucionExacta::Reducida::Gumbel ? 2U : 0U) + (lineales ? 1U : 0U);
     const auto despues = std::find_if(kSimuladas.begin(), kSimuladas.end(), [n](const auto& s) { return s.n >= n; });
     Double c;
     if (despues == kSimuladas.begin() || despues == kSimuladas.end()) {
