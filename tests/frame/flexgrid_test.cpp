@@ -99,13 +99,14 @@ TEST_F(FlexGridTest, FilasYColumnasQueVanYVienen) {
             g.PonerTextMatrix(f, c, std::to_string(10 * f + c));
         }
     }
+    g.PonerRowHeight(0, 400);
     g.PonerRowHeight(2, 500);
     g.PonerColWidth(1, 777);
     g.AddItem("nuevo");
     EXPECT_EQ(Columna(0) + Columna(3), "N°|10|20|nuevo|Z|13|23||");
     g.RemoveItem(1);
     EXPECT_EQ(Columna(0) + Columna(3), "N°|20|nuevo|Z|23||");
-    EXPECT_EQ(g.RowHeight(1), 500) << "a row takes its height along";
+    EXPECT_EQ(g.RowHeight(0) + g.RowHeight(1), 900) << "a row takes its height along";
     g.PonerCols(3);
     g.PonerCols(5);
     EXPECT_EQ(Columna(2) + Columna(3), "Y|22|||||") << "what went does not come back";

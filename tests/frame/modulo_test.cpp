@@ -18,7 +18,7 @@ using namespace std::string_literals;
 constexpr FormatoSerie kArchivoMargen{1, "Crear", "Abrir", "*.M", 1, 1, true, "0.0#", "0.0"};
 
 /// A module of one data column whose files have a trailing record and whose sheets a first row of their own. It reads
-/// into twelve Singles; its grid stands on the second of two tab pages, a box and the results on the first.
+/// into twelve Singles.
 class ModuloFichas : public ModuloCalculo {
   public:
     explicit ModuloFichas(Aplicacion& app)
@@ -39,7 +39,6 @@ class ModuloFichas : public ModuloCalculo {
     }
 
     Arreglo<Single, 1, 12> t;
-    SSTab SSTab1{*this, "SSTab1", {"Resultados", "Datos"}};
     TextBox txta{*this, "txta"}, txtb{*this, "txtb"}, txtr{*this, "txtr"}, txtMargen{*this, "txtMargen"};
     CommandButton bOtro{*this, "bOtro", "Sin orden"}, bExtra{*this, "bExtra", "Extra"};
     Tabla tabla{*this,
@@ -60,9 +59,7 @@ class ModuloFichas : public ModuloCalculo {
         txtr.Text = "listo";
         return true;
     }
-    Disposicion Cuerpo() override {
-        return Fichas(SSTab1, {Columna({txta, txtb, txtr, txtMargen, bExtra, bOtro, tabla}), datos.Zona()});
-    }
+    Disposicion Contenido() override { return Columna({txta, txtb, txtr, txtMargen, bExtra, bOtro, tabla}); }
 };
 
 /// Columns as told; it calculates nothing but the reading of its arrays.
@@ -348,9 +345,7 @@ TEST_F(ModuloTest, ResultadosFallosYLimpieza) {
     Abrir("frmFichas");
     EXPECT_EQ(F().tabla.TextMatrix(1, 1), "(mm)");
     EXPECT_EQ(F().tabla.FixedRows(), 2);
-    app.Despachar([&] { F().datos.grdt.SetFocus(); });
     Teclas("4\n");
-    app.Despachar([&] { F().SSTab1.Tab = 0; });
     app.Pulsar(F().bExtra);
     Teclas("1");
     EXPECT_EQ(F().txta.Text(), "1") << "the box that must be filled has the focus";
@@ -380,27 +375,6 @@ TEST_F(ModuloTest, CajasDeNumeros) {
     Teclas("-1a2..5,e<\n3.4\n");
     EXPECT_EQ(F().txta.Text() + " " + F().txtb.Text(), "12. 34");
     EXPECT_EQ(app.Foco(), &F().bExtra);
-}
-
-// A control on a page behind is out of sight; the focus brings its page to the front, and leaves a page that goes back.
-TEST_F(ModuloTest, Fichas) {
-    Abrir("frmFichas");
-    EXPECT_EQ(F().SSTab1.Tab(), 0) << "building the grid turns no page";
-    EXPECT_EQ(app.Foco(), &F().bCalcular);
-    EXPECT_TRUE(G().EsMostrable() && !G().EsVisible());
-    app.Pulsar(G());
-    EXPECT_NE(app.Foco(), &G()) << "nobody can click what is out of sight";
-    app.Despachar([&] { M().datos.MenorQue2Celdas(); });
-    EXPECT_EQ(F().SSTab1.Tab(), 1);
-    EXPECT_EQ(Tras("3\n"), "Ene,3.0|[->],| @2,1") << "the grid has the focus";
-    app.Despachar([&] { F().SSTab1.Tab = 0; });
-    EXPECT_EQ(app.Foco(), &F().SSTab1) << "what is typed must not go on to the page behind";
-    app.Despachar([&] {
-        F().SSTab1.Tab = 1;
-        F().txtb.SetFocus();
-    });
-    EXPECT_EQ(F().SSTab1.Tab(), 0);
-    EXPECT_EQ(app.Foco(), &F().txtb);
 }
 
 // 1 = 3F800000, 2 = 40000000, 3 = 40400000, 0.1 = 3DCCCCCD, least byte first.

@@ -88,16 +88,11 @@ TEST(Numeros, SubindicesComprobados) {
 }
 
 TEST(Numeros, Rnd) {
-    constexpr int kNumeros = 10000;
-    Randomize(1);
-    double suma = 0;
-    for (int i = 0; i < kNumeros; ++i) {
-        const double u = Rnd().valor();
-        ASSERT_TRUE(u >= 0 && u < 1) << u;
-        suma += u;
+    Double suma = 0;
+    for (int i = 0; i < 10000; ++i) {
+        suma += Rnd();
     }
-    // Five standard errors: u has the variance 1/12.
-    EXPECT_NEAR(suma / kNumeros, 1.0 / 2, 5 * std::sqrt(1.0 / 12 / kNumeros));
+    EXPECT_NEAR(suma.valor(), 5000, 150) << "five standard errors: u has the variance 1/12";
     const auto primero = [](double semilla) { return Randomize(semilla), Rnd(); };
     EXPECT_EQ(primero(43200.25), primero(43200.25));
     EXPECT_NE(primero(43200.25), primero(43200.26)) << "the fraction of the second counts";

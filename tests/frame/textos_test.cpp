@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <locale>
 #include <stdexcept>
 #include <vector>
 
@@ -86,18 +85,6 @@ TEST(Textos, CStrYStr) {
         EXPECT_EQ(Str(valor), texto.front() == '-' ? texto : " " + texto);
     }
     EXPECT_EQ(CStr(Single(0.1F)), "0.1");
-}
-
-class ComaDecimal : public std::numpunct<char> {
-    char do_decimal_point() const override { return ','; }
-    std::string do_grouping() const override { return "\3"; }
-};
-
-TEST(Textos, NoDependenDeLaConfiguracionRegional) {
-    const std::locale anterior = std::locale::global(std::locale(std::locale(), new ComaDecimal));
-    const std::string textos = CStr(Val("1234.5")) + Str(1234.5) + Format(1234.5, "0.0");
-    std::locale::global(anterior);
-    EXPECT_EQ(textos, "1234.5 1234.51234.5");
 }
 
 // The codes at which UTF-8 takes one byte more, and those beside the halves of UTF-16 pairs.

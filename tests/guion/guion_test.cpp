@@ -121,8 +121,6 @@ TEST(GuionTest, OrdenesYLoQueImprimen) {
          Texto("txtDigitos", "124") + Texto("txtDigitos", "9")},
         {"click cmdNum(7);teclas {ENTER};teclas \" \";ver lblDato;opcion opt2;click cmdNum(7);opcion opt2;ver lblDato",
          Texto("lblDato", "dato777") + Texto("lblDato", "dos7")},
-        {"fila 1 2;fila 3 4;menufila mnuEditInsertar 2;ver grdt;menufila mnuEditEliminar 4;ver grdt",
-         Datos(R"([" 1","1.0","2.0"],[" 2","",""],[" 3","3.0","4.0"],["[?]","",""])") + vacia},
         {"poner txtPagina hola;estado txtPagina;ficha SSTab1 0;estado txtPagina",
          Estado("txtPagina", R"(true,"habilitado":true,"foco":true)") +
              Estado("txtPagina", R"(false,"habilitado":true,"foco":false)")},
