@@ -465,6 +465,14 @@ TEST_F(ArchivosModuloTest, FallosCallados) {
     EXPECT_TRUE(M().StatusBar1.Panel(2).starts_with("El registro 2 no es un número")) << M().StatusBar1.Panel(2);
     app.Elegir(M().datos.mnuEditDeshacer);
     EXPECT_EQ(Ver(), " 1,7.0|[->],| @2,1");
+    Teclas("8\n");
+    app.Elegir(M().datos.mnuEditRehacer);
+    EXPECT_EQ(Ver(), " 1,7.0| 2,8.0|[->],| @3,1") << "what was taken back is gone once more is typed";
+    Teclas("5");
+    app.Pulsar(M().bCalcular);
+    EXPECT_TRUE(M().StatusBar1.Panel(2).starts_with("La última fila no se ha confirmado"));
+    app.Elegir(M().datos.mnuEditDeshacer);
+    EXPECT_EQ(M().StatusBar1.Panel(3), "n = 2 · los resultados son anteriores a los datos");
     EXPECT_EQ(TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 32768, '\0'))), "[?],| @1,1");
     TrasPulsar(a.bAccesar, Guardar(ruta, std::string(4 * 1500, '\0')));
     app.Pulsar(M().bCalcular);
@@ -480,6 +488,7 @@ TEST_F(ArchivosModuloTest, FallosCallados) {
     Teclas("1e39\n");
     TrasPulsar(a.bCrear, carpeta / "nueva.X");
     EXPECT_EQ(BytesDe(carpeta / "nueva.X"), kUno) << "beyond a Single: what came before is stored";
+    EXPECT_TRUE(M().StatusBar1.Panel(2).starts_with("El valor 2 no cabe")) << M().StatusBar1.Panel(2);
     EXPECT_EQ(Dicho(), Textos{});
 
     sistema.errorDelDialogo = kDialogoCancelado;
