@@ -42,7 +42,9 @@ class Uso {
     }
     bool EsModulo() const { return forma_ != nullptr; }
 
-    void Llenar() {
+    /// Two series generated at one time of the clock differ: the second goes on where the first ended.
+    void Llenar(double hora) {
+        sistema_.reloj = hora;
         static constexpr double kValores[] = {12, 15.5, 17, 18.2, 21, 23.5, 26, 31, 38, 47, 62, 95};
         app_.Despachar([this] {
             if (auto* receptor = dynamic_cast<RecibeSerie*>(forma_)) {
@@ -175,13 +177,13 @@ TEST(LimpiarTest, UnaVentanaLimpiaEsUnaNueva) {
         if (!usada.EsModulo()) {
             continue;
         }
-        usada.Llenar();
+        usada.Llenar(1);
         usada.Usar();
         usada.Limpiar();
         usada.OlvidarMensajes();
         EsperarIguales(nombre, usada, nueva, "limpia");
-        usada.Llenar();
-        nueva.Llenar();
+        usada.Llenar(2);
+        nueva.Llenar(2);
         EsperarIguales(nombre, usada, nueva, "calculada otra vez");
         ++ventanas;
     }
