@@ -11,6 +11,15 @@ class Series : public FormaEnUso<ModuloCalculo> {
   protected:
     Series() : FormaEnUso("frmAforoCorren") {}
     std::string Texto(const std::string& caja) { return dynamic_cast<TextBox&>(*F().Controls(caja)).Text(); }
+    /// Rows of the value 2, which grows by a step from row to row.
+    void Llenar(int filas, int paso = 0) {
+        F().datos.EmpezarCarga(filas);
+        for (int i = 1; i <= filas; ++i) {
+            for (int c = 1; c <= F().datos.UltimaColumna(); ++c) {
+                F().datos.grdt.PonerTextMatrix(i, c, std::to_string(2 + paso * (i - 1)));
+            }
+        }
+    }
 };
 
 // Three tables end before the arrays do; an isohyet stands behind those of the rows; months are whole years.
@@ -26,12 +35,7 @@ TEST_F(Series, HastaDondeCaben) {
                 if (auto* isoyeta = dynamic_cast<TextBox*>(F().Controls("txtUltimaIsoyeta"))) {
                     isoyeta->Text = "2";
                 }
-                F().datos.EmpezarCarga(filas);
-                for (int i = 1; i <= filas; ++i) {
-                    for (int c = 1; c <= F().datos.UltimaColumna(); ++c) {
-                        F().datos.grdt.PonerTextMatrix(i, c, "2");
-                    }
-                }
+                Llenar(filas);
             });
             app.Pulsar(F().bCalcular);
             EXPECT_EQ(sistema.errores.size() + sistema.mensajes.size(), filas == limite ? 0U : 1U);
@@ -42,6 +46,22 @@ TEST_F(Series, HastaDondeCaben) {
             sistema.errores.clear();
             sistema.mensajes.clear();
         }
+    }
+}
+
+TEST_F(Series, CadaEjeDelGraficoTieneSuRotulo) {
+    for (const auto& [forma, x, y] :
+         {std::tuple("frmCurvaDuracion", "% de días en que Q es mayor o igual al límite inferior", "Q (m3/s)"),
+          std::tuple("frmAnalisisTor", "Tiempo acumulado (min)", "Intensidad (mm/hr)"),
+          std::tuple("frmAforoCorren", "Distancia desde el margen (m)", "Profundidad (m)"),
+          std::tuple("frmVariacionEsta", "Mes", "X")}) {
+        Abrir(forma);
+        app.Despachar([this] { Llenar(24, 1); });
+        app.Pulsar(F().bCalcular);
+        app.Pulsar(*F().Controls("bGraficar"));
+        const auto& grafico = dynamic_cast<GraficoModulo&>(*F().Controls("Graph1"));
+        EXPECT_EQ(grafico.RotuloX(), x);
+        EXPECT_EQ(grafico.RotuloY(), y);
     }
 }
 
