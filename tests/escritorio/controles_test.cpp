@@ -15,6 +15,8 @@ TEST_F(Controles, UnaPropiedadSeVeEnElControl) {
         {[](auto& f) { f.txt1.NombreAccesible = "Media"; }, "txt1", "accessibleName", "Media"},
         {[](auto& f) { f.lbl1.Caption = "a < b"; }, "lbl1", "text", "a < b"},
         {[](auto&) {}, "lbl1", "textFormat", "PlainText"},
+        {[](auto& f) { f.btn1.Caption = "Otro"; }, "btn1", "text", "Otro"},
+        {[](auto&) {}, "cmb2", "editable", false},
         {[](auto& f) { f.opt2.Value = true; }, "opt1", "checked", false},
         {[](auto& f) { f.opt2.Value = false; }, "opt2", "checked", false},
         {[](auto& f) { f.cmb1.Text = "ni uno ni dos"; }, "cmb1", "currentText", "ni uno ni dos"},
@@ -144,6 +146,7 @@ TEST_F(Controles, LoQueElUsuarioEligeLlega) {
     Clic(Widget(F().btn1));
     Tecla(Qt::Key_Return);
     Tecla(Qt::Key_Space);
+    Tecla(Qt::Key_Return, Qt::ControlModifier);  // an order, not a press
     EXPECT_EQ(std::count(F().sucesos.begin(), F().sucesos.end(), "btn1 clic"), 3);
     Clic(Widget(F().opt2), QPoint(8, Widget(F().opt2).height() / 2));
     EXPECT_TRUE(F().opt2.Value);

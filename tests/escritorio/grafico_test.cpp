@@ -49,12 +49,13 @@ class Grafico : public Mesa {
 };
 
 TEST_F(Grafico, UnConjuntoEsUnaLineaPorSusPuntosEnElOrdenEscrito) {
-    Dibujar({{"Exp", {0, 30, 10, 30}, {-2, 5, 7, 18}}, {"", {}, {1, 2, 1e300, 4}}}, {.titulo = "Curva"});
+    Dibujar({{"Exp", {0, 30, 10, 25}, {-2, 5, 7, 18}}, {"", {}, {1, 2, 1e300, 4}}}, {.titulo = "Curva"});
     EXPECT_TRUE(Lienzo().isVisible());
-    EXPECT_EQ(Puntos(0), (Pares{{0, -2}, {30, 5}, {10, 7}, {30, 18}}));
-    EXPECT_EQ(Puntos(1), (Pares{{0, 1}, {30, 2}, {30, 4}})) << "without x at those of the first, no axis reaches 1e300";
+    EXPECT_EQ(Puntos(0), (Pares{{0, -2}, {30, 5}, {10, 7}, {25, 18}}));
+    EXPECT_EQ(Puntos(1), (Pares{{0, 1}, {30, 2}, {25, 4}})) << "without x at those of the first, no axis reaches 1e300";
     EXPECT_EQ(Curva(0).lineStyle(), QCPCurve::lsLine);
     EXPECT_EQ(Lienzo().xAxis->label(), "Curva");
+    EXPECT_TRUE(X().contains(30));
     for (const double y : {-2.0, 18.0}) {
         EXPECT_TRUE(Y().contains(y) && Y().size() < 20 / 0.9) << "all of the data and little more";
     }
