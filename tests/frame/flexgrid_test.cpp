@@ -207,8 +207,8 @@ TEST_F(FlexGridTest, TeclasMuevenLaCeldaYLaDejanALaVista) {
 
     g.PonerEncabezados({"N°", "A", "B"});
     g.PonerTextMatrix(2, 0, " 2");
-    g.PonerCelda(2, 2);
-    g.Seleccionar(3, 1);
+    g.PonerCelda(3, 2);
+    g.Seleccionar(2, 1);
     app.PulsarTecla('C', 0, kControl);
     EXPECT_EQ(sistema.portapapeles, "\t2\n\t3\n");
     EXPECT_EQ(g.TextoSeleccionado(true), "N°\tA\tB\n2\t\t2\n\t\t3\n");
