@@ -193,8 +193,8 @@ class StatusBar : public Control {
     const std::string& Panel(int numero) const;  ///< From 1. Error 9 for a panel that does not exist.
     void PonerPanel(int numero, const std::string& texto);
     int Paneles() const { return static_cast<int>(textos_.size()); }
-    /// Whether the panels beside the first show date and time, which are not told.
-    void PonerHora() { conHora_ = true; }
+    /// Says that the panels beside the first show date and time, which are not told.
+    void DeclararHora() { conHora_ = true; }
     bool Describir(EscritorJson& json) override;
 
   private:

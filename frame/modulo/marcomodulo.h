@@ -104,7 +104,6 @@ class MarcoModulo : public Formulario {
     virtual void AlCalcular() {}
     /// What the user can do about a run-time error that stopped Calcular; empty when nothing is known.
     virtual std::string Consejo(const ErrorEjecucion& /*error*/) const { return {}; }
-    void Vaciar(Momento momento);
     /// Sets the message shown for a run-time error in Calcular. Without it the error goes on to the program's own
     /// handler.
     void AvisarFallos(Aviso aviso) { fallo_ = std::move(aviso); }
@@ -133,6 +132,7 @@ class MarcoModulo : public Formulario {
     };
 
     void AgregarBoton(const BotonConImagen& boton);
+    void Vaciar(Momento momento);
 
     std::vector<BotonNumerado> botones_;
     std::vector<Disposicion> botonesAccion_;

@@ -52,7 +52,7 @@ bool frmDocumento::ConTrabajo() {
 }
 
 frmPadre::frmPadre(Aplicacion& app) : Formulario(app, "frmPadre", "Guardar datos") {
-    sbStatusBar.PonerHora();
+    sbStatusBar.DeclararHora();
     sbStatusBar.PonerPanel(1, "Estado");
     mnuFileNew.Click.Conectar([this] { nuevodoc(); });
     mnuFileOpen.Click.Conectar([this] { mnuFileOpen_Click(); });

@@ -1,6 +1,7 @@
 #include "frame/base/textos.h"
 #include "modules/caudales/fichai.h"
 #include "modules/caudales/intensidadregional.h"
+#include "modules/precipitacion/archivotdi.h"
 #include "modules/precipitacion/ecuacionintensidad.h"
 
 namespace cuencalia {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 
 #include "frame/base/textos.h"
@@ -136,7 +137,8 @@ void FichaCandidatos::Ordenar(Comparacion& c) const {
             const Remuestreo* r = c.Significacion(i);
             clave = kOrdenes[elegido].clave(comparado, r != nullptr ? *r : Remuestreo{});
         }
-        claves.push_back(static_cast<float>(std::isnan(clave) ? HUGE_VAL : clave));
+        constexpr double kMayor = std::numeric_limits<float>::max();
+        claves.push_back(std::isfinite(clave) ? static_cast<float>(std::clamp(clave, -kMayor, kMayor)) : HUGE_VALF);
     }
     std::stable_sort(c.orden.begin(), c.orden.end(),
                      [&claves](std::size_t a, std::size_t b) { return claves[a] < claves[b]; });

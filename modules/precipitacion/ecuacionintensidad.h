@@ -3,14 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "frame/modulo/formatoserie.h"
 #include "modules/regresion/ecuacionesnormales.h"
 
 namespace cuencalia {
-
-/// Series files of return period, duration and intensity.
-inline constexpr FormatoSerie kArchivoTDI{
-    .valores = 3, .rotuloCrear = "Trio valores T,D,I", .rotuloAccesar = "Trio valores T,D,I", .extension = "*.TDI"};
 
 /// Maximum intensities of rain, each for a return period and a duration, numbered from 1.
 struct PuntosIDT {

@@ -1,5 +1,6 @@
 #include "modules/precipitacion/frmIntensidadMax.h"
 
+#include "modules/precipitacion/archivotdi.h"
 #include "modules/regresion/textoecuacion.h"
 
 namespace cuencalia {

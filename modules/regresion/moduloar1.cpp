@@ -58,9 +58,8 @@ ModuloAR1::ModuloAR1(Aplicacion& app, std::string nombre, const std::string& tit
     DeclararBotones({{&bGraficar, "graficar"}}, {{&bCrearExcel, "crear_excel"}});
     DeclararTablas({&grdGenerada});
     DeclararGraficos({&Graph1, &Graph2});
-    for (Campos* campos :
-         {static_cast<Campos*>(&historica), static_cast<Campos*>(&modelo), static_cast<Campos*>(&generada)}) {
-        DeclararResultados(campos->Cajas());
+    for (const auto& cajas : {historica.Cajas(), modelo.Cajas(), generada.Cajas()}) {
+        DeclararResultados(cajas);
     }
     DeclararEntradas({&txtNgen});
     Label3.Nombra(txtNgen);
